@@ -1,0 +1,35 @@
+#include "teskara/core/BoundedText.h"
+
+#include <algorithm>
+#include <cstdarg>
+#include <cstdio>
+#include <cstring>
+
+std::size_t CopyBounded(char* to, std::size_t size, std::string_view from)
+{
+    if (size == 0)
+        return 0;
+
+    const std::size_t length = std::min(from.size(), size - 1);
+    if (length > 0)
+        std::memmove(to, from.data(), length);
+    to[length] = 0;
+    return length;
+}
+
+std::size_t FormatBounded(char* to, std::size_t size, const char* format, ...)
+{
+    if (size == 0)
+        return 0;
+
+    std::va_list arguments;
+    va_start(arguments, format);
+    const int wanted = std::vsnprintf(to, size, format, arguments);
+    va_end(arguments);
+
+    // A result that no int can count is reported as an error, although its beginning stands in the buffer.
+    if (wanted >= 0)
+        return std::min(static_cast<std::size_t>(wanted), size - 1);
+    to[size - 1] = 0;
+    return std::strlen(to);
+}

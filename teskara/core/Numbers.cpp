@@ -1,0 +1,193 @@
+#include "teskara/core/Numbers.h"
+
+#include "teskara/core/BoundedText.h"
+
+#include <algorithm>
+#include <charconv>
+#include <limits>
+
+namespace {
+
+bool IsSpace(char character)
+{
+    return character == ' ' || (character >= '\t' && character <= '\r');
+}
+
+bool IsDigit(char character)
+{
+    return character >= '0' && character <= '9';
+}
+
+// The value of a hexadecimal digit, or 16.
+u32 HexDigit(char character)
+{
+    if (IsDigit(character))
+        return static_cast<u32>(character - '0');
+    if (character >= 'a' && character <= 'f')
+        return static_cast<u32>(character - 'a') + 10;
+    if (character >= 'A' && character <= 'F')
+        return static_cast<u32>(character - 'A') + 10;
+    return 16;
+}
+
+std::string_view WithoutSpace(std::string_view text)
+{
+    while (!text.empty() && IsSpace(text.front()))
+        text.remove_prefix(1);
+    return text;
+}
+
+// Takes a sign off the front; true for a minus.
+bool TakeSign(std::string_view& text)
+{
+    if (text.empty() || (text.front() != '-' && text.front() != '+'))
+        return false;
+
+    const bool negative = text.front() == '-';
+    text.remove_prefix(1);
+    return negative;
+}
+
+// Tells for a number that no double can hold whether it is too large rather than too small, by the decimal place of
+// its first digit that is not 0.
+bool IsTooLarge(std::string_view digits)
+{
+    i64 place = 0;
+    bool pointSeen = false;
+    bool digitSeen = false;
+    std::size_t index = 0;
+    for (; index < digits.size() && (IsDigit(digits[index]) || (digits[index] == '.' && !pointSeen)); ++index) {
+        if (digits[index] == '.') {
+            pointSeen = true;
+            continue;
+        }
+        digitSeen = digitSeen || digits[index] != '0';
+        if (digitSeen && !pointSeen)
+            ++place;
+        else if (!digitSeen && pointSeen)
+            --place;
+    }
+    if (index + 1 >= digits.size())
+        return place > 0;
+
+    std::string_view exponentText = digits.substr(index + 1);
+    const bool negative = TakeSign(exponentText);
+    i64 exponent = 0;
+    for (const char character : exponentText) {
+        if (!IsDigit(character))
+            break;
+        exponent = std::min<i64>(exponent * 10 + (character - '0'), std::numeric_limits<i32>::max());
+    }
+    return place + (negative ? -exponent : exponent) > 0;
+}
+
+std::size_t WriteCut(char* to, std::size_t size, const char* begin, std::to_chars_result result)
+{
+    return CopyBounded(to, size, {begin, static_cast<std::size_t>(result.ptr - begin)});
+}
+
+}
+
+i32 ReadInteger(std::string_view text)
+{
+    text = WithoutSpace(text);
+    const bool negative = TakeSign(text);
+    u32 value = 0;
+    for (const char character : text) {
+        if (!IsDigit(character))
+            break;
+        value = value * 10 + static_cast<u32>(character - '0');
+    }
+    return static_cast<i32>(negative ? 0 - value : value);
+}
+
+double ReadDouble(std::string_view text)
+{
+    text = WithoutSpace(text);
+    const bool negative = TakeSign(text);
+    if (text.empty() || text.front() == '-')
+        return 0;
+
+    double value = 0;
+    const std::from_chars_result result = std::from_chars(text.data(), text.data() + text.size(), value);
+    if (result.ec == std::errc::invalid_argument)
+        return 0;
+    if (result.ec == std::errc::result_out_of_range) {
+        const std::string_view number(text.data(), static_cast<std::size_t>(result.ptr - text.data()));
+        value = IsTooLarge(number) ? std::numeric_limits<double>::infinity() : 0;
+    }
+    return negative ? -value : value;
+}
+
+float ReadFloat(std::string_view text)
+{
+    return static_cast<float>(ReadDouble(text));
+}
+
+bool ReadHex(std::string_view text, u32& value)
+{
+    text = WithoutSpace(text);
+    const bool negative = TakeSign(text);
+    if (text.empty() || HexDigit(text.front()) > 15)
+        return false;
+
+    if (text.size() >= 2 && text[0] == '0' && (text[1] == 'x' || text[1] == 'X'))
+        text.remove_prefix(2);
+    u32 digits = 0;
+    for (const char character : text) {
+        const u32 digit = HexDigit(character);
+        if (digit > 15)
+            break;
+        digits = digits << 4 | digit;
+    }
+    value = negative ? 0 - digits : digits;
+    return true;
+}
+
+i32 TruncateToI32(double value)
+{
+    // Written so that a value that is not a number fails the test.
+    if (value > -2147483649.0 && value < 2147483648.0)
+        return static_cast<i32>(value);
+    return std::numeric_limits<i32>::min();
+}
+
+u32 TruncateToU32(double value)
+{
+    if (value >= -9223372036854775808.0 && value < 9223372036854775808.0)
+        return static_cast<u32>(static_cast<u64>(static_cast<i64>(value)));
+    return 0;
+}
+
+u8 TruncateToByte(double value)
+{
+    if (!(value > 0))
+        return 0;
+    return value < 255 ? static_cast<u8>(value) : u8 {255};
+}
+
+std::size_t WriteInteger(char* to, std::size_t size, i64 value)
+{
+    char digits[32];
+    return WriteCut(to, size, digits, std::to_chars(digits, digits + sizeof digits, value));
+}
+
+std::size_t WriteFloat(char* to, std::size_t size, float value)
+{
+    char digits[64];
+    return WriteCut(to, size, digits, std::to_chars(digits, digits + sizeof digits, value));
+}
+
+std::size_t WriteDouble(char* to, std::size_t size, double value)
+{
+    char digits[64];
+    return WriteCut(to, size, digits, std::to_chars(digits, digits + sizeof digits, value));
+}
+
+std::size_t WriteFixed(char* to, std::size_t size, double value, int decimals)
+{
+    char digits[400]; // the largest double has 309 digits before its point
+    const int places = std::clamp(decimals, 0, 64);
+    return WriteCut(
+        to, size, digits, std::to_chars(digits, digits + sizeof digits, value, std::chars_format::fixed, places));
+}
