@@ -1,0 +1,201 @@
+#include "teskara/core/HostCalls.h"
+
+#include "teskara/core/BoundedText.h"
+#include "teskara/core/Limits.h"
+
+#include <cmath>
+#include <cstdarg>
+#include <cstdio>
+
+namespace Host {
+
+HostObject* g_Host = nullptr;
+HostScriptInterface* g_ScriptHost = nullptr;
+
+namespace {
+
+constexpr std::size_t HostPathSize = 4096;
+
+using FindFile = bool (HostInterface::*)(const char* name, char* path);
+
+// Gives the host a buffer larger than it needs, and takes of the answer what fits.
+bool FindPath(FindFile find, const char* name, char* path, std::size_t size) noexcept
+{
+    char answer[HostPathSize + 1] = {};
+    if (!Call(false, [&](HostObject& host) { return (host.*find)(name, answer); }))
+        return false;
+
+    answer[HostPathSize] = 0;
+    CopyBounded(path, size, answer);
+    return true;
+}
+
+} // namespace
+
+void PrintLine(const char* format, ...) noexcept
+{
+    if (!g_Host)
+        return;
+
+    char line[8192];
+    va_list arguments;
+    va_start(arguments, format);
+    std::vsnprintf(line, sizeof(line), format, arguments);
+    va_end(arguments);
+    Call([&](HostObject& host) { host.PrintLine("%s", line); });
+}
+
+u32 CompileAtom(const std::string& source) noexcept
+{
+    return Call(u32 {0},
+        [&](HostObject& host) { return host.CompileAtom(source.c_str(), static_cast<u32>(source.size())); });
+}
+
+void ReleaseAtom(u32 atom) noexcept
+{
+    Call([&](HostObject& host) { host.ReleaseAtom(atom); });
+}
+
+int ExecuteAtom(u32 atom, int argc, char** argv, _MvTypeVar* self) noexcept
+{
+    return Call(0, [&](HostObject& host) { return host.ExecuteAtom(atom, 0, argc, argv, self); });
+}
+
+u32 FindAtom(const char* name) noexcept
+{
+    return Call(u32 {0}, [&](HostObject& host) { return host.FindAtom(name); });
+}
+
+int ExecuteCommand(const char* text) noexcept
+{
+    return Call(0, [&](HostObject& host) { return host.ExecuteCommand(text); });
+}
+
+void DataParse(const char* text, char* output, u32 size) noexcept
+{
+    output[0] = 0;
+    Call([&](HostObject& host) { host.DataParse(text, output, size); });
+    output[size - 1] = 0;
+}
+
+u32 PreParseSequence(const char* text, u32 keep) noexcept
+{
+    return Call(u32 {0}, [&](HostObject& host) { return host.PreParseSequence(text, keep); });
+}
+
+bool RetrieveOriginalText(u32 sequence, char* buffer, u32 size) noexcept
+{
+    if (size == 0)
+        return false;
+
+    buffer[0] = 0;
+    const bool done = Call(false, [&](HostObject& host) { return host.RetrieveOriginalText(sequence, buffer, size); });
+    buffer[size - 1] = 0;
+    return done;
+}
+
+bool RetrieveProcessedText(u32 sequence, char* buffer, u32 size) noexcept
+{
+    if (size == 0)
+        return false;
+
+    buffer[0] = 0;
+    const bool done = Call(false, [&](HostObject& host) { return host.RetrieveProcessedText(sequence, buffer, size); });
+    buffer[size - 1] = 0;
+    return done;
+}
+
+bool RetrieveProcessedResult(u32 sequence, _MvTypeVar& result) noexcept
+{
+    return Call(false, [&](HostObject& host) { return host.RetrieveProcessedResult(sequence, result); });
+}
+
+void FreeSequence(u32 sequence) noexcept
+{
+    Call([&](HostObject& host) { host.FreeSequence(sequence); });
+}
+
+bool Calculate(const char* text, double& result) noexcept
+{
+    result = 0;
+    return Call(false, [&](HostObject& host) { return host.Calculate(text, result); });
+}
+
+bool GetKeyName(u32 key, char* buffer, u32 size) noexcept
+{
+    buffer[0] = 0;
+    const bool done = Call(false, [&](HostObject& host) { return host.GetKeyName(key, buffer, size); });
+    buffer[size - 1] = 0;
+    return done;
+}
+
+bool LocateFile(const char* name, char* path, std::size_t size) noexcept
+{
+    return FindPath(&HostInterface::LocateFile, name, path, size);
+}
+
+bool FindResourceFile(const char* name, char* path, std::size_t size) noexcept
+{
+    return FindPath(&HostInterface::FindResourceFile, name, path, size);
+}
+
+void InvalidateObject(u32 classID, void* object) noexcept
+{
+    Call([&](HostObject& host) { host.InvalidateObject(classID, object); });
+}
+
+void SaveElementPosition(TeskElement* element) noexcept
+{
+    Call([&](HostObject& host) { host.SaveElementPosition(element); });
+}
+
+void LoadElementPosition(TeskElement* element) noexcept
+{
+    Call([&](HostObject& host) { host.LoadElementPosition(element); });
+}
+
+u32 CreateFontResource(const char* name, u8 height, bool fixed, bool bold) noexcept
+{
+    return Call(u32 {0}, [&](HostObject& host) { return host.CreateFontResource(name, height, fixed, bold); });
+}
+
+void ReleaseFontResource(u32 font) noexcept
+{
+    Call([&](HostObject& host) { host.ReleaseFontResource(font); });
+}
+
+u32 LoadTextureResource(const char* path, u32 colorKey) noexcept
+{
+    return Call(u32 {0}, [&](HostObject& host) { return host.LoadTextureResource(path, colorKey); });
+}
+
+bool GetTextureResourceSize(u32 texture, _Point2i& size) noexcept
+{
+    return Call(false, [&](HostObject& host) { return host.GetTextureResourceSize(texture, size); });
+}
+
+void ReleaseTextureResource(u32 texture) noexcept
+{
+    Call([&](HostObject& host) { host.ReleaseTextureResource(texture); });
+}
+
+bool GetDisplaySize(int& width, int& height) noexcept
+{
+    width = 0;
+    height = 0;
+    return Call(false, [&](HostObject& host) { return host.GetDisplaySize(width, height); });
+}
+
+bool GetGlyphAdvance(u32 font, u32 character, float& advance) noexcept
+{
+    float before = 0;
+    float glyph = 0;
+    float after = 0;
+    const bool done = Call(false, [&](HostObject& host) {
+        return host.GetGlyphMetrics(font, character, character, &before, &glyph, &after);
+    });
+    advance = before + glyph + after;
+    return done && !std::isnan(advance);
+}
+
+} // namespace Host

@@ -1,0 +1,102 @@
+#pragma once
+
+#include "teskara/core/CUIManager.h"
+#include "teskara/core/Export.h"
+#include "teskara/core/Types.h"
+#include "teskara/core/utf8string.h"
+
+#include <new>
+#include <unordered_map>
+
+class TeskElement;
+class XMLNode;
+
+// Ends elements of one kind.
+class TESKARA_EXPORT TeskElementDeleter
+{
+public:
+    virtual ~TeskElementDeleter() = default;
+
+    // Tells the element, takes it out of its parent's list and destroys it.
+    virtual void Delete(TeskElement* element);
+};
+
+// Makes and ends the elements of one kind and knows those that live. A host adds a kind of its own with
+//
+//     TeskFactory<MyElement> factory("mykind");
+//
+// whose end, before the library's, deletes what is left of that kind.
+class TESKARA_EXPORT TeskElementFactory
+{
+public:
+    TeskElementFactory() = default;
+    virtual ~TeskElementFactory();
+    TeskElementFactory(const TeskElementFactory&) = delete;
+    TeskElementFactory& operator=(const TeskElementFactory&) = delete;
+
+    // Makes an element under parent, which may be null. Null: it could not be made.
+    virtual TeskElement* Create(TeskElement* parent, const char* name) = 0;
+
+    // The same, and reads it from markup.
+    virtual TeskElement* Create(TeskElement* parent, const char* name, XMLNode* node, const char* templateName) = 0;
+
+    // An element has died.
+    virtual void RemoveInstance(TeskElement* element);
+
+    // Enters the factory under the name, in lower case. A version other than TeskaraVersion is refused with a line.
+    void Register(const char* name, unsigned int version);
+
+    // Takes it out again, if it still is the one of that name.
+    void Unregister();
+
+    // The kind word; null while the factory is not registered.
+    const char* GetName() const { return m_Name ? m_Name->c_str() : nullptr; }
+    TeskElementDeleter& Deleter() { return m_Deleter; }
+
+protected:
+    // Deletes all that live and unregisters. Called by the end of each concrete factory.
+    void TearDown();
+
+    // Whether an element may be made there now: not while the tree is torn down, too deep, or under a dying parent.
+    static bool MayCreate(TeskElement* parent);
+
+    // Enters a new element without markup; null stays null.
+    TeskElement* Enter(TeskElement* element);
+
+    // Reads a new element from its node and enters it, or removes it again and gives null.
+    TeskElement* ReadAndEnter(TeskElement* element, XMLNode* node, const char* templateName);
+
+private:
+    std::unordered_map<TeskElement*, bool> m_Instances;
+    TeskElementDeleter m_Deleter;
+    std::unique_ptr<utf8string> m_Name;
+};
+
+// The factory of one element class, which is made from (kind word, parent, name).
+template <class T>
+class TeskFactory : public TeskElementFactory
+{
+public:
+    explicit TeskFactory(const char* name, unsigned int version = TeskaraVersion) { Register(name, version); }
+    ~TeskFactory() override { TearDown(); }
+
+    TeskElement* Create(TeskElement* parent, const char* name) override { return Enter(Construct(parent, name)); }
+
+    TeskElement* Create(TeskElement* parent, const char* name, XMLNode* node, const char* templateName) override
+    {
+        return ReadAndEnter(Construct(parent, name), node, templateName);
+    }
+
+private:
+    TeskElement* Construct(TeskElement* parent, const char* name)
+    {
+        if (!MayCreate(parent))
+            return nullptr;
+
+        try {
+            return new T(GetName(), parent, name);
+        } catch (...) {
+            return nullptr;
+        }
+    }
+};
