@@ -2,6 +2,7 @@
 
 #include "teskara/core/CWinLock.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <vector>
 
@@ -12,7 +13,7 @@ class CIndex
 {
 public:
     explicit CIndex(std::size_t growth = 10)
-        : m_Growth(growth)
+        : m_Growth(growth > 0 ? growth : 1)
     {
     }
 
@@ -23,6 +24,7 @@ public:
         if (slot == m_Slots.size())
             m_Slots.resize(m_Slots.size() + m_Growth, nullptr);
         m_Slots[slot] = entry;
+        m_NoneFreeBelow = entry ? slot + 1 : slot;
         return slot;
     }
 
@@ -32,8 +34,12 @@ public:
     // Beyond the end nothing happens. Null frees the slot.
     void Set(std::size_t slot, T* entry)
     {
-        if (slot < m_Slots.size())
-            m_Slots[slot] = entry;
+        if (slot >= m_Slots.size())
+            return;
+
+        m_Slots[slot] = entry;
+        if (!entry)
+            m_NoneFreeBelow = std::min(m_NoneFreeBelow, slot);
     }
 
     // Number of slots, the free ones included.
@@ -42,16 +48,17 @@ public:
     CriticalSection& Section() { return m_Section; }
 
 private:
+    // Slots below the mark are taken, so that filling a table of any length passes each slot once.
     std::size_t FirstFree() const
     {
-        for (std::size_t slot = 0; slot < m_Slots.size(); ++slot) {
-            if (!m_Slots[slot])
-                return slot;
-        }
-        return m_Slots.size();
+        std::size_t slot = m_NoneFreeBelow;
+        while (slot < m_Slots.size() && m_Slots[slot])
+            ++slot;
+        return slot;
     }
 
     std::size_t m_Growth;
+    std::size_t m_NoneFreeBelow = 0;
     std::vector<T*> m_Slots;
     CriticalSection m_Section;
 };

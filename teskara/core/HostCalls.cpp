@@ -198,4 +198,71 @@ bool GetGlyphAdvance(u32 font, u32 character, float& advance) noexcept
     return done && !std::isnan(advance);
 }
 
+MvTypeDefinition* FindType(const char* name) noexcept
+{
+    return Call<MvTypeDefinition*>(nullptr, [&](HostObject& host) { return host.FindType(name); });
+}
+
+void AddType(MvTypeDefinition* type) noexcept
+{
+    Call([&](HostObject& host) { host.AddType(type); });
+}
+
+void RemoveType(MvTypeDefinition* type) noexcept
+{
+    Call([&](HostObject& host) { host.RemoveType(type); });
+}
+
+u32 RegisterObjectClass(const char* name) noexcept
+{
+    return Call(u32 {0}, [&](HostObject& host) { return host.RegisterObjectClass(name); });
+}
+
+void SetTypeObjectClass(MvTypeDefinition* type, u32 classID) noexcept
+{
+    Call([&](HostObject& host) { host.SetTypeObjectClass(type, classID); });
+}
+
+void AddTopLevelObject(const char* name, TopLevelObjectHandler handler) noexcept
+{
+    Call([&](HostObject& host) { host.AddTopLevelObject(name, handler); });
+}
+
+void RemoveTopLevelObject(const char* name) noexcept
+{
+    Call([&](HostObject& host) { host.RemoveTopLevelObject(name); });
+}
+
+void AddCommand(const char* name, CommandHandler handler) noexcept
+{
+    constexpr int parse = 1;
+    constexpr int hidden = 0;
+    Call([&](HostObject& host) { host.AddCommand(name, handler, parse, hidden); });
+}
+
+void RemoveCommand(const char* name) noexcept
+{
+    Call([&](HostObject& host) { host.RemoveCommand(name); });
+}
+
+HostScript* GetCurrentScript() noexcept
+{
+    return Call<HostScript*>(nullptr, [&](HostObject& host) { return host.GetCurrentScript(); });
+}
+
+const char* GetScriptName(const HostScript& script) noexcept
+{
+    return TextOrEmpty(Call<const char*>(nullptr, [&](HostObject&) { return script.GetName(); }));
+}
+
+bool IsInsideAtom(const HostScript& script) noexcept
+{
+    return Call(false, [&](HostObject&) { return script.IsInsideAtom(); });
+}
+
+const char* GetUserInput(const HostScript& script) noexcept
+{
+    return Call<const char*>(nullptr, [&](HostObject&) { return script.GetUserInput(); });
+}
+
 } // namespace Host

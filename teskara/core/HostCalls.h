@@ -134,4 +134,23 @@ inline int MeasureText(u32 font, const char* text, int width) noexcept
     return width < 0 ? 0 : width;
 }
 
+// --- Types, objects and commands
+
+MvTypeDefinition* FindType(const char* name) noexcept;
+void AddType(MvTypeDefinition* type) noexcept;
+void RemoveType(MvTypeDefinition* type) noexcept;
+u32 RegisterObjectClass(const char* name) noexcept;
+void SetTypeObjectClass(MvTypeDefinition* type, u32 classID) noexcept;
+void AddTopLevelObject(const char* name, TopLevelObjectHandler handler) noexcept;
+void RemoveTopLevelObject(const char* name) noexcept;
+void AddCommand(const char* name, CommandHandler handler) noexcept;
+void RemoveCommand(const char* name) noexcept;
+
+// --- The running script, and what it tells of itself. A script whose operations throw has no name and no answer.
+
+HostScript* GetCurrentScript() noexcept;
+const char* GetScriptName(const HostScript& script) noexcept; // never null
+bool IsInsideAtom(const HostScript& script) noexcept;
+const char* GetUserInput(const HostScript& script) noexcept; // null: no answer
+
 } // namespace Host

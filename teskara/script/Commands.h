@@ -1,0 +1,5 @@
+#pragma once
+
+// The commands UI, UIElement, MessageBox and InputBox.
+void RegisterCommands();
+void RemoveCommands();

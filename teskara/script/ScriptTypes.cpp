@@ -1,0 +1,183 @@
+#include "teskara/script/ScriptTypes.h"
+
+#include "teskara/core/CUIManager.h"
+#include "teskara/core/HostCalls.h"
+#include "teskara/script/ToolkitType.h"
+#include "teskara/script/TypeGlobals.h"
+
+#include <iterator>
+#include <memory>
+#include <new>
+
+MvTypeDefinition* pTeskaraType = nullptr;
+MvTypeDefinition* pTeskElementType = nullptr;
+MvTypeDefinition* pTeskFrameType = nullptr;
+MvTypeDefinition* pTeskListBoxItemType = nullptr;
+MvTypeDefinition* pTeskListBoxType = nullptr;
+MvTypeDefinition* pTeskButtonType = nullptr;
+MvTypeDefinition* pTeskCheckBoxType = nullptr;
+MvTypeDefinition* pTeskComboBoxType = nullptr;
+MvTypeDefinition* pTeskConsoleType = nullptr;
+MvTypeDefinition* pTeskFontType = nullptr;
+MvTypeDefinition* pTeskGaugeType = nullptr;
+MvTypeDefinition* pTeskHudElementType = nullptr;
+MvTypeDefinition* pTeskMapBlipType = nullptr;
+MvTypeDefinition* pTeskMapType = nullptr;
+MvTypeDefinition* pTeskMessageBoxType = nullptr;
+MvTypeDefinition* pTeskScrollBarType = nullptr;
+MvTypeDefinition* pTeskSliderType = nullptr;
+MvTypeDefinition* pTeskTabType = nullptr;
+MvTypeDefinition* pTeskTabControlType = nullptr;
+MvTypeDefinition* pTeskTextType = nullptr;
+MvTypeDefinition* pTeskTextEditType = nullptr;
+MvTypeDefinition* pTeskTextEntryType = nullptr;
+MvTypeDefinition* pTeskTextureType = nullptr;
+MvTypeDefinition* pTeskTooltipType = nullptr;
+MvTypeDefinition* pTeskTreeNodeType = nullptr;
+MvTypeDefinition* pTeskTreeType = nullptr;
+MvTypeDefinition* pTeskWindowType = nullptr;
+
+MvTypeDefinition* pStringType = nullptr;
+MvTypeDefinition* pIntType = nullptr;
+MvTypeDefinition* pInt64Type = nullptr;
+MvTypeDefinition* pBoolType = nullptr;
+MvTypeDefinition* pFloatType = nullptr;
+MvTypeDefinition* pPoint3fType = nullptr;
+MvTypeDefinition* pFilePathType = nullptr;
+MvTypeDefinition* pUintType = nullptr;
+
+namespace {
+
+// Makes a type with all its names. Throws when there is no memory.
+using TypeMaker = std::unique_ptr<MvTypeDefinition> (*)(const char* name);
+
+// A type whose members and methods are still to be written: it answers what its base answers.
+std::unique_ptr<MvTypeDefinition> Nameless(const char* name)
+{
+    return std::make_unique<ToolkitType>(name);
+}
+
+// Its one member is known and never has a value.
+std::unique_ptr<MvTypeDefinition> MessageBox(const char* name)
+{
+    auto type = std::make_unique<ToolkitType>(name);
+    if (!type->AddMember(0, "Type", nullptr))
+        throw std::bad_alloc();
+    return type;
+}
+
+struct HostTypeRow {
+    const char* Name;
+    MvTypeDefinition** Type;
+};
+
+constexpr HostTypeRow HostTypes[] = {
+    {"string", &pStringType},
+    {"int", &pIntType},
+    {"int64", &pInt64Type},
+    {"bool", &pBoolType},
+    {"float", &pFloatType},
+    {"point3f", &pPoint3fType},
+    {"filepath", &pFilePathType},
+    {"uint", &pUintType},
+};
+
+struct TypeRow {
+    const char* Name;
+    MvTypeDefinition** Type;
+    MvTypeDefinition** Base; // null for none
+    TypeMaker Make;
+};
+
+// In the order in which hosts see them come and go. The bases are what scripts see; they are not those of the classes.
+constexpr TypeRow Types[] = {
+    {"teskara", &pTeskaraType, nullptr, Nameless},
+    {"teskelement", &pTeskElementType, nullptr, Nameless},
+    {"teskframe", &pTeskFrameType, &pTeskElementType, Nameless},
+    {"tesklistboxitem", &pTeskListBoxItemType, nullptr, Nameless},
+    {"tesklistbox", &pTeskListBoxType, &pTeskElementType, Nameless},
+    {"teskbutton", &pTeskButtonType, &pTeskElementType, Nameless},
+    {"teskcheckbox", &pTeskCheckBoxType, &pTeskElementType, Nameless},
+    {"teskcombobox", &pTeskComboBoxType, &pTeskListBoxType, Nameless},
+    {"teskconsole", &pTeskConsoleType, &pTeskFrameType, Nameless},
+    {"teskfont", &pTeskFontType, nullptr, Nameless},
+    {"teskgauge", &pTeskGaugeType, &pTeskFrameType, Nameless},
+    {"teskhudelement", &pTeskHudElementType, &pTeskElementType, Nameless},
+    {"teskmapblip", &pTeskMapBlipType, &pTeskFrameType, Nameless},
+    {"teskmap", &pTeskMapType, &pTeskElementType, Nameless},
+    {"teskmessagebox", &pTeskMessageBoxType, &pTeskElementType, MessageBox},
+    {"teskscrollbar", &pTeskScrollBarType, &pTeskElementType, Nameless},
+    {"teskslider", &pTeskSliderType, &pTeskElementType, Nameless},
+    {"tesktab", &pTeskTabType, &pTeskFrameType, Nameless},
+    {"tesktabcontrol", &pTeskTabControlType, &pTeskFrameType, Nameless},
+    {"tesktext", &pTeskTextType, &pTeskElementType, Nameless},
+    {"tesktextedit", &pTeskTextEditType, &pTeskElementType, Nameless},
+    {"tesktextentry", &pTeskTextEntryType, &pTeskElementType, Nameless},
+    {"tesktexture", &pTeskTextureType, nullptr, Nameless},
+    {"tesktooltip", &pTeskTooltipType, &pTeskFrameType, Nameless},
+    {"tesktreenode", &pTeskTreeNodeType, nullptr, Nameless},
+    {"tesktree", &pTeskTreeType, &pTeskFrameType, Nameless},
+    {"teskwindow", &pTeskWindowType, &pTeskFrameType, Nameless},
+};
+static_assert(std::size(Types) == 27);
+
+// Set before the host is asked anything, so that a host that starts the toolkit again meanwhile gets no second types.
+bool g_Registered = false;
+
+void RegisterType(const TypeRow& row)
+{
+    try {
+        *row.Type = row.Make(row.Name).release();
+    } catch (const std::bad_alloc&) {
+        return;
+    }
+
+    MvTypeDefinition* type = *row.Type;
+    type->SetBase(row.Base ? *row.Base : nullptr);
+    Host::AddType(type);
+    if (*row.Type == type) // the host may have shut the toolkit down
+        Host::SetTypeObjectClass(type, g_UIManager.ObjectClass);
+}
+
+void RemoveType(const TypeRow& row)
+{
+    if (!*row.Type)
+        return;
+
+    Host::RemoveType(*row.Type);
+    const std::unique_ptr<MvTypeDefinition> owned(*row.Type);
+    *row.Type = nullptr;
+
+    // Bases go before the types that inherit from them, which the host may still ask until it is their turn.
+    for (const TypeRow& other : Types) {
+        if (*other.Type && other.Base == row.Type)
+            (*other.Type)->SetBase(nullptr);
+    }
+}
+
+} // namespace
+
+void RegisterScriptTypes()
+{
+    if (g_Registered || !Host::g_Host)
+        return;
+
+    g_Registered = true;
+    for (const HostTypeRow& row : HostTypes)
+        *row.Type = Host::FindType(row.Name);
+
+    g_UIManager.ObjectClass = Host::RegisterObjectClass("Teskara");
+    for (const TypeRow& row : Types) {
+        if (g_Registered)
+            RegisterType(row);
+    }
+}
+
+void RemoveScriptTypes()
+{
+    for (const TypeRow& row : Types)
+        RemoveType(row);
+    for (const HostTypeRow& row : HostTypes)
+        *row.Type = nullptr;
+    g_Registered = false;
+}

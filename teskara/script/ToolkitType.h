@@ -1,0 +1,18 @@
+#pragma once
+
+#include "teskara/script/MvTypeDefinition.h"
+
+// A script type of the toolkit. What it has no name for goes to its base, on the same value. Its values stand for
+// objects of the toolkit's and cannot be made from text.
+class ToolkitType : public MvTypeDefinition
+{
+public:
+    using MvTypeDefinition::MvTypeDefinition;
+
+    bool FromText(MvValue& value, const char* text) override;
+    int UnknownMember(MvValue value, const char* name, int argc, char** argv, _MvTypeVar& result) override;
+    int UnknownMethod(MvValue value, const char* name, int argc, char** argv) override;
+
+    // What the base's index operation gives. Nothing asks for it: an index on a value of the toolkit's is unknown.
+    virtual int BaseIndex(MvValue value, int argc, char** argv, _MvTypeVar& result);
+};
