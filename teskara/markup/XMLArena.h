@@ -1,0 +1,158 @@
+#pragma once
+
+#include "teskara/core/AsciiCase.h"
+#include "teskara/core/Types.h"
+#include "teskara/markup/XMLAttribute.h"
+#include "teskara/markup/XMLNode.h"
+
+#include <cstddef>
+#include <cstring>
+#include <new>
+#include <string_view>
+
+// A text in an arena: terminated, and good as long as the arena. Null text: memory ran out.
+struct XMLText {
+    const char* Text = nullptr;
+    u32 Length = 0;
+
+    std::string_view View() const { return {Text, Length}; }
+};
+
+// The memory of one tree: a few blocks in which texts grow from the front and nodes from the back. Nothing is given
+// back before all is. Operations answer null if memory ran out and throw nothing.
+class XMLArena
+{
+public:
+    // Makes an arena whose first block has room for bytes. It holds the arena itself too.
+    static XMLArena* Create(std::size_t bytes);
+    void Destroy();
+
+    // The arena that a node lives in.
+    static XMLArena& Of(const XMLNode& node);
+
+    // What a node, an attribute and a text take, to make a first block that everything fits into.
+    static std::size_t BytesForNode() { return sizeof(XMLNode); }
+    static std::size_t BytesForAttribute() { return sizeof(XMLAttribute); }
+    static std::size_t BytesForText(std::size_t length) { return length + 1; }
+
+    // A node without links, or as the last child of parent.
+    XMLNode* NewNode(XMLText name, u32 type);
+    XMLNode* NewNode(XMLText name, u32 type, XMLNode& parent);
+    static void LinkLast(XMLNode& child, XMLNode& parent);
+
+    // An attribute in no list.
+    XMLAttribute* NewAttribute(XMLText name, XMLText value);
+
+    XMLText Store(std::string_view text);
+
+    // Stores UTF-16 units as UTF-8. Behind the units there must be ReadAhead more that can be read.
+    XMLText Store(std::u16string_view units);
+
+    // The node that the arena was made for. Deleting it frees the arena.
+    const XMLNode* First = nullptr;
+
+    static constexpr std::size_t ReadAhead = 16;
+
+private:
+    // A text is written in steps of 16 bytes, so that many may be touched behind its end.
+    static constexpr std::size_t Slack = 16;
+    static constexpr std::size_t LargestBlock = 64 * 1024 - 64;
+
+    struct Block {
+        XMLArena* Owner;
+        Block* Next;
+    };
+
+    static Block* AllocateBlock(std::size_t bytes);
+    void Use(Block* block, std::size_t used, std::size_t bytes);
+    bool AddBlock();
+    char* RoomForText(std::size_t bytes);
+    char* RoomForLongText(std::size_t bytes);
+    void* RoomForObject(std::size_t bytes);
+    XMLText StoreAnyUnits(std::u16string_view units);
+
+    std::size_t Room() const { return static_cast<std::size_t>(m_ObjectsBegin - m_TextsEnd); }
+
+    Block* m_Blocks = nullptr; // all of them, the one in use first
+    char* m_TextsEnd = nullptr;
+    char* m_ObjectsBegin = nullptr;
+    std::size_t m_NextBlockBytes = 0;
+};
+
+// Narrows count units to bytes in steps of 16, reading and writing up to 15 too many. False if one of the units that
+// were read is not ASCII; what was written is then of no use.
+inline bool NarrowAscii(const char16_t* units, std::size_t count, char* to)
+{
+    u64 all = 0;
+    for (std::size_t done = 0; done < count; done += 16) {
+        char16_t wide[16];
+        char narrow[16];
+        u64 words[4];
+        std::memcpy(wide, units + done, sizeof wide);
+        std::memcpy(words, units + done, sizeof words);
+        for (std::size_t index = 0; index < 16; ++index)
+            narrow[index] = static_cast<char>(wide[index]);
+        all |= (words[0] | words[1]) | (words[2] | words[3]);
+        std::memcpy(to + done, narrow, sizeof narrow);
+    }
+    return (all & 0xFF80FF80FF80FF80u) == 0;
+}
+
+inline void* XMLArena::RoomForObject(std::size_t bytes)
+{
+    if (Room() < bytes + Slack && !AddBlock())
+        return nullptr;
+    m_ObjectsBegin -= bytes;
+    return m_ObjectsBegin;
+}
+
+inline char* XMLArena::RoomForText(std::size_t bytes)
+{
+    if (bytes + Slack > Room())
+        return RoomForLongText(bytes);
+    char* const text = m_TextsEnd;
+    m_TextsEnd += bytes;
+    return text;
+}
+
+inline XMLNode* XMLArena::NewNode(XMLText name, u32 type)
+{
+    void* const room = name.Text ? RoomForObject(sizeof(XMLNode)) : nullptr;
+    if (!room)
+        return nullptr;
+
+    XMLNode* const node = ::new (room) XMLNode(name.Text, name.Length, type);
+    node->m_PlaceInBlock = static_cast<u32>((static_cast<char*>(room) - reinterpret_cast<char*>(m_Blocks)) / 8);
+    if (type == XMLElementNode)
+        node->NameHash = FoldedHash(name.View());
+    return node;
+}
+
+inline XMLNode* XMLArena::NewNode(XMLText name, u32 type, XMLNode& parent)
+{
+    XMLNode* const node = NewNode(name, type);
+    if (node)
+        LinkLast(*node, parent);
+    return node;
+}
+
+inline void XMLArena::LinkLast(XMLNode& child, XMLNode& parent)
+{
+    child.Parent = &parent;
+    child.Prev = parent.LastChild;
+    (parent.LastChild ? parent.LastChild->Next : parent.FirstChild) = &child;
+    parent.LastChild = &child;
+}
+
+inline XMLText XMLArena::Store(std::u16string_view units)
+{
+    if (units.size() + Slack + 1 > Room())
+        return StoreAnyUnits(units);
+    if (!NarrowAscii(units.data(), units.size(), m_TextsEnd))
+        return StoreAnyUnits(units);
+
+    char* const text = m_TextsEnd;
+    text[units.size()] = 0;
+    m_TextsEnd += units.size() + 1;
+    return {text, static_cast<u32>(units.size())};
+}

@@ -1,0 +1,45 @@
+#include "teskara/markup/XMLAttributeList.h"
+
+#include "teskara/core/Limits.h"
+
+void XMLAttributeList::Begin(XMLNode& node)
+{
+    m_Node = &node;
+    m_Last = nullptr;
+    m_Count = 0;
+    m_Index.clear();
+}
+
+bool XMLAttributeList::Set(XMLArena& arena, XMLText name, XMLText value)
+{
+    if (!name.Text || !value.Text)
+        return false;
+    if (XMLAttribute* const known = Find(name.View())) {
+        known->Value = value.Text;
+        return true;
+    }
+    if (m_Count == Limits::NodeAttributes)
+        return false;
+
+    XMLAttribute* const attribute = arena.NewAttribute(name, value);
+    if (!attribute)
+        return false;
+    (m_Last ? m_Last->Next : m_Node->Attributes) = attribute;
+    m_Last = attribute;
+    ++m_Count;
+    if (!m_Index.empty())
+        m_Index.emplace(attribute->Name, attribute);
+    return true;
+}
+
+XMLAttribute* XMLAttributeList::Find(std::string_view name)
+{
+    if (m_Count < WalkedAtMost)
+        return m_Node->FindAttribute(name);
+
+    if (m_Index.empty())
+        for (XMLAttribute* attribute = m_Node->Attributes; attribute; attribute = attribute->Next)
+            m_Index.emplace(attribute->Name, attribute);
+    const auto found = m_Index.find(name);
+    return found != m_Index.end() ? found->second : nullptr;
+}

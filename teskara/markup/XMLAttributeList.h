@@ -1,0 +1,35 @@
+#pragma once
+
+#include "teskara/core/AsciiCase.h"
+#include "teskara/core/Types.h"
+#include "teskara/markup/XMLArena.h"
+
+#include <map>
+#include <string_view>
+
+// The attributes of the tag that is being read. Adds at the end without a walk, and finds repeated names through an
+// index once there are more than a few.
+class XMLAttributeList
+{
+public:
+    // Begins with a node that has no attributes yet.
+    void Begin(XMLNode& node);
+
+    // The same as the node's SetAttribute, with texts that lie in its arena. False if memory ran out or the node has
+    // as many attributes as it may have.
+    bool Set(XMLArena& arena, XMLText name, XMLText value);
+
+private:
+    static constexpr u32 WalkedAtMost = 16;
+
+    struct NameOrder {
+        bool operator()(std::string_view left, std::string_view right) const { return CompareNoCase(left, right) < 0; }
+    };
+
+    XMLAttribute* Find(std::string_view name);
+
+    XMLNode* m_Node = nullptr;
+    XMLAttribute* m_Last = nullptr;
+    u32 m_Count = 0;
+    std::map<std::string_view, XMLAttribute*, NameOrder> m_Index; // empty while there are few
+};

@@ -1,0 +1,144 @@
+#include "teskara/markup/XMLStream.h"
+
+#include "teskara/core/BoundedText.h"
+#include "teskara/core/Limits.h"
+#include "teskara/markup/XMLDocument.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <cstring>
+
+namespace {
+
+constexpr std::u16string_view SectionBegin = u"<![CDATA[";
+constexpr std::u16string_view SectionEnd = u"]]>";
+
+// So many units are looked at before an opening bracket is taken for what it is.
+constexpr std::size_t BracketLookAhead = 13;
+
+}
+
+XMLStream::XMLStream(XMLDocument* document)
+    : Document(document)
+{
+    if (!Grow(FirstUnits))
+        Fail();
+}
+
+XMLStream::~XMLStream()
+{
+    std::free(Buffer);
+}
+
+bool XMLStream::Fail()
+{
+    m_Failed = true;
+    Document->SetErrorText("Memory allocation failed");
+    return false;
+}
+
+bool XMLStream::Grow(std::size_t units)
+{
+    const std::size_t held = Buffer ? UnreadCount() : 0;
+    void* const block = std::realloc(Buffer, (units + ReadBehind) * sizeof(char16_t));
+    if (!block)
+        return false;
+
+    Buffer = static_cast<char16_t*>(block);
+    BufferEnd = Buffer + units;
+    SetData(held);
+    return true;
+}
+
+void XMLStream::SetData(std::size_t units)
+{
+    Unread = Buffer;
+    DataEnd = Buffer + units;
+    std::memset(DataEnd, 0, ReadBehind * sizeof(char16_t));
+}
+
+// False at the end of the input, or if the stream failed.
+bool XMLStream::ReadMore()
+{
+    if (m_Failed)
+        return false;
+
+    const std::size_t held = UnreadCount();
+    std::memmove(Buffer, Unread, held * sizeof(char16_t));
+    SetData(held);
+
+    const std::size_t wanted = held + held;
+    if (wanted > Limits::TokenUnits)
+        return Fail();
+    if (wanted > static_cast<std::size_t>(BufferEnd - Buffer) && !Grow(wanted))
+        return Fail();
+
+    const std::size_t count = Read(DataEnd, static_cast<std::size_t>(BufferEnd - DataEnd));
+    SetData(held + count);
+    return count > 0;
+}
+
+XMLSpan XMLStream::NextAcrossReads()
+{
+    if (Unread != DataEnd && *Unread == 0)
+        return {};
+
+    while (true) {
+        const std::size_t scanned = UnreadCount();
+        if (!ReadMore())
+            return scanned == 0 || m_Failed ? XMLSpan {} : Take(XMLTextToken, DataEnd);
+        if (scanned == 0)
+            return Next();
+
+        const char16_t* end = Unread + scanned;
+        while (XMLUnit::TypeOf(*end) == XMLTextToken)
+            ++end;
+        if (end != DataEnd)
+            return Take(XMLTextToken, end);
+    }
+}
+
+XMLSpan XMLStream::NextBracket()
+{
+    while (UnreadCount() < BracketLookAhead && ReadMore()) { }
+    if (m_Failed)
+        return {};
+    if (std::u16string_view(Unread, UnreadCount()).starts_with(SectionBegin))
+        return NextSection();
+    return Take(XMLOpenBracketToken, Unread + 1);
+}
+
+// The marker at the beginning stays part of the text. The one at the end is seen only where another unit follows it.
+XMLSpan XMLStream::NextSection()
+{
+    for (std::size_t from = SectionBegin.size();;) {
+        const std::u16string_view section(Unread, UnreadCount() - 1);
+        const std::size_t end = section.find(SectionEnd, from);
+        if (end != section.npos) {
+            const XMLSpan span = Take(XMLTextToken, Unread + end);
+            Unread += SectionEnd.size();
+            return span;
+        }
+        from = std::max(from, section.size() - std::min(section.size(), SectionEnd.size() - 1));
+        if (ReadMore())
+            continue;
+        if (!m_Failed)
+            Document->SetErrorText("No end to CDATA tag");
+        m_Failed = true;
+        return {};
+    }
+}
+
+std::u16string_view XMLStream::TakeUntil(u8 stops)
+{
+    const char16_t* end = Unread;
+    while (!(XMLUnit::ClassOf(*end) & stops))
+        ++end;
+    if (end == DataEnd)
+        while (end != Unread && XMLUnit::TypeOf(end[-1]) == XMLTextToken)
+            --end;
+
+    const std::u16string_view run(Unread, end);
+    Unread = end;
+    return run;
+}

@@ -1,0 +1,88 @@
+#pragma once
+
+#include "teskara/core/Types.h"
+#include "teskara/markup/XMLToken.h"
+
+#include <cstddef>
+
+class XMLDocument;
+
+// Cuts an input into tokens. Sources deliver the input as UTF-16 units; what is delivered and not yet read stands
+// between Unread and DataEnd. Units are moved only to make room for more, and always so that the token in hand is the
+// first thing in the buffer: how much is asked for depends on the input alone, and sources that cut a sequence of
+// bytes in two do so at the same places each time.
+class XMLStream
+{
+public:
+    // document: receives messages; it must outlive the stream.
+    explicit XMLStream(XMLDocument* document);
+    XMLStream(const XMLStream&) = delete;
+    XMLStream& operator=(const XMLStream&) = delete;
+    virtual ~XMLStream();
+
+    // Writes up to capacity units of the input and returns their number; 0 at its end only.
+    virtual std::size_t Read(char16_t* buffer, std::size_t capacity) = 0;
+
+    // Takes the next token. None at the end of the input, and also once the stream has failed.
+    XMLSpan Next();
+
+    // Passes over units that belong to no token of their own up to the first that has one of the stops of XMLUnit, or
+    // to the beginning of the token that more input is needed for. Returns what was passed over.
+    std::u16string_view TakeUntil(u8 stops);
+
+    // Whether the next token is known to be an opening bracket; false also where more input is needed to tell.
+    bool IsTagAhead() const { return Unread[0] == u'<' && Unread[1] != u'!' && Unread[1] != 0; }
+
+    // Whether a token could not be read, as opposed to the input being at its end.
+    bool HasFailed() const { return m_Failed; }
+
+    char16_t* Buffer = nullptr;
+    char16_t* DataEnd = nullptr; // a zero unit and more that may be read stand behind it
+    char16_t* BufferEnd = nullptr;
+    XMLDocument* Document;
+    const char16_t* Unread = nullptr;
+
+    // The size of the whole input in bytes.
+    u64 InputBytes = 0;
+
+private:
+    static constexpr std::size_t FirstUnits = 4096;
+    static constexpr std::size_t ReadBehind = 16;
+
+    XMLSpan NextAcrossReads();
+    XMLSpan NextBracket();
+    XMLSpan NextSection();
+    XMLSpan Take(u32 type, const char16_t* end);
+    bool ReadMore();
+    bool Grow(std::size_t units);
+    void SetData(std::size_t units);
+    bool Fail();
+
+    std::size_t UnreadCount() const { return static_cast<std::size_t>(DataEnd - Unread); }
+
+    bool m_Failed = false;
+};
+
+inline XMLSpan XMLStream::Take(u32 type, const char16_t* end)
+{
+    const char16_t* const begin = Unread;
+    Unread = end;
+    return {type, {begin, end}};
+}
+
+inline XMLSpan XMLStream::Next()
+{
+    const char16_t* end = Unread;
+    const u32 type = XMLUnit::TypeOf(*end);
+    if (type == XMLTextToken) {
+        do
+            ++end;
+        while (XMLUnit::TypeOf(*end) == XMLTextToken);
+        return end == DataEnd ? NextAcrossReads() : Take(type, end);
+    }
+    if (type == XMLZeroToken)
+        return NextAcrossReads();
+    if (type == XMLOpenBracketToken)
+        return NextBracket();
+    return Take(type, end + 1);
+}

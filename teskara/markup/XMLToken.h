@@ -1,0 +1,102 @@
+#pragma once
+
+#include "teskara/core/Types.h"
+
+#include <array>
+#include <string>
+#include <string_view>
+
+// What the scanner cuts its input into: runs of text, and one character each for everything that markup may be made of.
+enum XMLTokenType : u32 {
+    XMLNoToken = 0,
+    XMLTextToken = 1,
+    XMLOpenBracketToken = 2,
+    XMLCloseBracketToken = 3,
+    XMLEqualsToken = 4,
+    XMLDoubleQuoteToken = 5,
+    XMLSingleQuoteToken = 6,
+    XMLAmpersandToken = 7,
+    XMLSlashToken = 8,
+    XMLHashToken = 9,
+    XMLSemicolonToken = 10,
+    XMLExclamationToken = 11,
+    XMLHyphenToken = 12,
+    XMLQuestionToken = 13,
+    XMLOpenSquareToken = 14,
+    XMLCloseSquareToken = 15,
+    XMLLineSpaceToken = 16, // tab, line feed, carriage return
+    XMLSpaceToken = 17,
+    XMLZeroToken = 18, // never leaves the scanner: ends the input
+};
+
+// A token as it lies in the scanner's buffer: good until the next one is taken.
+struct XMLSpan {
+    u32 Type = XMLNoToken;
+    std::u16string_view Units;
+
+    explicit operator bool() const { return Type != XMLNoToken; }
+    bool IsSpace() const { return Type == XMLLineSpaceToken || Type == XMLSpaceToken; }
+};
+
+// A token with a text of its own, in UTF-8.
+class XMLToken
+{
+public:
+    XMLToken() = default;
+    XMLToken(const XMLToken&) = delete;
+    XMLToken& operator=(const XMLToken&) = delete;
+    virtual ~XMLToken();
+
+    virtual void Clear();
+
+    void Set(const XMLSpan& span);
+    std::string_view View() const { return {Text, Length}; }
+    bool IsSpace() const { return Type == XMLLineSpaceToken || Type == XMLSpaceToken; }
+
+    const char* Text = ""; // of this token, or for a single character a constant
+    u64 Length = 0; // bytes
+    u32 Type = XMLNoToken;
+
+private:
+    std::string m_OwnText;
+};
+
+// What a unit means to the scanner: its token type, and whether it ends a run of content or of an attribute value.
+namespace XMLUnit {
+
+inline constexpr u8 TypeMask = 0x1F;
+inline constexpr u8 EndsDoubleQuoted = 0x20;
+inline constexpr u8 EndsSingleQuoted = 0x40;
+inline constexpr u8 EndsContent = 0x80;
+inline constexpr u8 EndsEverything = EndsDoubleQuoted | EndsSingleQuoted | EndsContent;
+
+constexpr std::array<u8, 128> MakeClasses()
+{
+    std::array<u8, 128> classes {};
+    classes.fill(XMLTextToken);
+    constexpr std::string_view Characters = "<>=\"'&/#;!-?[]";
+    for (std::size_t index = 0; index < Characters.size(); ++index)
+        classes[static_cast<std::size_t>(Characters[index])] = static_cast<u8>(XMLOpenBracketToken + index);
+    classes['\t'] = classes['\n'] = classes['\r'] = XMLLineSpaceToken;
+    classes[' '] = XMLSpaceToken;
+    classes[0] = XMLZeroToken | EndsEverything;
+    classes['<'] |= EndsEverything;
+    classes['&'] |= EndsEverything;
+    classes['"'] |= EndsDoubleQuoted;
+    classes['\''] |= EndsSingleQuoted;
+    return classes;
+}
+
+inline constexpr std::array<u8, 128> Classes = MakeClasses();
+
+constexpr u8 ClassOf(char16_t unit)
+{
+    return unit < Classes.size() ? Classes[unit] : u8 {XMLTextToken};
+}
+
+constexpr u32 TypeOf(char16_t unit)
+{
+    return ClassOf(unit) & TypeMask;
+}
+
+}
