@@ -14,6 +14,7 @@ class TeskElement;
 class TeskElementFactory;
 class TeskScreen;
 class TeskSkin;
+class XMLDocument;
 class XMLNode;
 
 // The version that a kind must be built for.
@@ -32,8 +33,12 @@ enum : u8 {
     KeyHeld = 0x80,
 };
 
-// Owner of a template. Whoever reads one while scripts may run holds a copy.
-using SharedTemplate = std::shared_ptr<XMLNode>;
+struct TESKARA_EXPORT DeleteTemplate {
+    void operator()(XMLNode* node) const;
+};
+
+// Owner of a stored template.
+using StoredTemplate = std::unique_ptr<XMLNode, DeleteTemplate>;
 
 // The centre of the toolkit: knows all elements, owns the screen, the templates and the skins, drives frames and routes
 // input. There is one, g_UIManager. All operations must be called on one thread, and all may be called from scripts.
@@ -132,13 +137,19 @@ public:
     void RemoveTemplate(const char* name);
     void ClearTemplates();
 
-    // Resolves a name through the skin in force. Valid until the template is removed; SharedTemplate holds it longer.
+    // Resolves a name through the skin in force. Valid until the template is removed, and while MarkupReading lasts.
     XMLNode* FindTemplate(const char* name);
-    SharedTemplate ShareTemplate(const char* name);
 
     TeskSkin* NewSkin(const char* name);
     TeskSkin* FindSkin(const char* name);
     void RemoveSkin(const char* name);
+
+    // The life of one of the manager's skins; empty if it is none of them.
+    std::weak_ptr<TeskSkin> ShareSkin(const TeskSkin* skin) const;
+
+    // While somebody reads markup, templates that are removed live on until the last reader ends.
+    void BeginReading() { ++m_MarkupReaders; }
+    void EndReading();
 
     // --- Host resources
 
@@ -194,7 +205,7 @@ public:
     NameMap<TeskElementFactory*> Factories;
     u32 NextElementID = 1;
     CriticalSection Lock; // part of the layout; no operation takes it
-    NameMap<SharedTemplate> Templates;
+    NameMap<StoredTemplate> Templates;
     NameMap<std::shared_ptr<TeskSkin>> Skins;
     TeskSkin* CurrentSkin = nullptr;
     char RootTagName[64] = "Tesk";
@@ -225,31 +236,44 @@ private:
     // Frame and focus
     void DestroyScreen();
     void CreateScreen();
-    bool ExitFocus(TeskElement* element, TeskElement* next);
-    TeskElement* EnterMouseOver(TeskElement& element);
+    bool ExitFocus(TeskElement& element, TeskElement* next);
+    TeskElement* EnterMouseOver(u32 id);
 
     // Input routing
     static MouseButton LeftButton();
     static MouseButton RightButton();
+    template <class Offer>
+    bool OfferDown(TeskElement* candidate, Offer&& offer);
     bool PressButton(const MouseButton& button);
-    bool OfferPress(const MouseButton& button, TeskElement& candidate, bool& doubleClicked);
-    void AcceptPress(const MouseButton& button, u32 id, u32 doubleClickMemory);
+    bool OfferPress(const MouseButton& button, TeskElement& candidate);
+    bool IsDoubleClick(const MouseButton& button, u32 id) const;
+    void AcceptPress(const MouseButton& button, u32 id);
     bool ReleaseButton(const MouseButton& button);
-    TeskElement* ElementBelow(u32 candidateID, u32 parentID);
+    TeskElement* ElementBelow(u32 candidateID);
     void SetModifier(u32 key, bool down);
+    void SetKeyFlags(u32 key, u32 flags);
+    u32 GetKeyFlags(u32 key) const;
+    void AddKeyFlag(u32 key, u8 flag);
+    bool OfferKey(bool (TeskElement::*handler)(unsigned int), u32 key);
 
-    // Interface files
+    // Interface files, templates and skins
     bool LoadInterface(const LoadRequest& request);
-    void LoadTopLevelNode(const LoadRequest& request, XMLNode* node);
-    bool StoreSkin(XMLNode* node);
+    void LoadTopLevelElement(const LoadRequest& request, XMLNode* node);
+    bool OpenInterface(const char* file, XMLDocument& document, XMLNode*& root);
+    XMLNode* StoreTemplate(const char* name, StoredTemplate node);
+    StoredTemplate TakeTemplate(const char* name);
+    void RetireTemplate(StoredTemplate node);
+    void ForgetSkin(std::string_view name);
 
     u32 m_ElementDeaths = 0;
     u32 m_LoadDepth = 0;
+    u32 m_MarkupReaders = 0;
     u32 m_ExitingFocusID = 0;
     bool m_TearingDown = false;
     bool m_InShutdown = false;
     bool m_InRender = false;
     std::vector<TeskElement*> m_Detached;
+    std::vector<StoredTemplate> m_RetiredTemplates;
 };
 
 extern TESKARA_EXPORT CUIManager g_UIManager;

@@ -47,8 +47,8 @@ void PrintLine(const char* format, ...) noexcept
 
 u32 CompileAtom(const std::string& source) noexcept
 {
-    return Call(u32 {0},
-        [&](HostObject& host) { return host.CompileAtom(source.c_str(), static_cast<u32>(source.size())); });
+    return Call(
+        u32{0}, [&](HostObject& host) { return host.CompileAtom(source.c_str(), static_cast<u32>(source.size())); });
 }
 
 void ReleaseAtom(u32 atom) noexcept
@@ -63,7 +63,7 @@ int ExecuteAtom(u32 atom, int argc, char** argv, _MvTypeVar* self) noexcept
 
 u32 FindAtom(const char* name) noexcept
 {
-    return Call(u32 {0}, [&](HostObject& host) { return host.FindAtom(name); });
+    return Call(u32{0}, [&](HostObject& host) { return host.FindAtom(name); });
 }
 
 int ExecuteCommand(const char* text) noexcept
@@ -80,7 +80,7 @@ void DataParse(const char* text, char* output, u32 size) noexcept
 
 u32 PreParseSequence(const char* text, u32 keep) noexcept
 {
-    return Call(u32 {0}, [&](HostObject& host) { return host.PreParseSequence(text, keep); });
+    return Call(u32{0}, [&](HostObject& host) { return host.PreParseSequence(text, keep); });
 }
 
 bool RetrieveOriginalText(u32 sequence, char* buffer, u32 size) noexcept
@@ -156,7 +156,7 @@ void LoadElementPosition(TeskElement* element) noexcept
 
 u32 CreateFontResource(const char* name, u8 height, bool fixed, bool bold) noexcept
 {
-    return Call(u32 {0}, [&](HostObject& host) { return host.CreateFontResource(name, height, fixed, bold); });
+    return Call(u32{0}, [&](HostObject& host) { return host.CreateFontResource(name, height, fixed, bold); });
 }
 
 void ReleaseFontResource(u32 font) noexcept
@@ -166,7 +166,7 @@ void ReleaseFontResource(u32 font) noexcept
 
 u32 LoadTextureResource(const char* path, u32 colorKey) noexcept
 {
-    return Call(u32 {0}, [&](HostObject& host) { return host.LoadTextureResource(path, colorKey); });
+    return Call(u32{0}, [&](HostObject& host) { return host.LoadTextureResource(path, colorKey); });
 }
 
 bool GetTextureResourceSize(u32 texture, _Point2i& size) noexcept
@@ -191,9 +191,8 @@ bool GetGlyphAdvance(u32 font, u32 character, float& advance) noexcept
     float before = 0;
     float glyph = 0;
     float after = 0;
-    const bool done = Call(false, [&](HostObject& host) {
-        return host.GetGlyphMetrics(font, character, character, &before, &glyph, &after);
-    });
+    const bool done = Call(false,
+        [&](HostObject& host) { return host.GetGlyphMetrics(font, character, character, &before, &glyph, &after); });
     advance = before + glyph + after;
     return done && !std::isnan(advance);
 }
@@ -215,7 +214,7 @@ void RemoveType(MvTypeDefinition* type) noexcept
 
 u32 RegisterObjectClass(const char* name) noexcept
 {
-    return Call(u32 {0}, [&](HostObject& host) { return host.RegisterObjectClass(name); });
+    return Call(u32{0}, [&](HostObject& host) { return host.RegisterObjectClass(name); });
 }
 
 void SetTypeObjectClass(MvTypeDefinition* type, u32 classID) noexcept

@@ -332,6 +332,7 @@ private:
     void Unlink();
     void Detach();
     void UpdateAutoTooltip();
+    static void HideAutoTooltip();
     void UpdateAutoFade();
     bool RenderChild(TeskElement& child);
     bool IsOffScreen(const tagRECT& rect) const;

@@ -6,7 +6,7 @@
 #include "teskara/core/utf8string.h"
 
 #include <new>
-#include <unordered_map>
+#include <unordered_set>
 
 class TeskElement;
 class XMLNode;
@@ -67,7 +67,9 @@ protected:
     TeskElement* ReadAndEnter(TeskElement* element, XMLNode* node, const char* templateName);
 
 private:
-    std::unordered_map<TeskElement*, bool> m_Instances;
+    void EndInstance(TeskElement& element);
+
+    std::unordered_set<u32> m_Instances; // ids of those that live
     TeskElementDeleter m_Deleter;
     std::unique_ptr<utf8string> m_Name;
 };

@@ -1,0 +1,277 @@
+#include "teskara/core/CUIManager.h"
+
+#include "teskara/core/BoundedText.h"
+#include "teskara/core/HostCalls.h"
+#include "teskara/core/platform/Platform.h"
+#include "teskara/element/ElementWatch.h"
+#include "teskara/element/TeskElement.h"
+#include "teskara/element/TeskElementFactory.h"
+#include "teskara/element/TeskScreen.h"
+#include "teskara/script/Commands.h"
+#include "teskara/script/ScriptTypes.h"
+#include "teskara/script/TopLevelObjects.h"
+
+#include <algorithm>
+#include <new>
+
+namespace {
+
+// Sets a flag for the length of a scope.
+class FlagScope
+{
+public:
+    explicit FlagScope(bool& flag) : m_Flag(flag) { m_Flag = true; }
+    ~FlagScope() { m_Flag = false; }
+    FlagScope(const FlagScope&) = delete;
+    FlagScope& operator=(const FlagScope&) = delete;
+
+private:
+    bool& m_Flag;
+};
+
+} // namespace
+
+CUIManager::CUIManager() : FrameTick(CurrentPlatform().GetTickCount()) { }
+
+CUIManager::~CUIManager()
+{
+    CUIManager::Shutdown();
+
+    // What could not be deleted for want of a factory ends here.
+    const FlagScope tearingDown(m_TearingDown);
+    while (!ElementsByID.empty())
+        delete ElementsByID.begin()->second;
+}
+
+void CUIManager::Initialize()
+{
+    if (!Host::g_Host || m_InShutdown)
+        return;
+
+    RegisterScriptTypes();
+    RegisterTopLevelObjects();
+    RegisterCommands();
+    DestroyScreen();
+    CreateScreen();
+}
+
+void CUIManager::Shutdown()
+{
+    if (m_InShutdown || !Host::g_Host)
+        return;
+
+    m_InShutdown = true;
+    RemoveScriptTypes();
+    RemoveTopLevelObjects();
+    RemoveCommands();
+    ShuttingDown = true; // from here on no font and no texture goes back to the host
+    DestroyScreen();
+    ClearTemplates();
+}
+
+u32 CUIManager::GetVersion()
+{
+    return TeskaraVersion;
+}
+
+void CUIManager::ResetMouseState()
+{
+    LeftButtonState = ButtonUp;
+    RightButtonState = ButtonUp;
+    MouseOverElementID = 0;
+}
+
+void CUIManager::CreateScreen()
+{
+    try {
+        Screen = new TeskScreen;
+    } catch (...) {
+        Screen = nullptr;
+    }
+}
+
+// Scripts that run meanwhile find no screen and make no elements.
+void CUIManager::DestroyScreen()
+{
+    if (!Screen)
+        return;
+
+    const FlagScope tearingDown(m_TearingDown);
+    TeskScreen* screen = Screen;
+    Screen = nullptr;
+    delete screen;
+}
+
+void CUIManager::Reset()
+{
+    if (!Screen)
+        return;
+
+    DestroyScreen();
+    CreateScreen();
+}
+
+// Scripts may replace the screen between any two steps.
+void CUIManager::Render()
+{
+    if (m_InRender || !Screen)
+        return;
+
+    const FlagScope inRender(m_InRender);
+    if (LeftButtonState == ButtonUp && RightButtonState == ButtonUp)
+        SetMouseOverElement();
+    FrameTick = CurrentPlatform().GetTickCount();
+    if (Screen)
+        Screen->RecalculateSize(true);
+    if (!Screen)
+        return;
+
+    Screen->AbsoluteX = 0;
+    Screen->AbsoluteY = 0;
+    if (Screen->Visible)
+        Screen->Render();
+}
+
+TeskElement* CUIManager::FindElement(const char* name)
+{
+    const auto entry = ElementsByName.find(std::string_view(TextOrEmpty(name)));
+    return entry == ElementsByName.end() ? nullptr : entry->second;
+}
+
+TeskElement* CUIManager::FindElementByID(u32 id) const
+{
+    const auto entry = ElementsByID.find(id);
+    return entry == ElementsByID.end() ? nullptr : entry->second;
+}
+
+TeskElementFactory* CUIManager::FindFactory(const char* name)
+{
+    const auto entry = Factories.find(std::string_view(TextOrEmpty(name)));
+    return entry == Factories.end() ? nullptr : entry->second;
+}
+
+bool CUIManager::ShowElement(const char* name, bool show)
+{
+    TeskElement* element = FindElement(name);
+    if (!element)
+        return false;
+
+    element->Show(show);
+    if (!show)
+        SetFocusElement();
+    return true;
+}
+
+bool CUIManager::ToggleElement(const char* name)
+{
+    TeskElement* element = FindElement(name);
+    return element && ShowElement(name, !element->Visible);
+}
+
+bool CUIManager::EnterElement(TeskElement& element)
+{
+    if (NextElementID == 0)
+        return false;
+
+    element.ID = NextElementID;
+    ElementsByID.emplace(element.ID, &element);
+    try {
+        ElementsByName.insert_or_assign(utf8stringnocase(element.FullName), &element);
+    } catch (...) {
+        ElementsByID.erase(element.ID);
+        throw;
+    }
+    ++NextElementID;
+    return true;
+}
+
+// A namesake that came later has taken over the name, and keeps it.
+void CUIManager::LeaveElement(TeskElement& element)
+{
+    ++m_ElementDeaths;
+    ElementsByID.erase(element.ID);
+    LeaveDetached(element);
+    const auto name = ElementsByName.find(std::string_view(element.FullName));
+    if (name != ElementsByName.end() && name->second == &element)
+        ElementsByName.erase(name);
+}
+
+void CUIManager::EnterDetached(TeskElement& element)
+{
+    m_Detached.push_back(&element);
+}
+
+void CUIManager::LeaveDetached(TeskElement& element)
+{
+    std::erase(m_Detached, &element);
+}
+
+void CUIManager::ForgetParent(TeskElement& parent)
+{
+    for (TeskElement* element : m_Detached) {
+        if (element->Parent == &parent)
+            element->Parent = nullptr;
+    }
+}
+
+void CUIManager::SetElementMetadata(u32 id, const char* name, const char* value)
+{
+    ElementMetadata[id].insert_or_assign(utf8stringnocase(TextOrEmpty(name)), TextOrEmpty(value));
+}
+
+const char* CUIManager::GetElementMetadata(u32 id, const char* name) const
+{
+    if (ElementMetadata.empty())
+        return nullptr;
+
+    const auto values = ElementMetadata.find(id);
+    if (values == ElementMetadata.end())
+        return nullptr;
+
+    const auto value = values->second.find(std::string_view(TextOrEmpty(name)));
+    return value == values->second.end() ? nullptr : value->second.c_str();
+}
+
+bool CUIManager::RemoveElementMetadata(u32 id, const char* name)
+{
+    const auto values = ElementMetadata.find(id);
+    if (values == ElementMetadata.end())
+        return false;
+
+    const auto value = values->second.find(std::string_view(TextOrEmpty(name)));
+    if (value != values->second.end())
+        values->second.erase(value);
+    return true;
+}
+
+void CUIManager::ClearElementMetadata(TeskElement* element)
+{
+    ElementMetadata.erase(element->ID);
+}
+
+bool CUIManager::GetTextureSize(unsigned int id, _Point2i& size)
+{
+    return Host::GetTextureResourceSize(id, size);
+}
+
+u32 CUIManager::LoadFontResource(const char* name, u8 height, bool fixed, bool bold)
+{
+    return Host::CreateFontResource(name, height, fixed, bold);
+}
+
+void CUIManager::ReleaseFontResource(u32 id)
+{
+    if (!ShuttingDown)
+        Host::ReleaseFontResource(id);
+}
+
+u32 CUIManager::LoadTextureResource(const char* path, u32 colorKey)
+{
+    return Host::LoadTextureResource(path, colorKey);
+}
+
+void CUIManager::ReleaseTextureResource(u32 id)
+{
+    if (!ShuttingDown)
+        Host::ReleaseTextureResource(id);
+}

@@ -1,0 +1,123 @@
+// Which element has the keyboard, and which the mouse.
+
+#include "teskara/core/CUIManager.h"
+#include "teskara/core/platform/Platform.h"
+#include "teskara/element/ElementWatch.h"
+#include "teskara/element/TeskElement.h"
+#include "teskara/element/TeskScreen.h"
+
+// Tells the focus element that it loses the keyboard, unless it is just being told. True: the focus has not been moved
+// by its script, so the caller goes on.
+bool CUIManager::ExitFocus(TeskElement& element, TeskElement* next)
+{
+    const u32 id = element.ID;
+    if (m_ExitingFocusID == id)
+        return true;
+
+    const u32 outer = m_ExitingFocusID;
+    m_ExitingFocusID = id;
+    element.OnKeyboardExit(next);
+    m_ExitingFocusID = outer;
+    return FocusElementID == id || FocusElementID == 0;
+}
+
+TeskElement* CUIManager::GetFocusElement()
+{
+    const u32 id = FocusElementID;
+    if (id == 0 || id == m_ExitingFocusID)
+        return nullptr;
+
+    TeskElement* element = FindElementByID(id);
+    if (element && element->IsReallyVisible())
+        return element;
+
+    if (!element || ExitFocus(*element, nullptr))
+        FocusElementID = 0;
+    return nullptr;
+}
+
+void CUIManager::SetFocusElement(TeskElement* element)
+{
+    TeskElement* present = FindElementByID(FocusElementID);
+    if (!element) {
+        if (!present || ExitFocus(*present, nullptr))
+            FocusElementID = 0;
+        return;
+    }
+    if (element == present || element->IsGoing() || !element->IsReallyVisible())
+        return;
+
+    const ElementWatch watch(*element);
+    if (present && !ExitFocus(*present, element))
+        return;
+    if (watch.Exists())
+        element->OnKeyboardEnter();
+    FocusElementID = watch.Exists() ? watch.GetID() : 0;
+}
+
+TeskElement* CUIManager::SetFocusElement()
+{
+    // A focus element that was hidden hears of it twice: once by the question, and once here.
+    const ElementWatch element(FindElementByID(FocusElementID));
+    if (!GetFocusElement() && element.Exists())
+        ExitFocus(*element.Get(), nullptr);
+    return nullptr;
+}
+
+TeskElement* CUIManager::GetMouseOverElement()
+{
+    for (u32* press : {&LeftPressElementID, &RightPressElementID}) {
+        if (*press == 0)
+            continue;
+        if (TeskElement* element = FindElementByID(*press))
+            return element;
+        *press = 0;
+    }
+    if (MouseOverElementID == 0)
+        return nullptr;
+
+    TeskElement* element = FindElementByID(MouseOverElementID);
+    return element && element->Visible ? element : SetMouseOverElement();
+}
+
+TeskElement* CUIManager::SetMouseOverElement()
+{
+    // The capturing control relies on being entered again at each search.
+    if (TeskElement* capture = FindElementByID(MouseCaptureElementID)) {
+        if (TeskElement* found = capture->FindMouseOver(MousePosition, nullptr)) {
+            MouseOverElementID = found->ID;
+            return EnterMouseOver(found->ID);
+        }
+    }
+
+    TeskElement* old = FindElementByID(MouseOverElementID);
+    TeskElement* found = Screen ? Screen->FindMouseOver(MousePosition, nullptr) : nullptr;
+    if (!found) {
+        const u32 oldID = MouseOverElementID;
+        if (old)
+            old->OnMouseExit(nullptr);
+        if (MouseOverElementID == oldID)
+            MouseOverElementID = 0;
+        return nullptr;
+    }
+
+    const u32 id = found->ID;
+    MouseOverElementID = id;
+    if (found == old)
+        return found;
+
+    if (old)
+        old->OnMouseExit(found);
+    return EnterMouseOver(id);
+}
+
+TeskElement* CUIManager::EnterMouseOver(u32 id)
+{
+    MouseEnterTick = CurrentPlatform().GetTickCount();
+    TooltipElementID = 0;
+    if (TeskElement* element = FindElementByID(id)) {
+        _Point2i point = MousePosition;
+        element->OnMouseEnter(point);
+    }
+    return FindElementByID(id);
+}

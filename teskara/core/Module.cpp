@@ -1,0 +1,103 @@
+// The one place that knows every kind. Objects are made in the order in which they stand here: the manager, then the
+// factories, then the module's entry; they end in the reverse order.
+
+#include "teskara/controls/TeskFrame.h"
+#include "teskara/controls/TeskText.h"
+#include "teskara/core/BoundedText.h"
+#include "teskara/core/CUIManager.h"
+#include "teskara/core/HostCalls.h"
+#include "teskara/core/platform/Platform.h"
+#include "teskara/element/TeskElementFactory.h"
+
+CUIManager g_UIManager;
+
+CUIManager* F1(HostObject* host)
+{
+    Host::g_Host = host;
+    Host::g_ScriptHost = nullptr; // the old host's is not asked for the new one's
+    Host::g_ScriptHost = Host::Call(
+        static_cast<HostScriptInterface*>(nullptr), [](HostObject& object) { return object.GetScriptInterface(); });
+    return &g_UIManager;
+}
+
+namespace {
+
+// Registers a kind whose control is not built yet: elements of it are refused with the usual message.
+class PendingFactory : public TeskElementFactory
+{
+public:
+    explicit PendingFactory(const char* name) { Register(name, TeskaraVersion); }
+    ~PendingFactory() override { TearDown(); }
+
+    TeskElement* Create(TeskElement*, const char*) override { return nullptr; }
+    TeskElement* Create(TeskElement*, const char*, XMLNode*, const char*) override { return nullptr; }
+};
+
+PendingFactory g_Button("button");
+PendingFactory g_CheckBox("checkbox");
+PendingFactory g_ComboBox("combobox");
+PendingFactory g_CommandButton("commandbutton");
+PendingFactory g_CommandCheckBox("commandcheckbox");
+PendingFactory g_CommandEntry("commandentry");
+PendingFactory g_Console("console");
+PendingFactory g_ContextMenu("contextmenu");
+TeskFactory<TeskFrame> g_Frame("frame");
+PendingFactory g_Gauge("gauge");
+PendingFactory g_GaugeFiller("gaugefiller");
+PendingFactory g_HudElement("hudelement");
+PendingFactory g_ListBox("listbox");
+PendingFactory g_MapBlip("mapblip");
+PendingFactory g_MapBlipView("mapblipview");
+PendingFactory g_Map("map");
+PendingFactory g_MapView("mapview");
+PendingFactory g_MessageBox("messagebox");
+PendingFactory g_ScriptInputBox("scriptinputbox");
+PendingFactory g_ScriptMessageBox("scriptmessagebox");
+PendingFactory g_ScrollBar("scrollbar");
+PendingFactory g_Slider("slider");
+PendingFactory g_TabControl("tabcontrol");
+PendingFactory g_TableCell("tablecell");
+PendingFactory g_Table("table");
+TeskFactory<TeskText> g_Text("text");
+PendingFactory g_TextEdit("textedit");
+PendingFactory g_TextEntry("textentry");
+PendingFactory g_Tooltip("tooltip");
+PendingFactory g_Tree("tree");
+PendingFactory g_VariableGauge("variablegauge");
+PendingFactory g_VariableSlider("variableslider");
+PendingFactory g_WindowClient("windowclient");
+PendingFactory g_Window("window");
+
+// Where the module lies, without its own name, and the log beside it, to which nothing is written.
+char g_ModuleDirectory[512];
+char g_LogPath[512];
+
+// The module's entry and exit.
+class Module
+{
+public:
+    Module()
+    {
+        CopyBounded(g_ModuleDirectory, sizeof(g_ModuleDirectory), DirectoryOf(CurrentPlatform().GetModulePath()));
+        FormatBounded(g_LogPath, sizeof(g_LogPath), "%s\\Teskara.log", g_ModuleDirectory);
+    }
+
+    // By the time that the factories and the manager end, the host may be gone.
+    ~Module()
+    {
+        g_UIManager.Shutdown();
+        Host::g_Host = nullptr;
+        Host::g_ScriptHost = nullptr;
+    }
+
+private:
+    static utf8string DirectoryOf(const utf8string& path)
+    {
+        const std::size_t separator = path.rfind('\\');
+        return separator == utf8string::npos ? "." : path.substr(0, separator);
+    }
+};
+
+Module g_Module;
+
+} // namespace

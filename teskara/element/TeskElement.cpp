@@ -1,0 +1,259 @@
+#include "teskara/element/TeskElement.h"
+
+#include "teskara/core/AsciiCase.h"
+#include "teskara/core/BoundedText.h"
+#include "teskara/core/CUIManager.h"
+#include "teskara/core/HostCalls.h"
+#include "teskara/core/Limits.h"
+#include "teskara/core/platform/Platform.h"
+#include "teskara/element/ElementWatch.h"
+#include "teskara/element/TeskElementFactory.h"
+#include "teskara/script/TypeGlobals.h"
+
+#include <new>
+
+TeskElement::TeskElement(const char* type, TeskElement* parent, const char* name)
+    : Type(TextOrEmpty(type))
+    , Name(TextOrEmpty(name))
+    , Parent(parent)
+    , FadeStart(g_UIManager.FrameTick)
+{
+    BuildFullName();
+    FoldAscii(Name);
+    if (!g_UIManager.EnterElement(*this))
+        throw std::bad_alloc();
+
+    if (!Parent)
+        return;
+
+    Depth = static_cast<u16>(Parent->Depth + 1);
+    Parent->AddChild(this);
+}
+
+TeskElement::~TeskElement()
+{
+    Stage = LifeStage::Gone;
+    NotifyParent(NotifyChildGoing, reinterpret_cast<std::uintptr_t>(Name.c_str()));
+    if (IsLinked())
+        Unlink();
+    if (g_UIManager.FocusElementID == ID)
+        g_UIManager.FocusElementID = 0;
+    DeleteAllChildren();
+    g_UIManager.ForgetParent(*this);
+    Host::InvalidateObject(g_UIManager.ObjectClass, this);
+    g_UIManager.LeaveElement(*this);
+    g_UIManager.ClearElementMetadata(this);
+    if (TeskElementFactory* factory = g_UIManager.FindFactory(Type.c_str()))
+        factory->RemoveInstance(this);
+    ReleaseEvents();
+}
+
+// The nearest ancestor that is neither screen nor window client gives its full name to what is below it.
+void TeskElement::BuildFullName()
+{
+    FullName = Name;
+    for (TeskElement* ancestor = Parent; ancestor && !ancestor->IsTypeOf("screen"); ancestor = ancestor->Parent) {
+        if (ancestor->IsTypeOf("windowclient"))
+            continue;
+
+        FullName += '@';
+        FullName += ancestor->FullName;
+        break;
+    }
+    if (FullName.size() >= Limits::FullNameBytes)
+        FullName.resize(Limits::FullNameBytes - 1);
+}
+
+void TeskElement::AddChild(TeskElement* child)
+{
+    child->Previous = LastChild;
+    if (LastChild)
+        LastChild->Next = child;
+    else
+        FirstChild = child;
+    LastChild = child;
+}
+
+void TeskElement::DeleteChild(TeskElement* child)
+{
+    if (!child || child->Parent != this || child->IsGoing()) {
+        CurrentPlatform().WriteDebugOutput("DeleteChild failure\n");
+        return;
+    }
+
+    if (child->IsLinked())
+        child->Detach();
+    child->Delete();
+}
+
+void TeskElement::Delete()
+{
+    if (IsGoing())
+        return;
+
+    TeskElementFactory* factory = g_UIManager.FindFactory(Type.c_str());
+    if (factory) {
+        Stage = LifeStage::Going;
+        RunScript(Events.OnUnload);
+        if (StorePosition)
+            Host::SaveElementPosition(this);
+        factory = g_UIManager.FindFactory(Type.c_str()); // a script may have taken it away
+    }
+    if (!factory) {
+        Stage = LifeStage::Alive;
+        Host::PrintLine("WARNING: CANNOT DELETE '%s': Factory '%s' not found", FullName.c_str(), Type.c_str());
+        return;
+    }
+    factory->Deleter().Delete(this);
+}
+
+// Scripts of a child see it linked until it is destroyed. What cannot be deleted is left without a parent.
+void TeskElement::DeleteAllChildren()
+{
+    while (TeskElement* child = FirstChild) {
+        child->Delete();
+        if (FirstChild != child)
+            continue;
+
+        child->Detach();
+        child->Parent = nullptr;
+    }
+}
+
+// Scripts that are running live on until they return.
+void TeskElement::ReleaseEvents()
+{
+    for (ScriptPointer* script : {&Events.OnLoad, &Events.OnUnload, &Events.OnLeftClick, &Events.OnRightClick,
+             &Events.OnDoubleLeftClick, &Events.OnDoubleRightClick, &Events.OnMouseEnter, &Events.OnMouseExit,
+             &Events.OnMouseMove, &Events.OnMouseWheel, &Events.OnKeyboardEnter, &Events.OnKeyboardExit,
+             &Events.OnKeyUp, &Events.OnKeyDown, &Events.OnLeftDown, &Events.OnRightDown, &Events.OnRender})
+        script->reset();
+}
+
+bool TeskElement::IsLinked() const
+{
+    return Parent && (Previous || Next || Parent->FirstChild == this);
+}
+
+void TeskElement::Unlink()
+{
+    (Previous ? Previous->Next : Parent->FirstChild) = Next;
+    (Next ? Next->Previous : Parent->LastChild) = Previous;
+    Previous = nullptr;
+    Next = nullptr;
+}
+
+// Puts the element into its parent's list behind a sibling; null puts it at the head.
+void TeskElement::LinkAfter(TeskElement* sibling)
+{
+    Previous = sibling;
+    Next = sibling ? sibling->Next : Parent->FirstChild;
+    (Previous ? Previous->Next : Parent->FirstChild) = this;
+    (Next ? Next->Previous : Parent->LastChild) = this;
+}
+
+// Takes the element out of the list while it lives on and still names its parent.
+void TeskElement::Detach()
+{
+    Unlink();
+    g_UIManager.EnterDetached(*this);
+}
+
+TeskElement* TeskElement::FindChild(const char* name)
+{
+    const std::string_view wanted = TextOrEmpty(name);
+    for (TeskElement* child = FirstChild; child; child = child->Next) {
+        if (child->Name.size() == wanted.size() && EqualsNoCase(child->Name, wanted))
+            return child;
+    }
+    return nullptr;
+}
+
+TeskElement* TeskElement::FindUsableChild(const char* name, const char* word)
+{
+    const std::string_view wanted = TextOrEmpty(name);
+    for (TeskElement* child = FirstChild; child; child = child->Next) {
+        if (EqualsNoCase(child->Name, wanted) && child->IsTypeOf(word))
+            return child;
+    }
+    for (TeskElement* child = FirstChild; child; child = child->Next) {
+        if (TeskElement* found = child->FindUsableChild(name, word))
+            return found;
+    }
+    return nullptr;
+}
+
+bool TeskElement::IsTypeOf(const char* word)
+{
+    return EqualsNoCase(TextOrEmpty(word), "teskelement");
+}
+
+bool TeskElement::IsFocus() const
+{
+    return g_UIManager.FocusElementID == ID;
+}
+
+bool TeskElement::IsMouseOver() const
+{
+    return g_UIManager.MouseOverElementID == ID;
+}
+
+bool TeskElement::IsReallyVisible() const
+{
+    for (const TeskElement* element = this; element; element = element->Parent) {
+        if (!element->Visible)
+            return false;
+    }
+    return true;
+}
+
+void TeskElement::Show(bool show)
+{
+    Visible = show;
+}
+
+void TeskElement::OnCreate()
+{
+}
+
+void TeskElement::OnDestroy()
+{
+}
+
+MvTypeDefinition* TeskElement::GetMvType()
+{
+    return pTeskElementType;
+}
+
+bool TeskElement::GetStoragePosition(int& x, int& y, unsigned int& width, unsigned int& height)
+{
+    x = X;
+    y = Y;
+    width = Width;
+    height = Height;
+    return true;
+}
+
+bool TeskElement::SetFocus()
+{
+    return true;
+}
+
+bool TeskElement::SetMouseOver()
+{
+    return true;
+}
+
+void TeskElement::CreateFrom(const _CreateElement& record)
+{
+    X = record.X;
+    Y = record.Y;
+    Width = record.Width;
+    Height = record.Height;
+    PositionX = record.PositionX;
+    PositionY = record.PositionY;
+    PositionHeight = record.PositionHeight;
+    PositionWidth = record.PositionWidth;
+    Visible = record.Visible;
+    Strata = record.Strata;
+}

@@ -1,0 +1,120 @@
+#include "teskara/element/TeskElementFactory.h"
+
+#include "teskara/core/AsciiCase.h"
+#include "teskara/core/BoundedText.h"
+#include "teskara/core/HostCalls.h"
+#include "teskara/core/Limits.h"
+#include "teskara/core/MarkupReading.h"
+#include "teskara/element/ElementWatch.h"
+#include "teskara/element/TeskElement.h"
+
+#include <vector>
+
+void TeskElementDeleter::Delete(TeskElement* element)
+{
+    const ElementWatch self(*element);
+    element->OnDestroy();
+    if (!self.Exists())
+        return;
+
+    if (element->IsLinked())
+        element->Detach();
+    delete element;
+}
+
+TeskElementFactory::~TeskElementFactory()
+{
+    TearDown();
+}
+
+void TeskElementFactory::Register(const char* name, unsigned int version)
+{
+    if (version != TeskaraVersion) {
+        Host::PrintLine("UI Element type '%s' unavailable (version mismatch)", TextOrEmpty(name));
+        return;
+    }
+
+    m_Name = std::make_unique<utf8string>(TextOrEmpty(name));
+    FoldAscii(*m_Name);
+    g_UIManager.Factories[utf8stringnocase(*m_Name)] = this;
+}
+
+void TeskElementFactory::Unregister()
+{
+    if (!m_Name)
+        return;
+
+    const auto entry = g_UIManager.Factories.find(std::string_view(*m_Name));
+    if (entry != g_UIManager.Factories.end() && entry->second == this)
+        g_UIManager.Factories.erase(entry);
+    m_Name.reset();
+}
+
+void TeskElementFactory::RemoveInstance(TeskElement* element)
+{
+    m_Instances.erase(element->ID);
+}
+
+// One deletion may take others of the kind with it, so each is looked up when its turn comes.
+void TeskElementFactory::TearDown()
+{
+    if (m_Name) {
+        for (const u32 id : std::vector<u32>(m_Instances.begin(), m_Instances.end())) {
+            if (TeskElement* element = g_UIManager.FindElementByID(id))
+                EndInstance(*element);
+        }
+    }
+    Unregister();
+    m_Instances.clear();
+}
+
+// The element hears OnDestroy twice: here, and when its parent deletes it.
+void TeskElementFactory::EndInstance(TeskElement& element)
+{
+    const ElementWatch watch(element);
+    element.OnDestroy();
+    if (watch.Exists() && element.Parent)
+        element.Parent->DeleteChild(&element);
+}
+
+bool TeskElementFactory::MayCreate(TeskElement* parent)
+{
+    if (g_UIManager.IsTearingDown())
+        return false;
+
+    return !parent || (!parent->IsGoing() && parent->Depth < Limits::ElementDepth);
+}
+
+TeskElement* TeskElementFactory::Enter(TeskElement* element)
+{
+    if (!element)
+        return nullptr;
+
+    try {
+        m_Instances.insert(element->ID);
+    } catch (...) {
+        m_Deleter.Delete(element);
+        return nullptr;
+    }
+    return element;
+}
+
+TeskElement* TeskElementFactory::ReadAndEnter(TeskElement* element, XMLNode* node, const char* templateName)
+{
+    if (!element)
+        return nullptr;
+
+    const MarkupReading reading;
+    const ElementWatch watch(*element);
+    const bool read = element->FromXML(node, g_UIManager.FindTemplate(templateName));
+    if (!watch.Exists())
+        return nullptr;
+    if (read)
+        return Enter(element);
+
+    if (element->Parent)
+        element->Parent->DeleteChild(element);
+    else
+        m_Deleter.Delete(element);
+    return nullptr;
+}

@@ -1,0 +1,81 @@
+#include "teskara/core/CUIManager.h"
+#include "teskara/element/ElementWatch.h"
+#include "teskara/element/TeskElement.h"
+
+// The list of children runs from the bottom to the top. An element that is out of its parent's list, on its way out,
+// stays out.
+
+// Does not climb over a higher stratum.
+void TeskElement::MoveZUp()
+{
+    g_UIManager.ZOrderChanged = true;
+    if (!IsLinked() || !Next || Strata < Next->Strata)
+        return;
+
+    TeskElement* above = Next;
+    Unlink();
+    LinkAfter(above);
+}
+
+// May sink below a lower stratum.
+void TeskElement::MoveZDown()
+{
+    g_UIManager.ZOrderChanged = true;
+    if (!IsLinked() || !Previous)
+        return;
+
+    TeskElement* below = Previous->Previous;
+    Unlink();
+    LinkAfter(below);
+}
+
+void TeskElement::MoveZBottom()
+{
+    g_UIManager.ZOrderChanged = true;
+    if (!IsLinked() || !Previous)
+        return;
+
+    Unlink();
+    LinkAfter(nullptr);
+}
+
+// Ends above its equals and below the higher strata.
+void TeskElement::MoveZTop(bool includeParents)
+{
+    g_UIManager.ZOrderChanged = true;
+    if (includeParents && Parent)
+        Parent->MoveZTop(true);
+    if (!IsLinked())
+        return;
+
+    TeskElement* top = Parent->LastChild == this ? Previous : Parent->LastChild;
+    if (!top)
+        return;
+
+    if (Strata >= top->Strata) {
+        if (!Next)
+            return;
+
+        Unlink();
+        LinkAfter(top);
+        return;
+    }
+
+    while (top && (top == this || top->Strata > Strata))
+        top = top->Previous;
+    if (!top) {
+        MoveZBottom();
+        return;
+    }
+    Unlink();
+    LinkAfter(top);
+}
+
+void TeskElement::RaiseTopLevel()
+{
+    TeskElement* element = this;
+    while (element->Parent && element->Parent->Parent)
+        element = element->Parent;
+    if (!element->IsGoing())
+        element->MoveZTop(false);
+}

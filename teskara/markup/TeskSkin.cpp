@@ -1,0 +1,58 @@
+#include "teskara/markup/TeskSkin.h"
+
+#include "teskara/core/BoundedText.h"
+#include "teskara/markup/XMLHelper.h"
+#include "teskara/markup/XMLNode.h"
+
+TeskSkin::TeskSkin(const char* name)
+    : Name(TextOrEmpty(name))
+{
+}
+
+void TeskSkin::AddTemplate(const char* base, const char* skinned)
+{
+    if (!base || !*base)
+        return;
+
+    Templates.insert_or_assign(utf8stringnocase(base), TextOrEmpty(skinned));
+}
+
+void TeskSkin::RemoveTemplate(const char* base)
+{
+    const auto line = Templates.find(std::string_view(TextOrEmpty(base)));
+    if (line != Templates.end())
+        Templates.erase(line);
+}
+
+bool TeskSkin::FromXML(XMLNode* node, XMLNode* templateNode)
+{
+    AddLines(templateNode);
+    AddLines(node);
+    return true;
+}
+
+void TeskSkin::AddLines(XMLNode* node)
+{
+    if (!node)
+        return;
+
+    constexpr TagName lineTag = "SkinTemplate";
+    for (XMLNode* line = node->FirstChild; line; line = line->Next) {
+        if (line->Type != XMLElementNode || !line->HasName(lineTag.Text, lineTag.Hash))
+            continue;
+
+        const utf8string base = XMLHelper::GetStringAttribute(line, "Base", "");
+        const char* skinned = XMLHelper::GetStringAttribute(line, "Skin", "");
+        const utf8string prefix = XMLHelper::GetStringAttribute(line, "SkinPrefix", "");
+        if (*skinned)
+            AddTemplate(base.c_str(), skinned);
+        else if (!prefix.empty())
+            AddTemplate(base.c_str(), (prefix + base).c_str());
+    }
+}
+
+const char* TeskSkin::FindTemplate(const char* base) const
+{
+    const auto line = Templates.find(std::string_view(TextOrEmpty(base)));
+    return line == Templates.end() ? nullptr : line->second.c_str();
+}
