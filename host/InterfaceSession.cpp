@@ -1,0 +1,96 @@
+#include "host/InterfaceSession.h"
+
+#include "teskara/core/CUIManager.h"
+
+namespace host {
+
+namespace {
+
+// The skin whose templates all interfaces build upon; the others redirect them.
+constexpr const char* FirstSkin = "slate";
+
+} // namespace
+
+InterfaceSession::InterfaceSession(SDL_Renderer* renderer, const Settings& settings)
+    : m_Platform(m_Clock), m_Host(renderer, settings.Positions)
+{
+    if (settings.ClockStandsStill)
+        m_Clock.HoldStill();
+    SetPlatform(&m_Platform);
+    F1(&m_Host)->Initialize();
+
+    // What is loaded before the first frame takes its time from here, and its sizes from the display.
+    g_UIManager.FrameTick = m_Clock.Ticks();
+    m_SecondStart = m_Clock.Ticks();
+    m_Frame.Width = settings.Width;
+    m_Frame.Height = settings.Height;
+    SkipFrame();
+}
+
+InterfaceSession::~InterfaceSession()
+{
+    g_UIManager.Shutdown();
+    SetPlatform(nullptr);
+}
+
+bool InterfaceSession::Open(const std::vector<std::string>& files, const std::string& skin)
+{
+    for (const std::string& file : files)
+        m_Host.Paths().AddInterfaceFile(file);
+
+    if (!OpenSkin(FirstSkin) || (!skin.empty() && skin != FirstSkin && !OpenSkin(skin)))
+        return false;
+
+    for (const std::string& file : files)
+        if (!OpenFile(file, file, skin.empty() ? nullptr : g_UIManager.FindSkin(skin.c_str())))
+            return false;
+    return true;
+}
+
+bool InterfaceSession::DrawFrame(int width, int height, float scale)
+{
+    m_Frame.Width = width;
+    m_Frame.Height = height;
+    CountFrame();
+    m_Host.BeginFrame(m_Frame, scale);
+    g_UIManager.Render();
+    return m_Host.EndFrame();
+}
+
+void InterfaceSession::SkipFrame()
+{
+    CountFrame();
+    m_Host.BeginFrame(m_Frame, 1);
+    g_UIManager.Render();
+}
+
+bool InterfaceSession::OpenFile(const std::string& subject, const std::string& file, TeskSkin* skin)
+{
+    m_Host.Output().SetSubject(subject);
+    const bool opened = g_UIManager.LoadInterfaceXML(file.c_str(), true, skin);
+    m_Host.Output().SetSubject({});
+    return opened;
+}
+
+bool InterfaceSession::OpenSkin(const std::string& name)
+{
+    const std::filesystem::path folder = m_Host.Paths().InterfacesFolder() / "skins" / name;
+    m_Host.Paths().AddSkinFolder(folder);
+    return OpenFile("skin " + name, (folder / "skin.xml").string(), nullptr);
+}
+
+void InterfaceSession::CountFrame()
+{
+    const u32 now = m_Clock.Ticks();
+    ++m_Frame.Number;
+    ++m_FramesInSecond;
+    if (now - m_SecondStart >= 1000) {
+        m_Frame.FramesPerSecond = m_FramesInSecond;
+        m_FramesInSecond = 0;
+        m_SecondStart = now;
+    }
+    m_Frame.Time = m_Clock.LocalTime();
+    m_Frame.Mouse = g_UIManager.MousePosition;
+}
+
+} // namespace host

@@ -1,0 +1,60 @@
+#pragma once
+
+#include "host/HostClock.h"
+#include "host/HostPlatform.h"
+#include "host/ReferenceHost.h"
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+class TeskSkin;
+
+namespace host {
+
+// The toolkit with the reference host, from its start to its end. There can be one in a process.
+class InterfaceSession
+{
+public:
+    struct Settings {
+        bool ClockStandsStill = false; // time moves by Advance alone
+        std::filesystem::path Positions; // the file of stored positions; empty to store none
+        int Width = 0; // of the display at the start
+        int Height = 0;
+    };
+
+    // The renderer is borrowed.
+    InterfaceSession(SDL_Renderer* renderer, const Settings& settings);
+    ~InterfaceSession();
+    InterfaceSession(const InterfaceSession&) = delete;
+    InterfaceSession& operator=(const InterfaceSession&) = delete;
+
+    // Opens interface files, in their order, in a skin that lies in the interfaces folder; an empty name is the first
+    // skin. False if one could not be opened; a line has said which and why.
+    bool Open(const std::vector<std::string>& files, const std::string& skin);
+
+    // Lets the toolkit draw a frame of a size in pixels of the interface, each scale pixels of the target in size.
+    // True if there is something new to present.
+    bool DrawFrame(int width, int height, float scale);
+
+    // Lets a frame pass without drawing it.
+    void SkipFrame();
+
+    HostClock& Clock() { return m_Clock; }
+    HostPlatform& System() { return m_Platform; }
+    ReferenceHost& Host() { return m_Host; }
+
+private:
+    bool OpenFile(const std::string& subject, const std::string& file, TeskSkin* skin);
+    bool OpenSkin(const std::string& name);
+    void CountFrame();
+
+    HostClock m_Clock;
+    HostPlatform m_Platform;
+    ReferenceHost m_Host;
+    FrameState m_Frame;
+    u32 m_SecondStart = 0;
+    u32 m_FramesInSecond = 0;
+};
+
+} // namespace host

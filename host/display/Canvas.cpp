@@ -1,0 +1,189 @@
+#include "host/display/Canvas.h"
+
+#include "host/display/LineShape.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace host {
+
+namespace {
+
+// What lies behind the interface.
+constexpr SDL_Color Background = {17, 20, 26, 255};
+
+enum : u32 {
+    FlagSource = 1,
+    FlagAlpha = 2,
+    FlagColorMask = 4,
+};
+
+SDL_Color ToColor(u32 argb)
+{
+    return {
+        static_cast<u8>(argb >> 16), static_cast<u8>(argb >> 8), static_cast<u8>(argb), static_cast<u8>(argb >> 24)};
+}
+
+u8 Multiply(u8 a, u8 b)
+{
+    return static_cast<u8>((a * b + 127) / 255);
+}
+
+// The colour by which an image is multiplied.
+SDL_Color ImageColor(const TeskDrawRecord& record)
+{
+    SDL_Color color = record.Flags & FlagColorMask ? ToColor(record.ColorMask) : SDL_Color{255, 255, 255, 255};
+    if (record.Flags & FlagAlpha)
+        color.a = Multiply(color.a, record.Alpha);
+    return color;
+}
+
+SDL_Color LineColor(const TeskDrawRecord& record)
+{
+    if (record.TextureID != TextureCache::WhiteID)
+        return ImageColor(record);
+
+    // A plain line has its final alpha in its colour. One that is drawn alone has it beside the colour instead, as the
+    // low byte of 255 times the alpha, which is the negative of it.
+    SDL_Color color = ToColor(record.ColorMask);
+    if (record.Flags & FlagAlpha)
+        color.a = static_cast<u8>(0 - record.Alpha);
+    return color;
+}
+
+// Turns an image by quarter turns clockwise: each turn brings the lower left corner to the upper left.
+TextureCorners Turn(const TextureCorners& corners, u8 quarterTurns)
+{
+    TextureCorners turned = corners;
+    for (int turn = 0; turn < quarterTurns; ++turn) {
+        const SDL_FPoint bottomRight = {turned.TopRight.x + turned.BottomLeft.x - turned.TopLeft.x,
+            turned.TopRight.y + turned.BottomLeft.y - turned.TopLeft.y};
+        turned = {turned.BottomLeft, turned.TopLeft, bottomRight};
+    }
+    return turned;
+}
+
+struct Span {
+    float From;
+    float To;
+};
+
+// A stretch of the image along one axis as shares of its size. When it is not drawn pixel for pixel it begins and ends
+// in the middle of its outer pixels, so that smoothing takes in nothing of the neighbours.
+Span SharesOf(i32 from, i32 to, int size, float drawn, bool smooth)
+{
+    auto start = static_cast<float>(from);
+    auto end = static_cast<float>(to);
+    if (smooth && std::abs(end - start) >= 1 && std::abs(std::abs(end - start) - drawn) > 0.01f) {
+        const float inward = end > start ? 0.5f : -0.5f;
+        start += inward;
+        end -= inward;
+    }
+    const auto whole = static_cast<float>(size);
+    return {std::clamp(start / whole, 0.0f, 1.0f), std::clamp(end / whole, 0.0f, 1.0f)};
+}
+
+} // namespace
+
+Canvas::Canvas(SDL_Renderer* renderer)
+    : m_Renderer(renderer), m_Textures(renderer), m_Atlas(m_Renderer), m_Painter(m_Renderer, m_Atlas, m_Shaper)
+{
+}
+
+void Canvas::BeginFrame(int width, int height, float scale)
+{
+    if (scale != m_Scale)
+        m_Atlas.Reset();
+    m_Scale = scale;
+    m_Textures.Collect();
+    m_Renderer.BeginFrame(static_cast<int>(std::lround(static_cast<float>(width) * scale)),
+        static_cast<int>(std::lround(static_cast<float>(height) * scale)), Background);
+}
+
+void Canvas::ResetDevice()
+{
+    m_Atlas.Reset();
+    m_Renderer.Invalidate();
+}
+
+void Canvas::DrawRect(const tagRECT& rect, u32 color)
+{
+    m_Renderer.AddQuad(nullptr, ToTarget(rect), {}, ToColor(color));
+}
+
+bool Canvas::DrawTexturedRect(const TeskDrawRecord& record)
+{
+    const Image* image = m_Textures.Find(record.TextureID);
+    if (!image)
+        return false;
+
+    const PixelRect target = ToTarget(record.Destination);
+    m_Renderer.AddQuad(image->Texture, target, CornersFor(record, *image, target), ImageColor(record));
+    return true;
+}
+
+bool Canvas::DrawLine(const TeskDrawRecord& record, u32 width)
+{
+    const Image* image = m_Textures.Find(record.TextureID);
+    if (!image)
+        return false;
+
+    const PixelRect ends = ToTarget(record.Destination);
+    const float half = m_Scale / 2;
+    const LineShape line = {{ends.Left + half, ends.Top + half}, {ends.Right + half, ends.Bottom + half},
+        std::max(1.0f, static_cast<float>(width)) * m_Scale};
+    const PixelRect drawn = {0, 0, std::hypot(ends.Width(), ends.Height()), line.Width};
+    line.AddTo(m_Renderer, image->Texture, CornersFor(record, *image, drawn), LineColor(record));
+    return true;
+}
+
+u32 Canvas::DrawText(u32 font, const char* text, const tagRECT& box, u32 color, u32 format)
+{
+    Font* found = m_Fonts.Find(font);
+    return found ? m_Painter.Draw(*found, text, {box, ToColor(color), format, m_Scale}) : 0;
+}
+
+bool Canvas::MeasureText(u32 font, const char* text, int& width)
+{
+    Font* found = m_Fonts.Find(font);
+    if (!found || !text)
+        return false;
+
+    // One byte may be a part of a character, from a caller that measures byte by byte.
+    width = text[0] && !text[1] ? m_Shaper.CharacterWidth(*found, static_cast<u8>(text[0]))
+                                : m_Shaper.Shape(*found, text).Width;
+    return true;
+}
+
+bool Canvas::MeasureCharacter(u32 font, u32 character, int& width)
+{
+    Font* found = m_Fonts.Find(font);
+    if (!found)
+        return false;
+
+    width = m_Shaper.CharacterWidth(*found, character);
+    return true;
+}
+
+PixelRect Canvas::ToTarget(const tagRECT& rect) const
+{
+    return {std::round(static_cast<float>(rect.left) * m_Scale), std::round(static_cast<float>(rect.top) * m_Scale),
+        std::round(static_cast<float>(rect.right) * m_Scale), std::round(static_cast<float>(rect.bottom) * m_Scale)};
+}
+
+TextureCorners Canvas::CornersFor(const TeskDrawRecord& record, const Image& image, const PixelRect& target) const
+{
+    tagRECT source = {0, 0, image.Width, image.Height};
+    if (record.Flags & FlagSource)
+        source = record.Source;
+
+    // The processor stretches each part of an image by itself and needs its exact edges.
+    const bool smooth = !m_Renderer.IsSoftware();
+    const bool upright = record.Orientation % 2 == 0;
+    const Span x = SharesOf(source.left, source.right, image.Width, upright ? target.Width() : target.Height(), smooth);
+    const Span y =
+        SharesOf(source.top, source.bottom, image.Height, upright ? target.Height() : target.Width(), smooth);
+    return Turn({{x.From, y.From}, {x.To, y.From}, {x.From, y.To}}, record.Orientation);
+}
+
+} // namespace host

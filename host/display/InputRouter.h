@@ -1,0 +1,40 @@
+#pragma once
+
+#include "teskara/core/Types.h"
+
+#include <SDL.h>
+
+#include <bitset>
+
+class CUIManager;
+
+namespace host {
+
+class HostPlatform;
+
+// Turns SDL's events into calls of the manager.
+class InputRouter
+{
+public:
+    // Both are borrowed.
+    InputRouter(CUIManager& manager, HostPlatform& platform);
+
+    // Takes one event. Events that are no input are passed over.
+    void Handle(const SDL_Event& event);
+
+private:
+    void HandleButton(const SDL_MouseButtonEvent& button);
+    void HandleWheel(const SDL_MouseWheelEvent& wheel);
+    void HandleKeyDown(const SDL_KeyboardEvent& key);
+    void HandleKeyUp(const SDL_KeyboardEvent& key);
+    void HandleText(const char* text);
+    void HandleWindow(const SDL_WindowEvent& window);
+    void MoveMouse(int x, int y);
+
+    CUIManager& m_Manager;
+    HostPlatform& m_Platform;
+    std::bitset<256> m_KeysDown;
+    float m_WheelRest = 0;
+};
+
+} // namespace host

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <SDL.h>
+
+#include <string>
+
+namespace host {
+
+// A picture in memory with a renderer that draws into it; needs no display.
+class Picture
+{
+public:
+    // size in pixels of the target.
+    Picture(int width, int height);
+    ~Picture();
+    Picture(const Picture&) = delete;
+    Picture& operator=(const Picture&) = delete;
+
+    // Null if it could not be made.
+    SDL_Renderer* Target() const { return m_Renderer; }
+
+    // Writes the picture as a PNG file, and its folder if that is missing. False: SDL_GetError says why.
+    bool Save(const std::string& file) const;
+
+private:
+    SDL_Surface* m_Surface = nullptr;
+    SDL_Renderer* m_Renderer = nullptr;
+};
+
+} // namespace host

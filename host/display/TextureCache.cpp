@@ -1,0 +1,128 @@
+#include "host/display/TextureCache.h"
+
+#include <SDL_image.h>
+
+namespace host {
+
+namespace {
+
+constexpr u32 FramesKeptUnused = 300;
+
+// A file that could not be read is asked for in every frame; it is looked at again only now and then.
+constexpr u32 FramesBetweenAttempts = 120;
+
+constexpr u32 ColorBits = 0x00FFFFFF;
+
+const Image WhiteImage;
+
+void ClearColor(SDL_Surface* surface, u32 colorKey)
+{
+    for (int y = 0; y < surface->h; ++y) {
+        auto* row = reinterpret_cast<u32*>(static_cast<u8*>(surface->pixels) + y * surface->pitch);
+        for (int x = 0; x < surface->w; ++x)
+            if ((row[x] & ColorBits) == (colorKey & ColorBits))
+                row[x] = 0;
+    }
+}
+
+SDL_Surface* LoadSurface(const std::string& path)
+{
+    SDL_Surface* loaded = IMG_Load(path.c_str());
+    if (!loaded)
+        return nullptr;
+
+    SDL_Surface* surface = SDL_ConvertSurfaceFormat(loaded, SDL_PIXELFORMAT_ARGB8888, 0);
+    SDL_FreeSurface(loaded);
+    return surface;
+}
+
+} // namespace
+
+TextureCache::TextureCache(SDL_Renderer* renderer) : m_Renderer(renderer) { }
+
+TextureCache::~TextureCache()
+{
+    for (auto& [id, entry] : m_Images)
+        if (entry.Value.Texture)
+            SDL_DestroyTexture(entry.Value.Texture);
+}
+
+u32 TextureCache::Acquire(const std::string& path, u32 colorKey, std::string& why)
+{
+    if (path.empty())
+        return WhiteID;
+
+    const Key key = {path, colorKey};
+    const auto known = m_IDs.find(key);
+    if (known != m_IDs.end()) {
+        ++m_Images[known->second].Count;
+        return known->second;
+    }
+    const auto failed = m_FailedUntil.find(key);
+    if (failed != m_FailedUntil.end() && m_Frame < failed->second)
+        return 0;
+
+    Image image;
+    if (!Load(key, image)) {
+        if (failed == m_FailedUntil.end())
+            why = SDL_GetError();
+        m_FailedUntil[key] = m_Frame + FramesBetweenAttempts;
+        return 0;
+    }
+    m_FailedUntil.erase(key);
+    const u32 id = ++m_LastID;
+    m_IDs[key] = id;
+    m_Images[id] = {key, image, 1, 0};
+    return id;
+}
+
+void TextureCache::Release(u32 id)
+{
+    const auto found = m_Images.find(id);
+    if (found != m_Images.end() && found->second.Count > 0)
+        --found->second.Count;
+}
+
+const Image* TextureCache::Find(u32 id) const
+{
+    if (id == WhiteID)
+        return &WhiteImage;
+
+    const auto found = m_Images.find(id);
+    return found == m_Images.end() ? nullptr : &found->second.Value;
+}
+
+void TextureCache::Collect()
+{
+    ++m_Frame;
+    for (auto at = m_Images.begin(); at != m_Images.end();) {
+        Entry& entry = at->second;
+        entry.UnusedFrames = entry.Count == 0 ? entry.UnusedFrames + 1 : 0;
+        if (entry.UnusedFrames <= FramesKeptUnused) {
+            ++at;
+            continue;
+        }
+        SDL_DestroyTexture(entry.Value.Texture);
+        m_IDs.erase(entry.Name);
+        at = m_Images.erase(at);
+    }
+}
+
+SDL_Texture* TextureCache::Load(const Key& key, Image& image)
+{
+    SDL_Surface* surface = LoadSurface(key.first);
+    if (!surface)
+        return nullptr;
+
+    if (key.second != 0)
+        ClearColor(surface, key.second);
+    image = {SDL_CreateTextureFromSurface(m_Renderer, surface), surface->w, surface->h};
+    SDL_FreeSurface(surface);
+    if (image.Texture) {
+        SDL_SetTextureBlendMode(image.Texture, SDL_BLENDMODE_BLEND);
+        SDL_SetTextureScaleMode(image.Texture, SDL_ScaleModeLinear);
+    }
+    return image.Texture;
+}
+
+} // namespace host

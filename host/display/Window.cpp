@@ -1,0 +1,79 @@
+#include "host/display/Window.h"
+
+#include <algorithm>
+
+namespace host {
+
+namespace {
+
+constexpr int SmallestWidth = 320;
+constexpr int SmallestHeight = 240;
+
+} // namespace
+
+Window::~Window()
+{
+    if (m_Renderer)
+        SDL_DestroyRenderer(m_Renderer);
+    if (m_Window)
+        SDL_DestroyWindow(m_Window);
+}
+
+bool Window::Open(const char* title, int width, int height)
+{
+    constexpr Uint32 flags = SDL_WINDOW_RESIZABLE | SDL_WINDOW_ALLOW_HIGHDPI | SDL_WINDOW_HIDDEN;
+    m_Window = SDL_CreateWindow(title, SDL_WINDOWPOS_CENTERED, SDL_WINDOWPOS_CENTERED, width, height, flags);
+    if (!m_Window)
+        return false;
+
+    SDL_SetWindowMinimumSize(m_Window, SmallestWidth, SmallestHeight);
+    m_Renderer = SDL_CreateRenderer(m_Window, -1, SDL_RENDERER_ACCELERATED | SDL_RENDERER_PRESENTVSYNC);
+    if (!m_Renderer)
+        m_Renderer = SDL_CreateRenderer(m_Window, -1, SDL_RENDERER_SOFTWARE);
+    if (!m_Renderer)
+        return false;
+
+    SDL_RendererInfo info = {};
+    SDL_GetRendererInfo(m_Renderer, &info);
+    m_WaitsForDisplay = (info.flags & SDL_RENDERER_PRESENTVSYNC) != 0;
+    return true;
+}
+
+void Window::Show()
+{
+    SDL_ShowWindow(m_Window);
+}
+
+int Window::Width() const
+{
+    int width = 0;
+    SDL_GetWindowSize(m_Window, &width, nullptr);
+    return width;
+}
+
+int Window::Height() const
+{
+    int height = 0;
+    SDL_GetWindowSize(m_Window, nullptr, &height);
+    return height;
+}
+
+float Window::Scale() const
+{
+    int pixels = 0;
+    if (SDL_GetRendererOutputSize(m_Renderer, &pixels, nullptr) != 0)
+        return 1;
+    return std::max(1.0f, static_cast<float>(pixels) / static_cast<float>(std::max(1, Width())));
+}
+
+bool Window::IsHidden() const
+{
+    return (SDL_GetWindowFlags(m_Window) & (SDL_WINDOW_MINIMIZED | SDL_WINDOW_HIDDEN)) != 0;
+}
+
+void Window::Present()
+{
+    SDL_RenderPresent(m_Renderer);
+}
+
+} // namespace host

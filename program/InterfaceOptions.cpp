@@ -1,0 +1,18 @@
+#include "program/InterfaceOptions.h"
+
+#include <CLI/CLI.hpp>
+
+void InterfaceOptions::AddTo(CLI::App& command)
+{
+    command.add_option("FILE", Files, "Interface files, loaded in this order")->required();
+    command
+        .add_option_function<std::string>(
+            "--size",
+            [this](const std::string& text) {
+                if (!Size.Read(text))
+                    throw CLI::ValidationError("--size", "'" + text + "' is no size such as 960x640");
+            },
+            "Size of the display (960x640)")
+        ->type_name("WxH");
+    command.add_option("--skin", Skin, "A skin from the folder interfaces/skins")->type_name("NAME");
+}

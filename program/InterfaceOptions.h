@@ -1,0 +1,19 @@
+#pragma once
+
+#include "program/DisplaySize.h"
+
+#include <string>
+#include <vector>
+
+namespace CLI {
+class App;
+}
+
+// The options of the commands that show interfaces: which files, how large, in which skin.
+struct InterfaceOptions {
+    std::vector<std::string> Files;
+    DisplaySize Size;
+    std::string Skin; // empty for the first one
+
+    void AddTo(CLI::App& command);
+};

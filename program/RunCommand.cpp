@@ -1,0 +1,94 @@
+#include "host/InterfaceSession.h"
+#include "host/display/InputRouter.h"
+#include "host/display/Window.h"
+#include "program/Commands.h"
+#include "program/DisplaySize.h"
+#include "program/InterfaceOptions.h"
+#include "teskara/core/CUIManager.h"
+
+#include <CLI/CLI.hpp>
+
+#include <algorithm>
+#include <cstdio>
+#include <memory>
+
+namespace {
+
+constexpr u32 FrameMilliseconds = 16;
+constexpr u32 HiddenFrameMilliseconds = 100;
+
+// Takes what has happened since the last frame. False: the window was closed.
+bool HandleEvents(host::InterfaceSession& session, host::InputRouter& input)
+{
+    SDL_Event event;
+    while (SDL_PollEvent(&event)) {
+        if (event.type == SDL_QUIT)
+            return false;
+        if (event.type == SDL_WINDOWEVENT || event.type == SDL_RENDER_TARGETS_RESET)
+            session.Host().Invalidate();
+        if (event.type == SDL_RENDER_DEVICE_RESET)
+            session.Host().ResetDevice();
+        input.Handle(event);
+    }
+    return true;
+}
+
+void RunFrames(host::InterfaceSession& session, host::Window& window)
+{
+    host::InputRouter input(g_UIManager, session.System());
+    SDL_StartTextInput();
+    bool shown = false;
+    for (u32 due = SDL_GetTicks(); HandleEvents(session, input);) {
+        const bool fresh = session.DrawFrame(window.Width(), window.Height(), window.Scale());
+        if (fresh)
+            window.Present();
+        if (!shown) {
+            window.Show();
+            shown = true;
+        }
+
+        // Presenting keeps the pace if it waits for the display. Otherwise, and when nothing changed, we wait.
+        const bool hidden = window.IsHidden();
+        const u32 now = SDL_GetTicks();
+        due = std::max(due + (hidden ? HiddenFrameMilliseconds : FrameMilliseconds), now);
+        if (!fresh || hidden || !window.WaitsForDisplay())
+            SDL_Delay(due - now);
+    }
+    SDL_StopTextInput();
+}
+
+int Run(const InterfaceOptions& options)
+{
+    if (SDL_Init(SDL_INIT_VIDEO) != 0) {
+        std::fprintf(stderr, "teskara: There is no display to open a window on (%s).\n", SDL_GetError());
+        return ExitFailed;
+    }
+    host::Window window;
+    if (!window.Open("Teskara", options.Size.Width, options.Size.Height)) {
+        std::fprintf(stderr, "teskara: Could not open a window: %s\n", SDL_GetError());
+        return ExitFailed;
+    }
+    host::InterfaceSession::Settings settings;
+    settings.Positions = host::StoredPositions::DefaultFile();
+    settings.Width = options.Size.Width;
+    settings.Height = options.Size.Height;
+    host::InterfaceSession session(window.Target(), settings);
+    if (!session.Open(options.Files, options.Skin))
+        return ExitFailed;
+
+    RunFrames(session, window);
+    return ExitDone;
+}
+
+} // namespace
+
+void AddRunCommand(CLI::App& app, int& exitCode)
+{
+    const auto options = std::make_shared<InterfaceOptions>();
+    CLI::App* run = app.add_subcommand("run", "Open interface files in a window");
+    options->AddTo(*run);
+    run->callback([options, &exitCode] {
+        exitCode = Run(*options);
+        SDL_Quit();
+    });
+}

@@ -1,0 +1,109 @@
+#include "host/InterfaceSession.h"
+#include "host/display/Picture.h"
+#include "program/Commands.h"
+#include "program/InterfaceOptions.h"
+#include "teskara/core/CUIManager.h"
+
+#include <CLI/CLI.hpp>
+
+#include <algorithm>
+#include <charconv>
+#include <cstdio>
+#include <memory>
+#include <optional>
+
+namespace {
+
+constexpr u32 FrameMilliseconds = 16;
+constexpr int LargestPicture = 16384;
+
+struct ShotOptions : InterfaceOptions {
+    std::string Output;
+    u32 At = 1000;
+    int Scale = 1;
+    std::optional<_Point2i> Mouse;
+};
+
+std::optional<_Point2i> ReadPoint(const std::string& text)
+{
+    _Point2i point;
+    const char* end = text.data() + text.size();
+    const auto [comma, first] = std::from_chars(text.data(), end, point.x);
+    if (first != std::errc() || comma == end || *comma != ',')
+        return std::nullopt;
+
+    const auto [stop, second] = std::from_chars(comma + 1, end, point.y);
+    return second == std::errc() && stop == end ? std::optional(point) : std::nullopt;
+}
+
+// Lets the time pass in steps of a frame and draws the last one.
+void DrawMoment(host::InterfaceSession& session, const ShotOptions& options)
+{
+    if (options.Mouse) {
+        _Point2i mouse = *options.Mouse;
+        session.SkipFrame();
+        g_UIManager.OnMouseMove(mouse);
+    }
+    for (u32 elapsed = 0; elapsed < options.At;) {
+        session.SkipFrame();
+        const u32 step = std::min(FrameMilliseconds, options.At - elapsed);
+        session.Clock().Advance(step);
+        elapsed += step;
+    }
+    session.DrawFrame(options.Size.Width, options.Size.Height, static_cast<float>(options.Scale));
+}
+
+int Shoot(const ShotOptions& options)
+{
+    const int width = options.Size.Width * options.Scale;
+    const int height = options.Size.Height * options.Scale;
+    if (width > LargestPicture || height > LargestPicture) {
+        std::fprintf(stderr, "teskara: A picture of %d by %d pixels is too large.\n", width, height);
+        return ExitFailed;
+    }
+    const host::Picture picture(width, height);
+    if (!picture.Target()) {
+        std::fprintf(stderr, "teskara: Could not make a picture: %s\n", SDL_GetError());
+        return ExitFailed;
+    }
+    host::InterfaceSession::Settings settings;
+    settings.ClockStandsStill = true;
+    settings.Width = options.Size.Width;
+    settings.Height = options.Size.Height;
+    host::InterfaceSession session(picture.Target(), settings);
+    if (!session.Open(options.Files, options.Skin))
+        return ExitFailed;
+
+    DrawMoment(session, options);
+    if (!picture.Save(options.Output)) {
+        std::fprintf(stderr, "teskara: Could not write %s: %s\n", options.Output.c_str(), SDL_GetError());
+        return ExitFailed;
+    }
+    return ExitDone;
+}
+
+} // namespace
+
+void AddShotCommand(CLI::App& app, int& exitCode)
+{
+    const auto options = std::make_shared<ShotOptions>();
+    CLI::App* shot = app.add_subcommand("shot", "Draw interface files into a picture, without a display");
+    options->AddTo(*shot);
+    shot->add_option("-o,--output", options->Output, "The PNG file to write")->required()->type_name("PNG");
+    shot->add_option("--at", options->At, "Milliseconds after the start (1000)")
+        ->check(CLI::Range(0, 600000))
+        ->type_name("MILLISECONDS");
+    shot->add_option("--scale", options->Scale, "Pixels of the picture for each of the interface (1)")
+        ->check(CLI::Range(1, 8))
+        ->type_name("N");
+    shot->add_option_function<std::string>(
+            "--mouse",
+            [options](const std::string& text) {
+                options->Mouse = ReadPoint(text);
+                if (!options->Mouse)
+                    throw CLI::ValidationError("--mouse", "'" + text + "' is no point such as 120,80");
+            },
+            "Where the mouse is")
+        ->type_name("X,Y");
+    shot->callback([options, &exitCode] { exitCode = Shoot(*options); });
+}
