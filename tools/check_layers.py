@@ -29,8 +29,7 @@ LAYERS = {
 
 # Where layers meet: these sources, never headers, see above their folder.
 MEETING_SOURCES = {
-    r"teskara/core/(CUIManager|InputRouting)\w*\.cpp": BELOW_CONTROLS | {"controls"},
-    r"teskara/core/Module\.cpp": TOOLKIT,
+    r"teskara/core/(CUIManager|Focus|InputRouting|Module)\.cpp": TOOLKIT,
     r"teskara/markup/(InterfaceLoader|TeskSkin)\w*\.cpp": BELOW_CONTROLS,
 }
 

@@ -1,0 +1,233 @@
+#!/usr/bin/env python3
+"""Runs the whole test suite; called by ./test, which explains the options."""
+
+import argparse
+import os
+import re
+import subprocess
+import sys
+import time
+from pathlib import Path
+
+import tidy
+
+ROOT = Path(__file__).resolve().parent.parent
+FUZZ_SECONDS = 60
+LONGEST_STAGE_SECONDS = 900
+
+SANITIZER_ENVIRONMENT = {
+    "ASAN_OPTIONS": "detect_stack_use_after_return=1",
+    "LSAN_OPTIONS": f"suppressions={ROOT}/tests/leaks_of_others.txt:print_suppressions=0",
+    "UBSAN_OPTIONS": "print_stacktrace=1",
+}
+
+
+class Tally:
+    """What passed, and of what failed the name and the command that shows it again."""
+
+    def __init__(self):
+        self.passed = 0
+        self.failures = []
+
+    def ok(self, count=1):
+        self.passed += count
+
+    def fail(self, name, rerun):
+        self.failures.append((name, rerun))
+
+
+def say(text):
+    print(f"== {text}", flush=True)
+
+
+def run(command):
+    """(exit status, output) of a command in the root; a hang counts as a failure."""
+    environment = {**os.environ, **SANITIZER_ENVIRONMENT}
+    try:
+        done = subprocess.run([str(word) for word in command], cwd=ROOT, env=environment, text=True, errors="replace",
+                              stdout=subprocess.PIPE, stderr=subprocess.STDOUT, timeout=LONGEST_STAGE_SECONDS)
+    except subprocess.TimeoutExpired as hung:
+        return 1, (hung.stdout or b"").decode(errors="replace") + f"\nstopped after {LONGEST_STAGE_SECONDS} s\n"
+    return done.returncode, done.stdout
+
+
+def check(tally, name, command):
+    """One test: the command's exit status."""
+    status, output = run(command)
+    if status == 0:
+        tally.ok()
+    else:
+        print(output.rstrip())
+        tally.fail(name, " ".join(str(word) for word in command))
+    return status == 0
+
+
+def build(tally, preset):
+    say(f"build/{preset}: building")
+    if subprocess.run([ROOT / "tools/build", preset, "--quiet"], cwd=ROOT).returncode == 0:
+        return True
+    tally.fail(f"build of {preset}", f"tools/build {preset}")
+    return False
+
+
+def check_the_house(tally):
+    say("checks: layers, sizes, and that these checks can fail")
+    check(tally, "layers", ["tools/check_layers.py"])
+    check(tally, "sizes", ["tools/check_sizes.py"])
+    check(tally, "checks of the checks", ["tools/test_checks.py"])
+
+
+def lint(tally):
+    say("lint: clang-tidy on what changed since it last passed")
+    passed, failed = tidy.run(ROOT, ROOT / "build/dev")
+    tally.ok(passed)
+    for name, output in failed:
+        print(output.rstrip())
+        tally.fail(f"lint of {name}", f"clang-tidy -p build/dev {name}")
+
+
+def unit_tests(tally, preset):
+    say(f"build/{preset}: unit tests")
+    program = f"build/{preset}/bin/teskara_unit"
+    if not (ROOT / program).exists():
+        return
+    done = []
+    while True:
+        # After a crash the tests that had not had their turn are run by themselves.
+        status, output = run([program, f"--gtest_filter=*:-{':'.join(done)}"])
+        names = re.findall(r"^\[ RUN      \] (\S+)", output, re.MULTILINE)
+        good = set(re.findall(r"^\[       OK \] (\S+)", output, re.MULTILINE))
+        finished = good | set(re.findall(r"^\[  (?:FAILED|SKIPPED) +\] (\S+?),? ", output, re.MULTILINE))
+        tally.ok(len(good))
+        for name in names:
+            if name not in good:
+                tally.fail(name, f"{program} --gtest_filter={name}")
+        done += names
+        crashed = [name for name in names if name not in finished]
+        if status != 0:
+            print(re.sub(r"^\[( RUN      |       OK |-+|=+)\].*\n", "", output, flags=re.MULTILINE).rstrip())
+        if status == 0 or not crashed:
+            if status != 0 and len(good) == len(names):
+                tally.fail(f"end of {program}", program)
+            return
+
+
+def transcripts(tally, preset):
+    say(f"build/{preset}: transcripts")
+    command = [f"build/{preset}/bin/teskara", "probe", "--check", "tests/transcripts"]
+    status, output = run(command)
+    counts = re.findall(r"^(\d+) passed, (\d+) failed$", output, re.MULTILINE)
+    if not counts:
+        print(output.rstrip())
+        tally.fail("transcripts", " ".join(command))
+        return
+
+    passed, failed = map(int, counts[-1])
+    tally.ok(passed)
+    if status == 0 and failed == 0:
+        return
+    print(output.rstrip())
+    names = list(dict.fromkeys(re.findall(r"\S+\.probe", output)))[:failed]
+    for name in names + ["a transcript"] * (max(failed, 1) - len(names)):
+        rerun = name if name in names else "tests/transcripts"
+        tally.fail(name, f"build/{preset}/bin/teskara probe --check {rerun}")
+
+
+def fuzz_targets():
+    return sorted(path.stem for path in (ROOT / "tests/fuzz").glob("*.cpp") if path.stem != "Replay")
+
+
+def replay_corpus(tally, preset):
+    say(f"build/{preset}: the stored corpus of the fuzz targets")
+    for target in fuzz_targets():
+        program = f"build/{preset}/bin/fuzz_{target}"
+        files = sorted(path.relative_to(ROOT) for path in (ROOT / "tests/fuzz/corpus" / target).glob("*"))
+        while files:
+            # The program names each file before it runs it, so after a crash the rest have their turn.
+            status, output = run([program, *files])
+            reached = len(set(output.splitlines()) & {str(file) for file in files})
+            if status == 0:
+                tally.ok(len(files))
+                break
+            print(output.rstrip()[-4000:])
+            tally.ok(max(reached - 1, 0))
+            culprit = files[max(reached - 1, 0)]
+            tally.fail(f"fuzz {target}: {culprit}", f"{program} {culprit}")
+            files = files[max(reached, 1):]
+
+
+def pictures(tally, preset):
+    say(f"build/{preset}: pictures")
+    cases = (ROOT / "tests/pictures/cases.txt")
+    for line in cases.read_text(encoding="utf-8").splitlines() if cases.exists() else []:
+        name, _, arguments = line.partition(":")
+        if name.strip() and not name.startswith("#"):
+            check(tally, f"picture {name}",
+                  ["tools/check_picture.py", f"build/{preset}/bin/teskara", name, *arguments.split()])
+
+
+def installed_copy(tally):
+    say("an installed copy: the program starts from it, and a client builds against it")
+    prefix, client = ROOT / "build/installed", ROOT / "build/installed_client"
+    if not check(tally, "install", ["cmake", "--install", "build/dev", "--prefix", prefix]):
+        return
+    check(tally, "installed program", [prefix / "bin/teskara", "--help"])
+    if check(tally, "client of an installed copy",
+             ["cmake", "-S", "tests/installed", "-B", client, "-G", "Ninja", f"-DCMAKE_PREFIX_PATH={prefix}"]):
+        check(tally, "build of a client", ["cmake", "--build", client])
+        check(tally, "run of a client", [client / "client"])
+
+
+def behaviour(tally, preset, with_pictures):
+    if not build(tally, preset):
+        return False
+    unit_tests(tally, preset)
+    transcripts(tally, preset)
+    replay_corpus(tally, preset)
+    if with_pictures:
+        pictures(tally, preset)
+    return True
+
+
+def fuzz(tally):
+    if not build(tally, "fuzz"):
+        return
+    for target in fuzz_targets():
+        say(f"fuzz: {target} searches for {FUZZ_SECONDS} seconds")
+        found, seeds = ROOT / "build/fuzz/found" / target, ROOT / "tests/fuzz/corpus" / target
+        found.mkdir(parents=True, exist_ok=True)
+        command = [f"build/fuzz/bin/fuzz_{target}", f"-max_total_time={FUZZ_SECONDS}", "-timeout=20", "-verbosity=0",
+                   "-print_final_stats=1", f"-artifact_prefix=build/fuzz/{target}-"]
+        dictionary = ROOT / f"tests/fuzz/{target}.dict"
+        if dictionary.exists():
+            command.append(f"-dict={dictionary}")
+        check(tally, f"fuzz {target}", [*command, found, seeds])
+
+
+def main():
+    parser = argparse.ArgumentParser(prog="./test", description="Runs the tests.")
+    parser.add_argument("--quick", action="store_true", help="no sanitizers, pictures, lint, second compiler")
+    parser.add_argument("--fuzz", action="store_true", help=f"each fuzz target searches for {FUZZ_SECONDS} seconds")
+    options = parser.parse_args()
+
+    tally, start = Tally(), time.monotonic()
+    if options.fuzz:
+        fuzz(tally)
+    else:
+        check_the_house(tally)
+        built = behaviour(tally, "dev", with_pictures=not options.quick)
+        if not options.quick:
+            if built:
+                lint(tally)
+                installed_copy(tally)
+            behaviour(tally, "sanitize", with_pictures=True)
+
+    say(f"done in {time.monotonic() - start:.0f} s")
+    for name, rerun in tally.failures:
+        print(f"FAILED {name}\n    again: {rerun}")
+    print(f"{tally.passed} passed, {len(tally.failures)} failed", flush=True)
+    return 1 if tally.failures else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())

@@ -1,0 +1,99 @@
+#!/usr/bin/env python3
+"""Shows that the checks can fail: each test hands a small tree with one fault to a check."""
+
+import tempfile
+import unittest
+from pathlib import Path
+
+import check_layers
+import check_sizes
+
+GOOD = {
+    "teskara/CMakeLists.txt": "set(SOURCES core/Numbers.cpp)",
+    "teskara/core/Numbers.h": "#pragma once\n#include <string>\n",
+    "teskara/core/Numbers.cpp": '#include "teskara/core/Numbers.h"\n',
+    "teskara/element/TeskElement.h": '#pragma once\n#include "teskara/core/Numbers.h"\n',
+}
+
+
+class Checks(unittest.TestCase):
+    def tree(self, changes):
+        folder = tempfile.TemporaryDirectory()
+        self.addCleanup(folder.cleanup)
+        root = Path(folder.name).resolve()
+        for name, text in {**GOOD, **changes}.items():
+            (root / name).parent.mkdir(parents=True, exist_ok=True)
+            (root / name).write_text(text, encoding="utf-8")
+        return root
+
+    def finds(self, words, changes):
+        found = list(check_layers.findings(self.tree(changes)))
+        self.assertEqual(len(found), 1, found)
+        self.assertIn(words, found[0])
+
+    def test_a_good_tree_passes(self):
+        self.assertEqual(list(check_layers.findings(self.tree({}))), [])
+
+    def test_a_header_must_not_look_up(self):
+        self.finds("may not see", {
+            "teskara/core/Up.h": '#pragma once\n#include "teskara/element/TeskElement.h"\n'})
+
+    def test_text_and_collections_do_not_see_each_other(self):
+        self.finds("may not see", {
+            "teskara/text/Entry.h": "#pragma once\n",
+            "teskara/collections/List.h": '#pragma once\n#include "teskara/text/Entry.h"\n'})
+
+    def test_only_the_source_of_the_loader_sees_elements(self):
+        loader = '#include "teskara/element/TeskElement.h"\n'
+        lists = {"teskara/CMakeLists.txt": "set(SOURCES core/Numbers.cpp markup/InterfaceLoader.cpp markup/XMLNode.cpp)"}
+        self.assertEqual(
+            list(check_layers.findings(self.tree({**lists, "teskara/markup/InterfaceLoader.cpp": loader}))), [])
+        self.finds("may not see", {
+            "teskara/CMakeLists.txt": "core/Numbers.cpp markup/XMLNode.cpp",
+            "teskara/markup/XMLNode.cpp": loader})
+
+    def test_the_toolkit_must_not_see_the_host(self):
+        self.finds("may not see", {
+            "host/Host.h": "#pragma once\n",
+            "teskara/core/Down.h": '#pragma once\n#include "host/Host.h"\n'})
+
+    def test_the_toolkit_must_not_see_a_third_party(self):
+        self.finds("not of the standard library", {"teskara/core/Draw.h": "#pragma once\n#include <SDL2/SDL.h>\n"})
+
+    def test_headers_must_not_form_a_circle(self):
+        self.finds("circle", {
+            "teskara/core/A.h": '#pragma once\n#include "teskara/core/B.h"\n',
+            "teskara/core/B.h": '#pragma once\n#include "teskara/core/A.h"\n'})
+
+    def test_an_include_must_lead_to_a_file(self):
+        self.finds("no file", {"teskara/core/A.h": '#pragma once\n#include "Numbers.h"\n'})
+
+    def test_a_source_includes_its_own_header_first(self):
+        self.finds("own header first", {
+            "teskara/core/Numbers.cpp": '#include <string>\n#include "teskara/core/Numbers.h"\n'})
+
+    def test_a_source_must_be_listed(self):
+        self.finds("stands in no", {"teskara/core/Lost.cpp": "\n"})
+
+    def test_a_name_must_say_something(self):
+        self.finds("says nothing", {"teskara/core/StringUtils.h": "#pragma once\n"})
+
+    def test_the_operating_system_stays_in_its_folder(self):
+        self.finds("operating system", {"teskara/core/A.h": "#pragma once\n#ifdef _WIN32\n#endif\n"})
+
+    def test_a_long_file_is_found(self):
+        found, _ = check_sizes.measure(self.tree({"host/Long.cpp": "int a;\n" * 501}))
+        self.assertEqual(found, ["host/Long.cpp has 501 lines, more than 500"])
+
+    def test_a_long_function_is_found_and_a_long_class_is_not(self):
+        body = "    Step();\n" * 101
+        function = "static int Long(\n    int a)\n{\n" + body + "}\n"
+        member = "class Holder\n{\n    int Long()\n    {\n" + body + "    }\n};\n"
+        found, lengths = check_sizes.measure(self.tree({"host/A.cpp": function, "host/B.cpp": member}))
+        self.assertEqual(lengths, [101, 101])
+        self.assertEqual(len(found), 2)
+        self.assertIn("static int Long(", found[0])
+
+
+if __name__ == "__main__":
+    unittest.main()

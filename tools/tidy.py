@@ -1,0 +1,55 @@
+#!/usr/bin/env python3
+"""Runs clang-tidy on each source of teskara, host and program, and remembers which passed.
+
+A source is looked at again when it, a header it reaches, or .clang-tidy has changed.
+"""
+
+import hashlib
+import os
+import subprocess
+from concurrent.futures import ThreadPoolExecutor
+
+import check_layers
+
+FOLDERS = ("teskara/", "host/", "program/")
+
+
+def reach(path, files, seen):
+    """Adds to seen the path and every file of the tree that it includes, directly or not."""
+    if path in seen:
+        return
+    seen.add(path)
+    for quoted, name in check_layers.includes_of(files[path]):
+        if quoted and name in files:
+            reach(name, files, seen)
+
+
+def fingerprint(path, files, settings):
+    seen = set()
+    reach(path, files, seen)
+    return hashlib.sha256("".join([settings, *(files[name] for name in sorted(seen))]).encode()).hexdigest()
+
+
+def look_at(path, root, build, key):
+    """None if the source is clean, else what clang-tidy says."""
+    stamp = build / "tidy" / (path + ".clean")
+    if stamp.exists() and stamp.read_text() == key:
+        return None
+    done = subprocess.run(["clang-tidy", "--quiet", "-p", str(build), path], cwd=root, text=True,
+                          stdout=subprocess.PIPE, stderr=subprocess.DEVNULL)
+    if done.returncode != 0:
+        return done.stdout
+    stamp.parent.mkdir(parents=True, exist_ok=True)
+    stamp.write_text(key)
+    return None
+
+
+def run(root, build):
+    """(number of clean sources, [(source, what clang-tidy says)])."""
+    files = check_layers.read_tree(root)
+    settings = (root / ".clang-tidy").read_text()
+    paths = [path for path in files if path.endswith(".cpp") and path.startswith(FOLDERS)]
+    with ThreadPoolExecutor(os.cpu_count()) as pool:
+        said = list(pool.map(lambda path: look_at(path, root, build, fingerprint(path, files, settings)), paths))
+    failed = [(path, text) for path, text in zip(paths, said) if text is not None]
+    return len(paths) - len(failed), failed
