@@ -1,0 +1,55 @@
+#include "bench/JsonLinesReporter.h"
+
+#include <algorithm>
+#include <cstdio>
+
+namespace {
+
+struct Samples {
+    std::string Unit;
+    std::vector<double> Values;
+};
+
+// The unit and value of one repetition.
+void AddSample(const JsonLinesReporter::Run& run, Samples& samples)
+{
+    if (run.counters.empty()) {
+        samples.Unit = "ms";
+        samples.Values.push_back(run.cpu_accumulated_time * 1e3 / static_cast<double>(run.iterations));
+        return;
+    }
+    const auto& [unit, counter] = *run.counters.begin();
+    samples.Unit = unit;
+    samples.Values.push_back(counter.value);
+}
+
+double Median(const std::vector<double>& sorted)
+{
+    const std::size_t middle = sorted.size() / 2;
+    return sorted.size() % 2 ? sorted[middle] : (sorted[middle - 1] + sorted[middle]) / 2;
+}
+
+} // namespace
+
+bool JsonLinesReporter::ReportContext(const Context&)
+{
+    return true;
+}
+
+void JsonLinesReporter::ReportRuns(const std::vector<Run>& runs)
+{
+    Samples samples;
+    for (const Run& run : runs) {
+        if (run.run_type == Run::RT_Iteration && !run.error_occurred)
+            AddSample(run, samples);
+    }
+    if (samples.Values.empty())
+        return;
+
+    std::sort(samples.Values.begin(), samples.Values.end());
+    std::printf("{\"peer\":\"teskara\",\"workload\":\"%s\",\"unit\":\"%s\",\"median\":%.6g,\"min\":%.6g,\"max\":%.6g,"
+                "\"n\":%zu,\"note\":\"%s\"}\n",
+        runs.front().run_name.function_name.c_str(), samples.Unit.c_str(), Median(samples.Values),
+        samples.Values.front(), samples.Values.back(), samples.Values.size(), runs.front().report_label.c_str());
+    std::fflush(stdout);
+}

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <benchmark/benchmark.h>
+
+#include <string>
+#include <vector>
+
+// Prints one JSON object a line for each benchmark: {"peer":"teskara","workload":...,"unit":...,"median":...,"min":...,
+// "max":...,"n":...,"note":...}. A benchmark says what it measured through its counters: one named after the unit holds
+// the value; without one, the value is milliseconds of CPU time an iteration. The label is the note.
+class JsonLinesReporter : public benchmark::BenchmarkReporter
+{
+public:
+    bool ReportContext(const Context& context) override;
+    void ReportRuns(const std::vector<Run>& runs) override;
+};
