@@ -1,0 +1,114 @@
+#pragma once
+
+#include "teskara/core/HostInterface.h"
+#include "teskara/core/platform/Platform.h"
+
+#include <cstddef>
+#include <string>
+
+// Decisions taken from a fuzzer's bytes; zeros when they are used up.
+class Decisions
+{
+public:
+    void Take(const u8* bytes, std::size_t size);
+    u8 Next();
+    bool Refuses() { return Next() % 8 == 7; }
+
+private:
+    const u8* m_Bytes = nullptr;
+    std::size_t m_Left = 0;
+};
+
+// A host that refuses operations at random and whose scripts do something hostile to the tree.
+class ChaosHost final : public HostObject
+{
+public:
+    Decisions Choices;
+    std::string File; // what LocateFile finds
+
+    HostScript* GetCurrentScript() override { return nullptr; }
+    void AddCommand(const char*, CommandHandler, int, int) override { }
+    void RemoveCommand(const char*) override { }
+    int ExecuteCommand(const char*) override { return -1; }
+    int DataParse(const char* text, char* output, u32 size) override;
+    void AddTopLevelObject(const char*, TopLevelObjectHandler) override { }
+    void RemoveTopLevelObject(const char*) override { }
+    void AddType(MvTypeDefinition*) override { }
+    void RemoveType(MvTypeDefinition*) override { }
+    MvTypeDefinition* FindType(const char*) override { return nullptr; }
+    void InvalidateTransientObject(u32, void*) override { }
+    u32 RegisterTransientClass(const char*) override { return 1; }
+    const char* CompleteCommandLine(const char*, bool) override { return nullptr; }
+    bool Calculate(const char*, double&) override { return false; }
+    void PrintLine(const char* format, ...) override;
+    HostScriptInterface* GetScriptInterface() override { return nullptr; }
+    u32 CompileAtom(const char*, u32) override;
+    void ReleaseAtom(u32 atom) override;
+    int ExecuteAtomForText(u32, int, char**, _MvTypeVar*, u32, char*, u32) override { return 0; }
+    int ExecuteAtom(u32, u32, int, char**, _MvTypeVar* self) override;
+    u32 FindAtom(const char*) override { return 0; }
+    u32 PreParseSequence(const char*, u32) override { return Id(); }
+    bool RetrieveOriginalText(u32, char*, u32) override { return false; }
+    bool RetrieveProcessedText(u32, char* buffer, u32 size) override;
+    bool RetrieveProcessedResult(u32, _MvTypeVar&) override { return false; }
+    void FreeSequence(u32) override { }
+    u32 RegisterObjectClass(const char*) override { return 1; }
+    void InvalidateObject(u32, void*) override { }
+    void SetTypeObjectClass(MvTypeDefinition*, u32) override { }
+    bool FindResourceFile(const char* name, char* path) override;
+    bool LocateFile(const char* name, char* path) override;
+    bool OpenClipboard() override { return false; }
+    void SaveElementPosition(TeskElement* element) override;
+    void LoadElementPosition(TeskElement* element) override;
+    bool GetKeyName(u32, char* buffer, u32 size) override;
+    void GetOutputConsole(char*, u32) override { }
+    void SetOutputConsole(const char*) override { }
+
+    void DrawRect(const tagRECT&, u32) override { }
+    bool DrawTexturedRect(const TeskDrawRecord&) override { return true; }
+    bool DrawTexturedRects(u32 count, const TeskDrawRecord* records) override;
+    bool DrawLine(const TeskDrawRecord&, u32) override { return true; }
+    u32 CreateFontResource(const char*, u8, bool, bool) override { return Id(); }
+    void ReleaseFontResource(u32 font) override { Release(font); }
+    u32 DrawText(u32, const char* text, const tagRECT&, u32, u32) override;
+    void MeasureText(u32, const char* text, int& width) override;
+    bool GetGlyphMetrics(u32, u32, u32, float* before, float* glyph, float* after) override;
+    bool GetDisplaySize(int& width, int& height) override;
+    u32 LoadTextureResource(const char*, u32) override { return Id(); }
+    bool GetTextureResourceSize(u32, _Point2i& size) override;
+    void ReleaseTextureResource(u32 texture) override { Release(texture); }
+
+    // Fonts, textures and atoms that were made and not given back.
+    int LiveResources() const { return m_LiveResources; }
+
+private:
+    u32 Id();
+    void Release(u32 id);
+    void DoHarm(TeskElement* self);
+
+    u32 m_LastID = 0;
+    int m_LiveResources = 0;
+    int m_HarmDepth = 0;
+};
+
+// A platform whose clock the fuzzer moves, and that says nothing.
+class QuietPlatform final : public Platform
+{
+public:
+    u32 Ticks = 10000;
+
+    u32 GetTickCount() override { return Ticks; }
+    bool IsKeyToggled(u32) override { return false; }
+    int ToAscii(u32, const u8*, char*) override { return 0; }
+    char16_t AnsiToWide(u8 character) override { return character; }
+    std::FILE* OpenFile(const char16_t* path) override { return SystemPlatform().OpenFile(path); }
+    bool FileExists(const char16_t* path) override { return SystemPlatform().FileExists(path); }
+    std::string GetModulePath() override { return {}; }
+    void WriteDebugOutput(const char*) override { }
+    void RangeFailure() override { }
+    bool OpenClipboard() override { return false; }
+    void CloseClipboard() override { }
+    bool EmptyClipboard() override { return false; }
+    bool SetClipboardText(const std::u16string&) override { return false; }
+    bool GetClipboardText(std::u16string&) override { return false; }
+};

@@ -1,0 +1,106 @@
+// Whole interface files through the loader, with a host that refuses at random and scripts that do harm, then frames and
+// some input. The first byte says how many of the following bytes are decisions; the rest is the file.
+
+#include "host/probe/TreeChecker.h"
+#include "teskara/core/CUIManager.h"
+#include "tests/fuzz/ChaosHost.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+#include <string>
+#include <sys/mman.h>
+#include <unistd.h>
+
+namespace {
+
+// A file in memory that is written anew for each input.
+class MemoryFile
+{
+public:
+    MemoryFile()
+        : m_File(memfd_create("interface", 0))
+    {
+        if (m_File < 0)
+            std::abort();
+    }
+
+    std::string Path() const { return "/proc/self/fd/" + std::to_string(m_File); }
+
+    void Write(const u8* bytes, std::size_t size) const
+    {
+        if (ftruncate(m_File, 0) != 0 || pwrite(m_File, bytes, size, 0) != static_cast<ssize_t>(size))
+            std::abort();
+    }
+
+private:
+    int m_File;
+};
+
+ChaosHost& StartedHost()
+{
+    static QuietPlatform platform;
+    static ChaosHost* host = [] {
+        SetPlatform(&platform);
+        auto* started = new ChaosHost; // outlives the library's end
+        F1(started)->Initialize();
+        return started;
+    }();
+    platform.Ticks += 16;
+    return *host;
+}
+
+void CheckTree()
+{
+    const std::string fault = FindTreeFault();
+    if (fault.empty())
+        return;
+
+    std::fprintf(stderr, "%s\n", fault.c_str());
+    std::abort();
+}
+
+void DriveInput(Decisions& choices)
+{
+    for (int step = 0; step < 4; ++step) {
+        _Point2i point = {choices.Next() * 4, choices.Next() * 4};
+        g_UIManager.OnMouseMove(point);
+        g_UIManager.OnLMouseDown();
+        CheckTree();
+        g_UIManager.OnLMouseUp();
+        g_UIManager.OnRMouseDown();
+        g_UIManager.OnKeyDown(choices.Next());
+        g_UIManager.OnRMouseUp();
+        g_UIManager.OnMouseWheel(choices.Next() - 128);
+        g_UIManager.Render();
+        CheckTree();
+    }
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const u8* data, std::size_t size)
+{
+    static const MemoryFile file;
+    if (size == 0)
+        return 0;
+
+    ChaosHost& host = StartedHost();
+    const std::size_t decisions = std::min<std::size_t>(data[0], size - 1);
+    host.File = file.Path();
+    file.Write(data + 1 + decisions, size - 1 - decisions);
+    host.Choices.Take(data + 1, decisions);
+
+    g_UIManager.LoadInterfaceXML("f", true, nullptr);
+    CheckTree();
+    g_UIManager.Render();
+    DriveInput(host.Choices);
+
+    host.Choices.Take(nullptr, 0);
+    g_UIManager.Reset();
+    g_UIManager.ClearTemplates();
+    CheckTree();
+    if (host.LiveResources() != 0)
+        std::abort();
+    return 0;
+}
