@@ -30,7 +30,7 @@ TEST(Utf8String, OnlyLettersOfAsciiHaveACase)
     for (int code = 0; code < 256; ++code) {
         const bool isUpper = code >= 'A' && code <= 'Z';
         const char character = static_cast<char>(code);
-        for (const std::size_t length : {1, 3, 7, 8, 9, 15, 16, 17}) {
+        for (const std::size_t length : {1u, 3u, 7u, 8u, 9u, 15u, 16u, 17u}) {
             const std::string name = std::string(length - 1, 'x') + character;
             const std::string other = std::string(length - 1, 'X') + static_cast<char>(code ^ 0x20);
             const bool isLetter = isUpper || (code >= 'a' && code <= 'z');
