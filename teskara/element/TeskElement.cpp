@@ -13,10 +13,7 @@
 #include <new>
 
 TeskElement::TeskElement(const char* type, TeskElement* parent, const char* name)
-    : Type(TextOrEmpty(type))
-    , Name(TextOrEmpty(name))
-    , Parent(parent)
-    , FadeStart(g_UIManager.FrameTick)
+    : Type(TextOrEmpty(type)), Name(TextOrEmpty(name)), Parent(parent), FadeStart(g_UIManager.FrameTick)
 {
     BuildFullName();
     FoldAscii(Name);
@@ -146,6 +143,7 @@ void TeskElement::Unlink()
 // Puts the element into its parent's list behind a sibling; null puts it at the head.
 void TeskElement::LinkAfter(TeskElement* sibling)
 {
+    ++s_Relinks;
     Previous = sibling;
     Next = sibling ? sibling->Next : Parent->FirstChild;
     (Previous ? Previous->Next : Parent->FirstChild) = this;
@@ -212,13 +210,9 @@ void TeskElement::Show(bool show)
     Visible = show;
 }
 
-void TeskElement::OnCreate()
-{
-}
+void TeskElement::OnCreate() { }
 
-void TeskElement::OnDestroy()
-{
-}
+void TeskElement::OnDestroy() { }
 
 MvTypeDefinition* TeskElement::GetMvType()
 {

@@ -13,6 +13,7 @@ class TeskFixedFont;
 class TeskFont;
 class TeskTexture;
 class XMLNode;
+struct TeskDrawRecord;
 
 // What a control tells its parents through OnNotify. The value is 0 where nothing else is said.
 enum NotificationCode : u32 {
@@ -31,14 +32,14 @@ enum NotificationCode : u32 {
     NotifyMouseMoved = 14,
     NotifyMouseWheel = 15, // the offset
     NotifyFontChanged = 50, // no source; the font
-    NotifyChildGoing = 51,  // the child's Name; only its address may be used
+    NotifyChildGoing = 51, // the child's Name; only its address may be used
 };
 
 enum FadeState : u32 {
-    FadeNormal = 0,   // at Alpha; automatic fading watches the mouse
+    FadeNormal = 0, // at Alpha; automatic fading watches the mouse
     FadeDelaying = 1, // waiting out FadeDelay
-    FadeFading = 2,   // on the way from Alpha to FadeAlpha
-    FadeFaded = 3,    // at FadeAlpha
+    FadeFading = 2, // on the way from Alpha to FadeAlpha
+    FadeFaded = 3, // at FadeAlpha
 };
 
 // How far an element is on its way out. A going element is whole, but is not deleted again, filled, focused or raised.
@@ -262,12 +263,13 @@ public:
 
     // Replaces a texture by one from markup text (argv[0]) under a skin (argv[1]). False: there is none now.
     bool TextureFromArgs(int argc, char** argv, TeskTexture** texture);
+    bool TextureFromArgs(int argc, char** argv, std::unique_ptr<TeskTexture>& texture);
 
     // --- Identity
 
-    utf8string Type;     // kind word
-    u32 ID = 0;          // never used twice
-    utf8string Name;     // lower case
+    utf8string Type; // kind word
+    u32 ID = 0; // never used twice
+    utf8string Name; // lower case
     utf8string FullName; // name@parent@..., in the case it was given
 
     // --- Family; pointers belong to the tree
@@ -318,7 +320,7 @@ public:
     u32 FadeState = FadeDelaying;
     std::unique_ptr<utf8string> AutoTooltip;
     float AbsoluteAlpha = 1.0f; // of this frame, the parents' applied
-    i32 AbsoluteX = 0;          // of this frame
+    i32 AbsoluteX = 0; // of this frame
     i32 AbsoluteY = 0;
 
 private:
@@ -333,7 +335,11 @@ private:
     void Detach();
     void UpdateAutoTooltip();
     static void HideAutoTooltip();
+    void KeepStart();
     void UpdateAutoFade();
     bool RenderChild(TeskElement& child);
     bool IsOffScreen(const tagRECT& rect) const;
+    bool DescribeTexture(TeskDrawRecord& record, const TeskTexture* texture) const;
+
+    static u32 s_Relinks; // how often any element has moved among its siblings
 };

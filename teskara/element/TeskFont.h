@@ -71,30 +71,19 @@ public:
 protected:
     TeskFont(TeskElement* owner, const char* name, u8 size, bool fixed, bool bold);
 
-    // Sum of the three widths of a character; false if the host does not tell.
-    bool GetAdvance(u32 character, float& advance);
+    // Width of a character, by its three measures, in a face that is made; 12 if the host does not tell.
+    float GetAdvance(u8 character) const;
 
-    void FillFrom(const TeskFont& source);
-    void FillFrom(const _CreateFont& record, XMLNode* templateNode);
+    // The record with its gaps filled: from the template, or without one from what is usual.
+    static _CreateFont WithFallbacks(const _CreateFont& record, XMLNode* templateNode);
+
+    // What a character, or a space, counts as wide where nothing better is known.
+    static constexpr int UnknownWidth = 12;
 
 private:
+    bool EnsureFace() { return FontID != 0 || Prepare(); }
     u64 DrawInBox(const char* text, i32 x, i32 y, u64 width, u32 format);
-    void FaceChanged();
-};
-
-// A font in which every character is equally wide.
-class TESKARA_EXPORT TeskFixedFont : public TeskFont
-{
-public:
-    bool Prepare() override;
-
-    static TeskFixedFont* New(TeskElement* owner, const char* name, u8 size, bool bold);
-    static TeskFixedFont* New(TeskElement* owner, const TeskFont& source);
-    static TeskFixedFont* New(TeskElement* owner, const _CreateFont& record, XMLNode* templateNode);
-
-    // Width of each character in pixels; 12 if it is not known.
-    u64 GetCharWidthA();
-
-private:
-    TeskFixedFont(TeskElement* owner, const char* name, u8 size, bool bold);
+    u64 MeasureFace(const char* text) const;
+    u32 GetColumnByOffset(const char* text, u64 offset) const;
+    void TellOwner();
 };

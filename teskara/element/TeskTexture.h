@@ -22,6 +22,7 @@ public:
     static TeskTexture* New(const char* filename);
     static TeskTexture* New(const TeskTexture& source);
 
+    TeskTexture(const TeskTexture& source);
     ~TeskTexture();
     TeskTexture& operator=(const TeskTexture&) = delete;
 
@@ -34,7 +35,7 @@ public:
     bool FromXML(XMLNode* node, XMLNode* templateNode);
 
     // Loads the image if it is not loaded. False: it cannot be loaded; the next call tries again.
-    bool Prepare();
+    bool Prepare() const;
 
     // Fills Right and Bottom from the loaded image where no rectangle was given. Loads nothing.
     bool GetSize();
@@ -46,7 +47,7 @@ public:
     void SetFrom(const TeskTexture& source);
 
     utf8string Filename; // empty: no image, only ColorMask
-    u32 TextureID = 0;   // host's, 0 while not loaded
+    mutable u32 TextureID = 0; // host's, 0 while not loaded
     u32 ColorKey = 0;
     u32 Flags = 0;
     i32 Left = 0;
@@ -61,13 +62,14 @@ public:
     float Y3 = 0;
     float Alpha = 1.0f;
     u32 ColorMask = 0;
-    u32 Border = 0;     // width of the frame in the image
+    u32 Border = 0; // width of the frame in the image
     u8 Orientation = 0; // quarter turns clockwise
 
 private:
     explicit TeskTexture(const char* filename);
-    TeskTexture(const TeskTexture& source);
 
     void ReleaseImage();
     void CopyFields(const TeskTexture& source);
+    void ReadTriangle(XMLNode* triangle);
+    void ReadColorMaskAttribute(XMLNode* node, XMLNode* templateNode);
 };

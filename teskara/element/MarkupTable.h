@@ -1,0 +1,172 @@
+#pragma once
+
+#include "teskara/core/AsciiCase.h"
+#include "teskara/core/Types.h"
+#include "teskara/element/ElementWatch.h"
+#include "teskara/element/TeskElement.h"
+#include "teskara/markup/MarkupSource.h"
+
+#include <cstddef>
+#include <string_view>
+
+// The values that a control reads from markup, as a constant table in the order of reading:
+//
+//     constexpr MarkupValue<TeskFrame> FrameValues[] = {
+//         {"Border",  Markup::Integer<&TeskFrame::Border>,  0},
+//         {"Texture", Markup::Texture<&TeskFrame::Texture>, {}},
+//     };
+//
+//     return ReadMarkup(*this, FrameValues, {node, templateNode});
+//
+// The columns are kept by hand, so a table stands between the marks that keep the formatter away. A value that depends
+// on one just read is a row with a form of its own: {"name", lambda}.
+
+// What a value is if neither node nor template has it.
+struct MarkupDefault {
+    constexpr MarkupDefault() = default;
+    constexpr MarkupDefault(int number) : Number(static_cast<u32>(number)) { }
+    constexpr MarkupDefault(u32 number) : Number(number) { }
+    constexpr MarkupDefault(bool toggle) : Number(toggle) { }
+    constexpr MarkupDefault(float real) : Real(real) { }
+    constexpr MarkupDefault(const char* text) : Text(text) { }
+
+    u32 Number = 0;
+    float Real = 0;
+    const char* Text = "";
+};
+
+// How a text becomes the field of a control: the name that people read, and the function.
+template <class Owner> struct MarkupForm {
+    const char* Name;
+    void (*Read)(Owner& control, const MarkupSource& source, TagName tag, MarkupDefault fallback);
+};
+
+template <class Owner> struct MarkupValue {
+    TagName Tag;
+    MarkupForm<Owner> Form;
+    MarkupDefault Default;
+};
+
+// Reads every value of a table in its order. False: the control was deleted meanwhile.
+template <class Owner, std::size_t Count>
+bool ReadMarkup(Owner& control, const MarkupValue<Owner> (&values)[Count], const MarkupSource& source)
+{
+    const ElementWatch self(control);
+    for (const MarkupValue<Owner>& value : values) {
+        value.Form.Read(control, source, value.Tag, value.Default);
+        if (!self.Exists())
+            return false;
+    }
+    return true;
+}
+
+namespace Markup {
+
+template <class Member> struct FieldTraits;
+
+template <class OwnerType, class FieldType> struct FieldTraits<FieldType OwnerType::*> {
+    using Owner = OwnerType;
+    using Type = FieldType;
+};
+
+template <auto Field> using OwnerOf = typename FieldTraits<decltype(Field)>::Owner;
+
+template <auto Field> using TypeOf = typename FieldTraits<decltype(Field)>::Type;
+
+// A narrower field keeps the low bits.
+template <auto Field>
+constexpr MarkupForm<OwnerOf<Field>> Integer = {
+    "integer", [](OwnerOf<Field>& control, const MarkupSource& source, TagName tag, MarkupDefault fallback) {
+        control.*Field = static_cast<TypeOf<Field>>(source.Integer(tag, fallback.Number));
+    }};
+
+template <auto Field>
+constexpr MarkupForm<OwnerOf<Field>> Hex = {
+    "hex", [](OwnerOf<Field>& control, const MarkupSource& source, TagName tag, MarkupDefault fallback) {
+        control.*Field = source.Hex(tag, fallback.Number);
+    }};
+
+template <auto Field>
+constexpr MarkupForm<OwnerOf<Field>> Float = {
+    "float", [](OwnerOf<Field>& control, const MarkupSource& source, TagName tag, MarkupDefault fallback) {
+        control.*Field = source.Float(tag, fallback.Real);
+    }};
+
+template <auto Field>
+constexpr MarkupForm<OwnerOf<Field>> Toggle = {
+    "toggle", [](OwnerOf<Field>& control, const MarkupSource& source, TagName tag, MarkupDefault fallback) {
+        control.*Field = source.Toggle(tag, fallback.Number != 0);
+    }};
+
+template <auto Field>
+constexpr MarkupForm<OwnerOf<Field>> Text = {
+    "text", [](OwnerOf<Field>& control, const MarkupSource& source, TagName tag, MarkupDefault fallback) {
+        control.*Field = source.Text(tag, fallback.Text);
+    }};
+
+// One of a few words, in any case. Words is a constant array of MarkupWord; any other text means the default.
+struct MarkupWord {
+    std::string_view Word;
+    u32 Value;
+};
+
+template <auto Field, const auto& Words>
+constexpr MarkupForm<OwnerOf<Field>> Word = {
+    "word", [](OwnerOf<Field>& control, const MarkupSource& source, TagName tag, MarkupDefault fallback) {
+        const std::string_view text = source.Text(tag, "");
+        u32 number = fallback.Number;
+        for (const MarkupWord& word : Words) {
+            if (EqualsNoCase(text, word.Word))
+                number = word.Value;
+        }
+        control.*Field = static_cast<TypeOf<Field>>(number);
+    }};
+
+// A coordinate or dimension and how it follows the parent.
+template <auto Field, auto Position>
+constexpr MarkupForm<OwnerOf<Field>> Place = {
+    "position", [](OwnerOf<Field>& control, const MarkupSource& source, TagName tag, MarkupDefault) {
+        control.*Field = static_cast<TypeOf<Field>>(source.Position(tag, control.*Position));
+    }};
+
+// The fields of what follows own what they are given.
+template <auto Field>
+constexpr MarkupForm<OwnerOf<Field>> Texture = {
+    "texture", [](OwnerOf<Field>& control, const MarkupSource& source, TagName tag, MarkupDefault) {
+        (control.*Field).reset(control.TextureFromXML(source.Node(), tag.Text, source.Template()));
+    }};
+
+template <auto Field>
+constexpr MarkupForm<OwnerOf<Field>> Font = {
+    "font", [](OwnerOf<Field>& control, const MarkupSource& source, TagName tag, MarkupDefault) {
+        (control.*Field).reset(control.FontFromXML(source.Node(), tag.Text, source.Template()));
+    }};
+
+template <auto Field>
+constexpr MarkupForm<OwnerOf<Field>> FixedFont = {
+    "fixed font", [](OwnerOf<Field>& control, const MarkupSource& source, TagName tag, MarkupDefault) {
+        (control.*Field).reset(control.FixedFontFromXML(source.Node(), tag.Text, source.Template()));
+    }};
+
+// A script; the default is the list of its arguments. A script that does not compile is reported, and the report may
+// end the element, but then there is nothing to keep.
+template <auto Field>
+constexpr MarkupForm<OwnerOf<Field>> Script = {
+    "script", [](OwnerOf<Field>& control, const MarkupSource& source, TagName tag, MarkupDefault arguments) {
+        if (!source.Child(tag))
+            return;
+        if (auto* script = control.EmbeddedScriptFromXML(source.Node(), tag.Text, source.Template(), arguments.Text))
+            (control.*Field).reset(script);
+    }};
+
+// The same for the scripts that every element has.
+template <auto Field>
+constexpr MarkupForm<TeskElement> Event = {
+    "script", [](TeskElement& element, const MarkupSource& source, TagName tag, MarkupDefault arguments) {
+        if (!source.Child(tag))
+            return;
+        if (auto* script = element.EmbeddedScriptFromXML(source.Node(), tag.Text, source.Template(), arguments.Text))
+            (element.Events.*Field).reset(script);
+    }};
+
+} // namespace Markup

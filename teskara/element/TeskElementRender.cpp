@@ -1,0 +1,181 @@
+#include "teskara/core/CUIManager.h"
+#include "teskara/core/Limits.h"
+#include "teskara/core/Numbers.h"
+#include "teskara/element/ElementWatch.h"
+#include "teskara/element/TeskElement.h"
+#include "teskara/element/TooltipPanel.h"
+
+u32 TeskElement::s_Relinks = 0;
+
+namespace {
+
+constexpr char AutoTooltipName[] = "Auto Tooltip";
+
+// How far from the mouse an automatic tooltip appears, to the left and above.
+constexpr i32 TooltipDistance = 10;
+
+// The element that shows the tooltips of others; null if there is none, or only a namesake.
+TeskElement* FindAutoTooltip()
+{
+    TeskElement* element = g_UIManager.FindElement(AutoTooltipName);
+    return dynamic_cast<TooltipPanel*>(element) ? element : nullptr;
+}
+
+// Ends a walk over children that scripts keep moving or making, which else might not end. Children are only counted when
+// the walk is a long one and something has moved or was made since it began.
+class ChildWalkBound
+{
+public:
+    ChildWalkBound(const TeskElement& parent, const u32& relinks)
+        : m_Parent(parent), m_Relinks(relinks), m_RelinksAtStart(relinks), m_NextIDAtStart(g_UIManager.NextElementID)
+    {
+    }
+
+    // False: this step is one too many.
+    bool Step()
+    {
+        if (++m_Steps <= Limits::ChildWalkSteps || !HasListChanged())
+            return true;
+        if (m_Limit == 0)
+            m_Limit = Limits::ChildWalkFactor * CountChildren() + Limits::ChildWalkSteps;
+        return m_Steps <= m_Limit;
+    }
+
+private:
+    bool HasListChanged() const
+    {
+        return m_Relinks != m_RelinksAtStart || g_UIManager.NextElementID != m_NextIDAtStart;
+    }
+
+    // Those that were made since do not count.
+    std::size_t CountChildren() const
+    {
+        std::size_t count = 0;
+        for (const TeskElement* child = m_Parent.FirstChild; child; child = child->Next)
+            count += child->ID < m_NextIDAtStart;
+        return count;
+    }
+
+    const TeskElement& m_Parent;
+    const u32& m_Relinks;
+    u32 m_RelinksAtStart;
+    u32 m_NextIDAtStart;
+    std::size_t m_Steps = 0;
+    std::size_t m_Limit = 0;
+};
+
+} // namespace
+
+void TeskElement::Render()
+{
+    if (AutoTooltip)
+        UpdateAutoTooltip();
+    RenderChildren();
+}
+
+// A child that moves among its siblings while it draws carries the walk with it. One that dies ends it.
+void TeskElement::RenderChildren()
+{
+    const ElementWatch self(*this);
+    ChildWalkBound bound(*this, s_Relinks);
+    for (TeskElement* child = FirstChild; child && bound.Step(); child = child->Next) {
+        if (!RenderChild(*child) || !self.Exists())
+            return;
+    }
+}
+
+// False: the child died.
+bool TeskElement::RenderChild(TeskElement& child)
+{
+    const i32 x = WrapAdd(AbsoluteX, child.X);
+    const i32 y = WrapAdd(AbsoluteY, child.Y);
+    if (!child.Visible) {
+        child.SpreadPosition(x, y);
+        return true;
+    }
+
+    child.AbsoluteX = x;
+    child.AbsoluteY = y;
+    const float alpha = AbsoluteAlpha; // the script may end this element and not the child
+    const ElementWatch watch(child);
+    RunScript(child.Events.OnRender);
+    if (!watch.Exists())
+        return false;
+
+    if (child.FadeDelay != 0)
+        child.UpdateAutoFade();
+    child.AbsoluteAlpha = child.GetCurrentAlpha() * alpha;
+    child.Render();
+    return watch.Exists();
+}
+
+// With a delay an element fades while the mouse is elsewhere and comes back at once.
+void TeskElement::UpdateAutoFade()
+{
+    const bool isMouseInside = HitTest(g_UIManager.MousePosition);
+    if (FadeState != FadeNormal) {
+        if (isMouseInside)
+            FadeState = FadeNormal;
+    } else if (!isMouseInside) {
+        FadeState = FadeDelaying;
+        FadeStart = g_UIManager.FrameTick;
+    }
+}
+
+float TeskElement::GetCurrentAlpha()
+{
+    const u32 now = g_UIManager.FrameTick;
+    const u32 begin = FadeStart + FadeDelay;
+    if (FadeState == FadeDelaying) {
+        if (FadeDelay == 0)
+            FadeState = FadeNormal;
+        else if (begin < now)
+            FadeState = FadeFading;
+    }
+
+    if (FadeState == FadeFading) {
+        if (FadeDuration != 0 && begin + FadeDuration > now) {
+            const float part = static_cast<float>(now - begin) / static_cast<float>(FadeDuration);
+            return Alpha - (Alpha - FadeAlpha) * part;
+        }
+        FadeState = FadeFaded;
+    }
+    return FadeState == FadeFaded ? FadeAlpha : Alpha;
+}
+
+// Shows the element's tooltip when the mouse has rested on it, and hides it when the mouse has gone.
+void TeskElement::UpdateAutoTooltip()
+{
+    if (!IsMouseOver()) {
+        if (g_UIManager.TooltipElementID != ID)
+            return;
+        const TeskElement* tooltip = FindAutoTooltip();
+        if (tooltip && tooltip->Visible)
+            HideAutoTooltip();
+        return;
+    }
+
+    const u32 rested = g_UIManager.FrameTick - g_UIManager.LastInputTick;
+    if (g_UIManager.TooltipElementID != 0 || rested < g_UIManager.TooltipDelay)
+        return;
+
+    TeskElement* tooltip = FindAutoTooltip();
+    if (!tooltip || tooltip->Visible)
+        return;
+
+    g_UIManager.TooltipElementID = ID;
+    tooltip->X = WrapSub(g_UIManager.MousePosition.x, TooltipDistance);
+    tooltip->Y = WrapSub(g_UIManager.MousePosition.y, TooltipDistance);
+    dynamic_cast<TooltipPanel*>(tooltip)->ShowOnly(AutoTooltip->c_str());
+    tooltip->Show(true);
+}
+
+void TeskElement::HideAutoTooltip()
+{
+    TeskElement* tooltip = FindAutoTooltip();
+    if (!tooltip)
+        return;
+
+    g_UIManager.TooltipElementID = 0;
+    tooltip->Show(false);
+}
