@@ -24,30 +24,26 @@ int CompareNoCase(std::string_view left, std::string_view right);
 
 namespace AsciiCase {
 
-// Compilers turn these into one load. The bit that is set makes letters equal in both cases.
-constexpr u64 FoldedByte(std::string_view text, std::size_t index)
+// Compilers turn these into one load.
+constexpr u64 FourBytes(std::string_view text, std::size_t index)
 {
-    return static_cast<unsigned char>(text[index]) | 0x20u;
+    const auto byte = [&](std::size_t place) { return u64 {static_cast<unsigned char>(text[index + place])}; };
+    return byte(0) | byte(1) << 8 | byte(2) << 16 | byte(3) << 24;
 }
 
-constexpr u64 FoldedFourBytes(std::string_view text, std::size_t index)
+constexpr u64 EightBytes(std::string_view text, std::size_t index)
 {
-    return FoldedByte(text, index) | FoldedByte(text, index + 1) << 8 | FoldedByte(text, index + 2) << 16
-        | FoldedByte(text, index + 3) << 24;
+    return FourBytes(text, index) | FourBytes(text, index + 4) << 32;
 }
 
-constexpr u64 FoldedEightBytes(std::string_view text, std::size_t index)
-{
-    return FoldedFourBytes(text, index) | FoldedFourBytes(text, index + 4) << 32;
-}
-
+// The bit that is set first makes letters equal in both cases.
 constexpr u64 MixHash(u64 hash, u64 word)
 {
-    hash = (hash ^ word) * 0x9E3779B97F4A7C15u;
+    hash = (hash ^ (word | 0x2020202020202020u)) * 0x9E3779B97F4A7C15u;
     return hash ^ hash >> 32;
 }
 
-}
+} // namespace AsciiCase
 
 // A hash that is the same for texts that are equal but for case. Meant for short fixed names, also at compile time;
 // it is neither seeded nor strong, so it must not choose the slots of a map that is filled from a file.
@@ -57,14 +53,16 @@ constexpr u32 FoldedHash(std::string_view text)
     u64 hash = size;
     if (size >= 8) {
         for (std::size_t index = 0; index + 8 < size; index += 8)
-            hash = AsciiCase::MixHash(hash, AsciiCase::FoldedEightBytes(text, index));
-        hash = AsciiCase::MixHash(hash, AsciiCase::FoldedEightBytes(text, size - 8));
+            hash = AsciiCase::MixHash(hash, AsciiCase::EightBytes(text, index));
+        hash = AsciiCase::MixHash(hash, AsciiCase::EightBytes(text, size - 8));
     } else if (size >= 4) {
-        const u64 last = AsciiCase::FoldedFourBytes(text, size - 4);
-        hash = AsciiCase::MixHash(hash, AsciiCase::FoldedFourBytes(text, 0) | last << 32);
-    } else if (size > 0) {
-        const u64 rest = AsciiCase::FoldedByte(text, size / 2) << 8 | AsciiCase::FoldedByte(text, size - 1) << 16;
-        hash = AsciiCase::MixHash(hash, AsciiCase::FoldedByte(text, 0) | rest);
+        const u64 last = AsciiCase::FourBytes(text, size - 4);
+        hash = AsciiCase::MixHash(hash, AsciiCase::FourBytes(text, 0) | last << 32);
+    } else {
+        u64 word = 0;
+        for (const char character : text)
+            word = word << 8 | static_cast<unsigned char>(character);
+        hash = AsciiCase::MixHash(hash, word);
     }
     return static_cast<u32>(hash);
 }

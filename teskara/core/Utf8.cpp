@@ -1,5 +1,6 @@
 #include "teskara/core/Utf8.h"
 
+#include "teskara/core/AsciiBlock.h"
 #include "teskara/core/Types.h"
 
 #include <algorithm>
@@ -117,8 +118,6 @@ void WriteBytes(char32_t character, char* to)
     to[0] = static_cast<char>((0xF00u >> count) | character);
 }
 
-// The block forms below are written as plain loops of fixed length, which compilers turn into vector code.
-
 bool IsAsciiBlock(const char* bytes)
 {
     u64 words[BlockSize / sizeof(u64)];
@@ -141,14 +140,14 @@ bool IsAsciiBlock(const char16_t* units)
 
 void CopyBlock(const char* from, char16_t* to)
 {
-    for (std::size_t index = 0; index < BlockSize; ++index)
-        to[index] = static_cast<unsigned char>(from[index]);
+    for (std::size_t index = 0; index < BlockSize; index += AsciiBlock::Size)
+        AsciiBlock::Widen(from + index, to + index);
 }
 
 void CopyBlock(const char16_t* from, char* to)
 {
-    for (std::size_t index = 0; index < BlockSize; ++index)
-        to[index] = static_cast<char>(from[index]);
+    for (std::size_t index = 0; index < BlockSize; index += AsciiBlock::Size)
+        AsciiBlock::Narrow(from + index, to + index);
 }
 
 // Copies whole blocks of ASCII and tells how many elements these were.

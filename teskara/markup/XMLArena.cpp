@@ -106,7 +106,7 @@ XMLText XMLArena::Store(std::string_view text)
     return {room, static_cast<u32>(text.size())};
 }
 
-XMLText XMLArena::StoreAnyUnits(std::u16string_view units)
+XMLText XMLArena::Store(std::u16string_view units)
 {
     const std::size_t length = Utf8Length(units);
     char* const room = length < std::numeric_limits<u32>::max() ? RoomForText(length + 1) : nullptr;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "teskara/core/AsciiBlock.h"
 #include "teskara/core/AsciiCase.h"
 #include "teskara/core/Types.h"
 #include "teskara/markup/XMLAttribute.h"
@@ -45,17 +46,18 @@ public:
 
     XMLText Store(std::string_view text);
 
-    // Stores UTF-16 units as UTF-8. Behind the units there must be ReadAhead more that can be read.
+    // Stores UTF-16 units as UTF-8.
     XMLText Store(std::u16string_view units);
+
+    // The same for units below 128. Behind them there must be 7 more that can be read.
+    XMLText StoreAscii(std::u16string_view units);
 
     // The node that the arena was made for. Deleting it frees the arena.
     const XMLNode* First = nullptr;
 
-    static constexpr std::size_t ReadAhead = 16;
-
 private:
-    // A text is written in steps of 16 bytes, so that many may be touched behind its end.
-    static constexpr std::size_t Slack = 16;
+    // A text is written in blocks, so that up to so many bytes behind its end are touched.
+    static constexpr std::size_t Slack = AsciiBlock::Size;
     static constexpr std::size_t LargestBlock = 64 * 1024 - 64;
 
     struct Block {
@@ -69,7 +71,6 @@ private:
     char* RoomForText(std::size_t bytes);
     char* RoomForLongText(std::size_t bytes);
     void* RoomForObject(std::size_t bytes);
-    XMLText StoreAnyUnits(std::u16string_view units);
 
     std::size_t Room() const { return static_cast<std::size_t>(m_ObjectsBegin - m_TextsEnd); }
 
@@ -78,25 +79,6 @@ private:
     char* m_ObjectsBegin = nullptr;
     std::size_t m_NextBlockBytes = 0;
 };
-
-// Narrows count units to bytes in steps of 16, reading and writing up to 15 too many. False if one of the units that
-// were read is not ASCII; what was written is then of no use.
-inline bool NarrowAscii(const char16_t* units, std::size_t count, char* to)
-{
-    u64 all = 0;
-    for (std::size_t done = 0; done < count; done += 16) {
-        char16_t wide[16];
-        char narrow[16];
-        u64 words[4];
-        std::memcpy(wide, units + done, sizeof wide);
-        std::memcpy(words, units + done, sizeof words);
-        for (std::size_t index = 0; index < 16; ++index)
-            narrow[index] = static_cast<char>(wide[index]);
-        all |= (words[0] | words[1]) | (words[2] | words[3]);
-        std::memcpy(to + done, narrow, sizeof narrow);
-    }
-    return (all & 0xFF80FF80FF80FF80u) == 0;
-}
 
 inline void* XMLArena::RoomForObject(std::size_t bytes)
 {
@@ -144,14 +126,14 @@ inline void XMLArena::LinkLast(XMLNode& child, XMLNode& parent)
     parent.LastChild = &child;
 }
 
-inline XMLText XMLArena::Store(std::u16string_view units)
+inline XMLText XMLArena::StoreAscii(std::u16string_view units)
 {
-    if (units.size() + Slack + 1 > Room())
-        return StoreAnyUnits(units);
-    if (!NarrowAscii(units.data(), units.size(), m_TextsEnd))
-        return StoreAnyUnits(units);
+    if (units.size() + 1 + Slack > Room())
+        return Store(units);
 
     char* const text = m_TextsEnd;
+    for (std::size_t done = 0; done < units.size(); done += AsciiBlock::Size)
+        AsciiBlock::Narrow(units.data() + done, text + done);
     text[units.size()] = 0;
     m_TextsEnd += units.size() + 1;
     return {text, static_cast<u32>(units.size())};

@@ -2,14 +2,6 @@
 
 #include "teskara/core/Limits.h"
 
-void XMLAttributeList::Begin(XMLNode& node)
-{
-    m_Node = &node;
-    m_Last = nullptr;
-    m_Count = 0;
-    m_Index.clear();
-}
-
 bool XMLAttributeList::Set(XMLArena& arena, XMLText name, XMLText value)
 {
     if (!name.Text || !value.Text)

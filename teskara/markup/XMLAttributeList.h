@@ -33,3 +33,12 @@ private:
     u32 m_Count = 0;
     std::map<std::string_view, XMLAttribute*, NameOrder> m_Index; // empty while there are few
 };
+
+inline void XMLAttributeList::Begin(XMLNode& node)
+{
+    m_Node = &node;
+    m_Last = nullptr;
+    m_Count = 0;
+    if (!m_Index.empty())
+        m_Index.clear();
+}

@@ -15,7 +15,8 @@ constexpr std::size_t FirstBlockBytes = 2048;
 
 bool IsSameName(std::u16string_view units, std::string_view name)
 {
-    if (units.size() == name.size() && std::equal(units.begin(), units.end(), name.begin(), name.end()))
+    const auto isSame = [](char16_t unit, char byte) { return unit < 128 && unit == static_cast<u8>(byte); };
+    if (std::equal(units.begin(), units.end(), name.begin(), name.end(), isSame))
         return true;
     return EqualsNoCase(ToUtf8(units), name);
 }
@@ -113,27 +114,29 @@ bool XMLParser::ParseContent()
 {
     while (m_Document.Current != m_Document.Root) {
         const std::u16string_view run = m_Stream.TakeUntil(XMLUnit::EndsContent);
-        if (m_Text.empty() && m_Stream.IsTagAhead()) {
-            if (!run.empty() && !NewChild(m_Arena->Store(run), XMLTextNode))
+        if (m_Text.empty() && m_Stream.TakeTagBegin()) {
+            if (!run.empty() && !NewChild(Store(run), XMLTextNode))
+                return false;
+            if (!ParseTag())
                 return false;
         } else {
             Append(m_Text, run);
-        }
-
-        const XMLSpan token = m_Stream.Next();
-        if (token.Type == XMLOpenBracketToken) {
-            if (!FlushText() || !ParseTag())
+            if (!ParseContentToken())
                 return false;
-        } else if (token.Type == XMLAmpersandToken) {
-            if (AppendReference(m_Text) != Reference::Appended)
-                return false;
-        } else if (token) {
-            Append(m_Text, token.Units);
-        } else {
-            return false;
         }
     }
     return true;
+}
+
+bool XMLParser::ParseContentToken()
+{
+    const XMLSpan token = m_Stream.Next();
+    if (token.Type == XMLOpenBracketToken)
+        return FlushText() && ParseTag();
+    if (token.Type == XMLAmpersandToken)
+        return AppendReference(m_Text) == Reference::Appended;
+    Append(m_Text, token.Units);
+    return bool {token};
 }
 
 bool XMLParser::FlushText()
@@ -148,6 +151,9 @@ bool XMLParser::FlushText()
 
 bool XMLParser::ParseTag()
 {
+    if (const std::u16string_view name = m_Stream.TakeText(); !name.empty())
+        return ParseStartTag(name);
+
     const XMLSpan token = NextBehindSpace();
     switch (token.Type) {
     case XMLTextToken:
@@ -165,15 +171,19 @@ bool XMLParser::ParseTag()
 
 bool XMLParser::ParseStartTag(std::u16string_view name)
 {
-    XMLNode* const node = NewChild(m_Arena->Store(name), XMLElementNode);
+    XMLNode* const node = NewChild(Store(name), XMLElementNode);
     if (!node)
         return false;
 
     m_Attributes.Begin(*node);
     bool closesItself = false;
-    for (XMLSpan token = m_Stream.Next(); token.Type != XMLCloseBracketToken; token = m_Stream.Next()) {
+    while (!m_Stream.TakeCharacter(u'>')) {
+        m_Stream.SkipSpace();
+        const XMLSpan token = m_Stream.Next();
         if (!token)
             return false;
+        if (token.Type == XMLCloseBracketToken)
+            break;
         if (token.Type == XMLTextToken) {
             if (!ParseAttribute(*node, token.Units))
                 return false;
@@ -194,27 +204,30 @@ bool XMLParser::ParseStartTag(std::u16string_view name)
 
 bool XMLParser::ParseEndTag()
 {
-    const XMLSpan token = m_Stream.Next();
+    std::u16string_view name = m_Stream.TakeText();
+    if (name.empty())
+        name = m_Stream.Next().Units;
     XMLNode* const current = m_Document.Current;
-    if (!token || !current->Parent)
+    if (name.empty() || !current->Parent)
         return false;
 
-    if (!IsSameName(token.Units, current->NameText())) {
+    if (!IsSameName(name, current->NameText())) {
         FormatBounded(m_Document.ErrorText, sizeof m_Document.ErrorText, "Closing element %s, expected %s",
-            ToUtf8(token.Units).c_str(), current->Name);
+            ToUtf8(name).c_str(), current->Name);
         return false;
     }
     --m_OpenElements;
     m_Document.Current = current->Parent;
     // Whatever comes next is taken for the closing bracket, and so is the end of the input.
-    m_Stream.Next();
+    if (!m_Stream.TakeCharacter(u'>'))
+        m_Stream.Next();
     return !m_Stream.HasFailed();
 }
 
 bool XMLParser::ParseAttribute(XMLNode& node, std::u16string_view nameUnits)
 {
     constexpr const char* UnexpectedEnd = "Unexpected end in attribute %s";
-    const XMLText name = m_Arena->Store(nameUnits);
+    const XMLText name = Store(nameUnits);
     if (!name.Text)
         return false;
 
@@ -242,7 +255,7 @@ bool XMLParser::ParseValue(XMLNode& node, const char* name, u32 quote, XMLText& 
         const std::u16string_view run = m_Stream.TakeUntil(stops);
         const bool isWhole = m_Value.empty() && XMLUnit::TypeOf(*m_Stream.Unread) == quote;
         if (isWhole)
-            value = m_Arena->Store(run);
+            value = Store(run);
         else
             Append(m_Value, run);
         if (std::max<std::size_t>(m_Value.size(), value.Length) > Limits::AttributeValueBytes)

@@ -25,6 +25,7 @@ private:
     bool MakeRoot();
     bool ParseOutside(const XMLSpan& token);
     bool ParseContent();
+    bool ParseContentToken();
     bool FlushText();
     bool ParseTag();
     bool ParseStartTag(std::u16string_view name);
@@ -48,6 +49,7 @@ private:
     bool SetAttribute(std::string_view name, std::string_view value);
 
     static void Append(std::string& to, std::u16string_view units);
+    XMLText Store(std::u16string_view units);
     XMLSpan NextBehindSpace();
     XMLNode* NewChild(XMLText name, u32 type);
 
@@ -64,3 +66,9 @@ private:
     u32 m_OpenElements = 0;
     u64 m_ReferenceBytes = 0;
 };
+
+// units: a part of what lies in the stream's buffer.
+inline XMLText XMLParser::Store(std::u16string_view units)
+{
+    return m_Stream.HoldsOnlyAscii() ? m_Arena->StoreAscii(units) : m_Arena->Store(units);
+}

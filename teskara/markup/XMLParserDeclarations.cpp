@@ -25,7 +25,7 @@ bool XMLParser::ParseInstruction()
     XMLSpan token = NextBehindSpace();
     if (token.Type != XMLTextToken)
         return false;
-    XMLNode* const node = NewChild(m_Arena->Store(token.Units), XMLInstructionNode);
+    XMLNode* const node = NewChild(Store(token.Units), XMLInstructionNode);
     if (!node)
         return false;
 
@@ -96,7 +96,7 @@ bool XMLParser::ParseDoctype()
     XMLSpan token = NextBehindSpace();
     if (token.Type != XMLTextToken)
         return false;
-    XMLNode* const node = NewChild(m_Arena->Store(token.Units), XMLDoctypeNode);
+    XMLNode* const node = NewChild(Store(token.Units), XMLDoctypeNode);
     if (!node)
         return false;
     m_Attributes.Begin(*node);

@@ -13,8 +13,13 @@ namespace {
 constexpr std::u16string_view SectionBegin = u"<![CDATA[";
 constexpr std::u16string_view SectionEnd = u"]]>";
 
-// So many units are looked at before an opening bracket is taken for what it is.
-constexpr std::size_t BracketLookAhead = 13;
+bool IsAscii(const char16_t* units, std::size_t count)
+{
+    char16_t all = 0;
+    for (std::size_t index = 0; index < count; ++index)
+        all = static_cast<char16_t>(all | units[index]);
+    return all < 128;
+}
 
 }
 
@@ -74,6 +79,7 @@ bool XMLStream::ReadMore()
         return Fail();
 
     const std::size_t count = Read(DataEnd, static_cast<std::size_t>(BufferEnd - DataEnd));
+    m_HoldsOnlyAscii = (held == 0 || m_HoldsOnlyAscii) && IsAscii(DataEnd, count);
     SetData(held + count);
     return count > 0;
 }
@@ -90,9 +96,7 @@ XMLSpan XMLStream::NextAcrossReads()
         if (scanned == 0)
             return Next();
 
-        const char16_t* end = Unread + scanned;
-        while (XMLUnit::TypeOf(*end) == XMLTextToken)
-            ++end;
+        const char16_t* const end = XMLUnit::FindStop(Unread + scanned, XMLUnit::TypeMask, m_HoldsOnlyAscii);
         if (end != DataEnd)
             return Take(XMLTextToken, end);
     }
@@ -129,16 +133,10 @@ XMLSpan XMLStream::NextSection()
     }
 }
 
-std::u16string_view XMLStream::TakeUntil(u8 stops)
+// Where the token begins that more input is needed for.
+const char16_t* XMLStream::TokenBegin(const char16_t* begin, const char16_t* end)
 {
-    const char16_t* end = Unread;
-    while (!(XMLUnit::ClassOf(*end) & stops))
-        ++end;
-    if (end == DataEnd)
-        while (end != Unread && XMLUnit::TypeOf(end[-1]) == XMLTextToken)
-            --end;
-
-    const std::u16string_view run(Unread, end);
-    Unread = end;
-    return run;
+    while (end != begin && XMLUnit::TypeOf(end[-1]) == XMLTextToken)
+        --end;
+    return end;
 }

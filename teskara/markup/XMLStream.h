@@ -2,6 +2,7 @@
 
 #include "teskara/core/Types.h"
 #include "teskara/markup/XMLToken.h"
+#include "teskara/markup/XMLUnit.h"
 
 #include <cstddef>
 
@@ -26,12 +27,25 @@ public:
     // Takes the next token. None at the end of the input, and also once the stream has failed.
     XMLSpan Next();
 
-    // Passes over units that belong to no token of their own up to the first that has one of the stops of XMLUnit, or
-    // to the beginning of the token that more input is needed for. Returns what was passed over.
+    // Takes tokens up to the next unit that has one of the stops of XMLUnit, or up to the token that more input is
+    // needed for, and returns them as one.
     std::u16string_view TakeUntil(u8 stops);
 
-    // Whether the next token is known to be an opening bracket; false also where more input is needed to tell.
-    bool IsTagAhead() const { return Unread[0] == u'<' && Unread[1] != u'!' && Unread[1] != 0; }
+    // Short cuts for what lies in the buffer already; where they do not apply they take nothing, and Next does it.
+
+    // Takes a token of one character, other than an opening bracket.
+    bool TakeCharacter(char16_t character);
+
+    // Takes an opening bracket that begins no declaration.
+    bool TakeTagBegin();
+
+    // Takes a text token; empty if there is none.
+    std::u16string_view TakeText();
+
+    void SkipSpace();
+
+    // Whether no unit in the buffer is above 127.
+    bool HoldsOnlyAscii() const { return m_HoldsOnlyAscii; }
 
     // Whether a token could not be read, as opposed to the input being at its end.
     bool HasFailed() const { return m_Failed; }
@@ -49,10 +63,14 @@ private:
     static constexpr std::size_t FirstUnits = 4096;
     static constexpr std::size_t ReadBehind = 16;
 
+    // So many units are looked at before an opening bracket is taken for what it is.
+    static constexpr std::size_t BracketLookAhead = 13;
+
     XMLSpan NextAcrossReads();
     XMLSpan NextBracket();
     XMLSpan NextSection();
     XMLSpan Take(u32 type, const char16_t* end);
+    static const char16_t* TokenBegin(const char16_t* begin, const char16_t* end);
     bool ReadMore();
     bool Grow(std::size_t units);
     void SetData(std::size_t units);
@@ -60,6 +78,7 @@ private:
 
     std::size_t UnreadCount() const { return static_cast<std::size_t>(DataEnd - Unread); }
 
+    bool m_HoldsOnlyAscii = true;
     bool m_Failed = false;
 };
 
@@ -72,17 +91,56 @@ inline XMLSpan XMLStream::Take(u32 type, const char16_t* end)
 
 inline XMLSpan XMLStream::Next()
 {
-    const char16_t* end = Unread;
+    const char16_t* end = XMLUnit::FindStop(Unread, XMLUnit::TypeMask, m_HoldsOnlyAscii);
+    if (end != Unread)
+        return end == DataEnd ? NextAcrossReads() : Take(XMLTextToken, end);
+
     const u32 type = XMLUnit::TypeOf(*end);
-    if (type == XMLTextToken) {
-        do
-            ++end;
-        while (XMLUnit::TypeOf(*end) == XMLTextToken);
-        return end == DataEnd ? NextAcrossReads() : Take(type, end);
-    }
     if (type == XMLZeroToken)
         return NextAcrossReads();
     if (type == XMLOpenBracketToken)
         return NextBracket();
     return Take(type, end + 1);
+}
+
+inline bool XMLStream::TakeCharacter(char16_t character)
+{
+    if (*Unread != character)
+        return false;
+    ++Unread;
+    return true;
+}
+
+inline bool XMLStream::TakeTagBegin()
+{
+    if (Unread[0] != u'<' || Unread[1] == u'!' || UnreadCount() < BracketLookAhead)
+        return false;
+    ++Unread;
+    return true;
+}
+
+inline std::u16string_view XMLStream::TakeText()
+{
+    const char16_t* const begin = Unread;
+    const char16_t* const end = XMLUnit::FindStop(begin, XMLUnit::TypeMask, m_HoldsOnlyAscii);
+    if (end == DataEnd)
+        return {};
+    Unread = end;
+    return {begin, end};
+}
+
+inline void XMLStream::SkipSpace()
+{
+    while (XMLUnit::IsSpace(*Unread))
+        ++Unread;
+}
+
+inline std::u16string_view XMLStream::TakeUntil(u8 stops)
+{
+    const char16_t* const begin = Unread;
+    const char16_t* end = XMLUnit::FindStop(begin, stops, m_HoldsOnlyAscii);
+    if (end == DataEnd)
+        end = TokenBegin(begin, end);
+    Unread = end;
+    return {begin, end};
 }

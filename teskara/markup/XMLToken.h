@@ -2,7 +2,6 @@
 
 #include "teskara/core/Types.h"
 
-#include <array>
 #include <string>
 #include <string_view>
 
@@ -61,42 +60,3 @@ private:
     std::string m_OwnText;
 };
 
-// What a unit means to the scanner: its token type, and whether it ends a run of content or of an attribute value.
-namespace XMLUnit {
-
-inline constexpr u8 TypeMask = 0x1F;
-inline constexpr u8 EndsDoubleQuoted = 0x20;
-inline constexpr u8 EndsSingleQuoted = 0x40;
-inline constexpr u8 EndsContent = 0x80;
-inline constexpr u8 EndsEverything = EndsDoubleQuoted | EndsSingleQuoted | EndsContent;
-
-constexpr std::array<u8, 128> MakeClasses()
-{
-    std::array<u8, 128> classes {};
-    classes.fill(XMLTextToken);
-    constexpr std::string_view Characters = "<>=\"'&/#;!-?[]";
-    for (std::size_t index = 0; index < Characters.size(); ++index)
-        classes[static_cast<std::size_t>(Characters[index])] = static_cast<u8>(XMLOpenBracketToken + index);
-    classes['\t'] = classes['\n'] = classes['\r'] = XMLLineSpaceToken;
-    classes[' '] = XMLSpaceToken;
-    classes[0] = XMLZeroToken | EndsEverything;
-    classes['<'] |= EndsEverything;
-    classes['&'] |= EndsEverything;
-    classes['"'] |= EndsDoubleQuoted;
-    classes['\''] |= EndsSingleQuoted;
-    return classes;
-}
-
-inline constexpr std::array<u8, 128> Classes = MakeClasses();
-
-constexpr u8 ClassOf(char16_t unit)
-{
-    return unit < Classes.size() ? Classes[unit] : u8 {XMLTextToken};
-}
-
-constexpr u32 TypeOf(char16_t unit)
-{
-    return ClassOf(unit) & TypeMask;
-}
-
-}
