@@ -63,8 +63,8 @@ def check(tally, name, command):
 
 
 def build(tally, preset):
-    say(f"build/{preset}: building")
-    if subprocess.run([ROOT / "tools/build", preset, "--quiet"], cwd=ROOT).returncode == 0:
+    say(f"build/{preset}: building, a warning is an error")
+    if subprocess.run([ROOT / "tools/build", preset, "--quiet", "-DTESKARA_WERROR=ON"], cwd=ROOT).returncode == 0:
         return True
     tally.fail(f"build of {preset}", f"tools/build {preset}")
     return False
