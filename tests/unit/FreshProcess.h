@@ -1,0 +1,24 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <sys/wait.h>
+#include <unistd.h>
+
+// Runs a test's body in a process of its own, which starts where this one stands: the toolkit has one manager, and once
+// shut down it stays so. Name the suite "...DeathTest", then it comes before the tests that start the toolkit here.
+template <class Body> void InFreshProcess(Body&& body)
+{
+    std::fflush(nullptr);
+    const pid_t child = fork();
+    if (child == 0) {
+        body();
+        std::fflush(nullptr);
+        std::exit(testing::Test::HasFailure() ? 1 : 0);
+    }
+
+    int status = 0;
+    ASSERT_EQ(child, waitpid(child, &status, 0));
+    EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0) << "The other process tells why; status " << status;
+}
