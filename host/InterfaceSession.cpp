@@ -24,7 +24,8 @@ InterfaceSession::InterfaceSession(SDL_Renderer* renderer, const Settings& setti
     m_SecondStart = m_Clock.Ticks();
     m_Frame.Width = settings.Width;
     m_Frame.Height = settings.Height;
-    SkipFrame();
+    m_Host.BeginFrame(m_Frame, 1);
+    g_UIManager.Render();
 }
 
 InterfaceSession::~InterfaceSession()
@@ -82,13 +83,13 @@ bool InterfaceSession::OpenSkin(const std::string& name)
 void InterfaceSession::CountFrame()
 {
     const u32 now = m_Clock.Ticks();
-    ++m_Frame.Number;
-    ++m_FramesInSecond;
     if (now - m_SecondStart >= 1000) {
         m_Frame.FramesPerSecond = m_FramesInSecond;
         m_FramesInSecond = 0;
         m_SecondStart = now;
     }
+    ++m_Frame.Number;
+    ++m_FramesInSecond;
     m_Frame.Time = m_Clock.LocalTime();
     m_Frame.Mouse = g_UIManager.MousePosition;
 }

@@ -41,7 +41,6 @@ void DrawMoment(host::InterfaceSession& session, const ShotOptions& options)
 {
     if (options.Mouse) {
         _Point2i mouse = *options.Mouse;
-        session.SkipFrame();
         g_UIManager.OnMouseMove(mouse);
     }
     for (u32 elapsed = 0; elapsed < options.At;) {

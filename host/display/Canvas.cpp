@@ -63,18 +63,41 @@ TextureCorners Turn(const TextureCorners& corners, u8 quarterTurns)
     return turned;
 }
 
+// A place in an image, or so far outside that it makes no difference, so that arithmetic with it stays in range.
+i32 Near(i32 coordinate)
+{
+    constexpr i32 Farthest = 1 << 24;
+    return std::clamp(coordinate, -Farthest, Farthest);
+}
+
+// Any other orientation is as good as none.
+u8 QuarterTurns(u8 orientation)
+{
+    return orientation < 4 ? orientation : u8{0};
+}
+
+// Where a part of an image lies after the image was turned clockwise.
+tagRECT TurnPart(tagRECT part, int width, int height, u8 quarterTurns)
+{
+    for (u8 turn = 0; turn < quarterTurns; ++turn) {
+        part = {height - part.bottom, part.left, height - part.top, part.right};
+        std::swap(width, height);
+    }
+    return part;
+}
+
 struct Span {
     float From;
     float To;
 };
 
-// A stretch of the image along one axis as shares of its size. When it is not drawn pixel for pixel it begins and ends
-// in the middle of its outer pixels, so that smoothing takes in nothing of the neighbours.
+// A stretch of the image along one axis as shares of its size. When it is drawn enlarged it begins and ends in the
+// middle of its outer pixels, so that smoothing takes in nothing of the neighbours.
 Span SharesOf(i32 from, i32 to, int size, float drawn, bool smooth)
 {
     auto start = static_cast<float>(from);
     auto end = static_cast<float>(to);
-    if (smooth && std::abs(end - start) >= 1 && std::abs(std::abs(end - start) - drawn) > 0.01f) {
+    if (smooth && std::abs(end - start) >= 1 && drawn > std::abs(end - start)) {
         const float inward = end > start ? 0.5f : -0.5f;
         start += inward;
         end -= inward;
@@ -113,27 +136,28 @@ void Canvas::DrawRect(const tagRECT& rect, u32 color)
 
 bool Canvas::DrawTexturedRect(const TeskDrawRecord& record)
 {
-    const Image* image = m_Textures.Find(record.TextureID);
-    if (!image)
+    Piece piece;
+    if (!FindPiece(record, piece))
         return false;
 
     const PixelRect target = ToTarget(record.Destination);
-    m_Renderer.AddQuad(image->Texture, target, CornersFor(record, *image, target), ImageColor(record));
+    m_Renderer.AddQuad(
+        piece.Picture->Texture, target, CornersOf(piece, target.Width(), target.Height()), ImageColor(record));
     return true;
 }
 
 bool Canvas::DrawLine(const TeskDrawRecord& record, u32 width)
 {
-    const Image* image = m_Textures.Find(record.TextureID);
-    if (!image)
+    Piece piece;
+    if (!FindPiece(record, piece))
         return false;
 
     const PixelRect ends = ToTarget(record.Destination);
     const float half = m_Scale / 2;
     const LineShape line = {{ends.Left + half, ends.Top + half}, {ends.Right + half, ends.Bottom + half},
         std::max(1.0f, static_cast<float>(width)) * m_Scale};
-    const PixelRect drawn = {0, 0, std::hypot(ends.Width(), ends.Height()), line.Width};
-    line.AddTo(m_Renderer, image->Texture, CornersFor(record, *image, drawn), LineColor(record));
+    const float length = std::hypot(ends.Width(), ends.Height());
+    line.AddTo(m_Renderer, piece.Picture->Texture, CornersOf(piece, length, line.Width), LineColor(record));
     return true;
 }
 
@@ -171,19 +195,35 @@ PixelRect Canvas::ToTarget(const tagRECT& rect) const
         std::round(static_cast<float>(rect.right) * m_Scale), std::round(static_cast<float>(rect.bottom) * m_Scale)};
 }
 
-TextureCorners Canvas::CornersFor(const TeskDrawRecord& record, const Image& image, const PixelRect& target) const
+bool Canvas::FindPiece(const TeskDrawRecord& record, Piece& piece)
 {
-    tagRECT source = {0, 0, image.Width, image.Height};
-    if (record.Flags & FlagSource)
-        source = record.Source;
+    const Image* image = m_Textures.Find(record.TextureID);
+    if (!image)
+        return false;
 
+    piece = {image, {0, 0, image->Width, image->Height}, QuarterTurns(record.Orientation)};
+    if (record.Flags & FlagSource)
+        piece.Part = {
+            Near(record.Source.left), Near(record.Source.top), Near(record.Source.right), Near(record.Source.bottom)};
+    if (piece.Turns == 0 || !m_Renderer.IsSoftware())
+        return true;
+
+    // The processor draws upright pieces only, so it gets them from an image that is turned already.
+    piece.Part = TurnPart(piece.Part, image->Width, image->Height, piece.Turns);
+    piece.Picture = m_Textures.FindTurned(record.TextureID, piece.Turns);
+    piece.Turns = 0;
+    return piece.Picture != nullptr;
+}
+
+TextureCorners Canvas::CornersOf(const Piece& piece, float width, float height) const
+{
     // The processor stretches each part of an image by itself and needs its exact edges.
     const bool smooth = !m_Renderer.IsSoftware();
-    const bool upright = record.Orientation % 2 == 0;
-    const Span x = SharesOf(source.left, source.right, image.Width, upright ? target.Width() : target.Height(), smooth);
-    const Span y =
-        SharesOf(source.top, source.bottom, image.Height, upright ? target.Height() : target.Width(), smooth);
-    return Turn({{x.From, y.From}, {x.To, y.From}, {x.From, y.To}}, record.Orientation);
+    const bool upright = piece.Turns % 2 == 0;
+    const Image& image = *piece.Picture;
+    const Span x = SharesOf(piece.Part.left, piece.Part.right, image.Width, upright ? width : height, smooth);
+    const Span y = SharesOf(piece.Part.top, piece.Part.bottom, image.Height, upright ? height : width, smooth);
+    return Turn({{x.From, y.From}, {x.To, y.From}, {x.From, y.To}}, piece.Turns);
 }
 
 } // namespace host

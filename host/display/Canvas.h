@@ -39,8 +39,20 @@ public:
     TextureCache& Textures() { return m_Textures; }
 
 private:
+    // What a record shows: a part of an image, to be turned clockwise.
+    struct Piece {
+        const Image* Picture = nullptr;
+        tagRECT Part;
+        u8 Turns = 0;
+    };
+
     PixelRect ToTarget(const tagRECT& rect) const;
-    TextureCorners CornersFor(const TeskDrawRecord& record, const Image& image, const PixelRect& target) const;
+
+    // False: there is no such image.
+    bool FindPiece(const TeskDrawRecord& record, Piece& piece);
+
+    // For a piece that is drawn at a size in pixels of the target.
+    TextureCorners CornersOf(const Piece& piece, float width, float height) const;
 
     Renderer m_Renderer;
     FontLibrary m_Fonts;

@@ -27,7 +27,12 @@ bool Picture::Save(const std::string& file) const
     const std::filesystem::path folder = std::filesystem::path(file).parent_path();
     if (!folder.empty())
         std::filesystem::create_directories(folder, error);
-    return IMG_SavePNG(m_Surface, file.c_str()) == 0;
+
+    // Nothing shines through a picture.
+    SDL_Surface* opaque = SDL_ConvertSurfaceFormat(m_Surface, SDL_PIXELFORMAT_RGB24, 0);
+    const bool saved = opaque && IMG_SavePNG(opaque, file.c_str()) == 0;
+    SDL_FreeSurface(opaque);
+    return saved;
 }
 
 } // namespace host

@@ -36,6 +36,25 @@ bool Cut(PixelRect& rect, TextureCorners& corners, const PixelRect& clip)
     return true;
 }
 
+// The processor drops the fractions of the pixels that corners stand for, and rounding may have left them a little
+// below the whole pixel.
+void Nudge(TextureCorners& corners, SDL_Texture* texture)
+{
+    constexpr float Share = 1.0f / 64;
+    int width = 1;
+    int height = 1;
+    SDL_QueryTexture(texture, nullptr, nullptr, &width, &height);
+    const SDL_FPoint by = {Share / static_cast<float>(width), Share / static_cast<float>(height)};
+    for (SDL_FPoint* corner : {&corners.TopLeft, &corners.TopRight, &corners.BottomLeft})
+        *corner = {corner->x + by.x, corner->y + by.y};
+}
+
+// SDL refuses a whole batch for one corner outside of its texture, be it by a rounding.
+SDL_FPoint Inside(const SDL_FPoint& corner)
+{
+    return {std::clamp(corner.x, 0.0f, 1.0f), std::clamp(corner.y, 0.0f, 1.0f)};
+}
+
 bool SameBytes(const std::vector<SDL_Vertex>& a, const std::vector<SDL_Vertex>& b)
 {
     static_assert(sizeof(SDL_Vertex) == 20, "no padding, so that vertices compare as bytes");
@@ -78,11 +97,16 @@ void Renderer::AddQuad(SDL_Texture* texture, PixelRect rect, TextureCorners corn
     if (color.a == 0 || !Cut(rect, corners, m_Bounds))
         return;
 
-    const SDL_FPoint bottomRight = {corners.TopRight.x + corners.BottomLeft.x - corners.TopLeft.x,
-        corners.TopRight.y + corners.BottomLeft.y - corners.TopLeft.y};
+    if (m_Software && texture)
+        Nudge(corners, texture);
+    const SDL_FPoint topLeft = Inside(corners.TopLeft);
+    const SDL_FPoint topRight = Inside(corners.TopRight);
+    const SDL_FPoint bottomLeft = Inside(corners.BottomLeft);
+    const SDL_FPoint bottomRight = Inside({corners.TopRight.x + corners.BottomLeft.x - corners.TopLeft.x,
+        corners.TopRight.y + corners.BottomLeft.y - corners.TopLeft.y});
     AddShape(texture,
-        {{{rect.Left, rect.Top}, color, corners.TopLeft}, {{rect.Right, rect.Top}, color, corners.TopRight},
-            {{rect.Right, rect.Bottom}, color, bottomRight}, {{rect.Left, rect.Bottom}, color, corners.BottomLeft}});
+        {{{rect.Left, rect.Top}, color, topLeft}, {{rect.Right, rect.Top}, color, topRight},
+            {{rect.Right, rect.Bottom}, color, bottomRight}, {{rect.Left, rect.Bottom}, color, bottomLeft}});
 }
 
 void Renderer::AddQuad(

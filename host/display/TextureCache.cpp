@@ -15,14 +15,29 @@ constexpr u32 ColorBits = 0x00FFFFFF;
 
 const Image WhiteImage;
 
+u32* RowOf(SDL_Surface* surface, int y)
+{
+    return reinterpret_cast<u32*>(static_cast<u8*>(surface->pixels) + y * surface->pitch);
+}
+
 void ClearColor(SDL_Surface* surface, u32 colorKey)
 {
     for (int y = 0; y < surface->h; ++y) {
-        auto* row = reinterpret_cast<u32*>(static_cast<u8*>(surface->pixels) + y * surface->pitch);
+        u32* row = RowOf(surface, y);
         for (int x = 0; x < surface->w; ++x)
             if ((row[x] & ColorBits) == (colorKey & ColorBits))
                 row[x] = 0;
     }
+}
+
+// Turns clockwise: what was the left edge becomes the upper edge.
+SDL_Surface* NewTurned(SDL_Surface* surface)
+{
+    SDL_Surface* turned = SDL_CreateRGBSurfaceWithFormat(0, surface->h, surface->w, 32, SDL_PIXELFORMAT_ARGB8888);
+    for (int y = 0; turned && y < turned->h; ++y)
+        for (int x = 0; x < turned->w; ++x)
+            RowOf(turned, y)[x] = RowOf(surface, surface->h - 1 - x)[y];
+    return turned;
 }
 
 SDL_Surface* LoadSurface(const std::string& path)
@@ -43,8 +58,7 @@ TextureCache::TextureCache(SDL_Renderer* renderer) : m_Renderer(renderer) { }
 TextureCache::~TextureCache()
 {
     for (auto& [id, entry] : m_Images)
-        if (entry.Value.Texture)
-            SDL_DestroyTexture(entry.Value.Texture);
+        Destroy(entry);
 }
 
 u32 TextureCache::Acquire(const std::string& path, u32 colorKey, std::string& why)
@@ -63,7 +77,7 @@ u32 TextureCache::Acquire(const std::string& path, u32 colorKey, std::string& wh
         return 0;
 
     Image image;
-    if (!Load(key, image)) {
+    if (!Load(key, 0, image)) {
         if (failed == m_FailedUntil.end())
             why = SDL_GetError();
         m_FailedUntil[key] = m_Frame + FramesBetweenAttempts;
@@ -72,7 +86,7 @@ u32 TextureCache::Acquire(const std::string& path, u32 colorKey, std::string& wh
     m_FailedUntil.erase(key);
     const u32 id = ++m_LastID;
     m_IDs[key] = id;
-    m_Images[id] = {key, image, 1, 0};
+    m_Images[id] = {key, image, {}, 1, 0};
     return id;
 }
 
@@ -92,6 +106,18 @@ const Image* TextureCache::Find(u32 id) const
     return found == m_Images.end() ? nullptr : &found->second.Value;
 }
 
+const Image* TextureCache::FindTurned(u32 id, u8 quarterTurns)
+{
+    const auto found = m_Images.find(id);
+    if (found == m_Images.end() || quarterTurns == 0 || quarterTurns > std::size(found->second.Turned))
+        return Find(id);
+
+    Image& turned = found->second.Turned[quarterTurns - 1];
+    if (!turned.Texture && !Load(found->second.Name, quarterTurns, turned))
+        return nullptr;
+    return &turned;
+}
+
 void TextureCache::Collect()
 {
     ++m_Frame;
@@ -102,15 +128,20 @@ void TextureCache::Collect()
             ++at;
             continue;
         }
-        SDL_DestroyTexture(entry.Value.Texture);
+        Destroy(entry);
         m_IDs.erase(entry.Name);
         at = m_Images.erase(at);
     }
 }
 
-SDL_Texture* TextureCache::Load(const Key& key, Image& image)
+SDL_Texture* TextureCache::Load(const Key& key, u8 quarterTurns, Image& image)
 {
     SDL_Surface* surface = LoadSurface(key.first);
+    for (u8 turn = 0; surface && turn < quarterTurns; ++turn) {
+        SDL_Surface* turned = NewTurned(surface);
+        SDL_FreeSurface(surface);
+        surface = turned;
+    }
     if (!surface)
         return nullptr;
 
@@ -123,6 +154,14 @@ SDL_Texture* TextureCache::Load(const Key& key, Image& image)
         SDL_SetTextureScaleMode(image.Texture, SDL_ScaleModeLinear);
     }
     return image.Texture;
+}
+
+void TextureCache::Destroy(Entry& entry)
+{
+    SDL_DestroyTexture(entry.Value.Texture);
+    for (const Image& turned : entry.Turned)
+        if (turned.Texture)
+            SDL_DestroyTexture(turned.Texture);
 }
 
 } // namespace host

@@ -40,6 +40,10 @@ public:
     // Null for an id that is not in use.
     const Image* Find(u32 id) const;
 
+    // The image turned by quarter turns clockwise, for a renderer that cannot turn what it draws. Null as for Find, or if
+    // the turned image could not be made.
+    const Image* FindTurned(u32 id, u8 quarterTurns);
+
     // Between frames: lets go of what has not been used for a while.
     void Collect();
 
@@ -49,12 +53,14 @@ private:
     struct Entry {
         Key Name;
         Image Value;
+        Image Turned[3]; // by one to three quarter turns, when they are needed
         u32 Count = 0;
         u32 UnusedFrames = 0;
     };
 
     // Null on failure.
-    SDL_Texture* Load(const Key& key, Image& image);
+    SDL_Texture* Load(const Key& key, u8 quarterTurns, Image& image);
+    static void Destroy(Entry& entry);
 
     SDL_Renderer* m_Renderer;
     std::map<Key, u32> m_IDs;

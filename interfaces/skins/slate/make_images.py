@@ -1,0 +1,166 @@
+#!/usr/bin/env python3
+"""Draws the images of this skin: python3 make_images.py
+
+All are drawn at twice the size at which the skin shows them, so that they are sharp on fine displays as well. Shapes
+are given in pixels of the interface.
+"""
+
+import math
+import os
+import struct
+import zlib
+
+FOLDER = os.path.dirname(os.path.abspath(__file__))
+PIXELS = 2  # of an image for each of the interface
+SAMPLES = 4  # along each side of a pixel
+
+CARD = (30, 37, 48)
+CARD_EDGE = (48, 58, 74)
+INSET = (20, 25, 33)
+INSET_EDGE = (38, 46, 59)
+ACCENT = (92, 168, 255)
+WHITE = (255, 255, 255)
+
+
+def rounded(x, y, left, top, right, bottom, radius):
+    """Distance from a point to a rounded rectangle: negative inside."""
+    dx = max(left + radius - x, x - (right - radius), 0)
+    dy = max(top + radius - y, y - (bottom - radius), 0)
+    if dx or dy:
+        return math.hypot(dx, dy) - radius
+    return max(left - x, x - right, top - y, y - bottom)
+
+
+def mix(a, b, share):
+    return tuple(x + (y - x) * share for x, y in zip(a, b))
+
+
+def write_png(name, width, height, rows):
+    def chunk(kind, data):
+        body = kind + data
+        return struct.pack(">I", len(data)) + body + struct.pack(">I", zlib.crc32(body))
+
+    raw = b"".join(b"\0" + bytes(row) for row in rows)
+    with open(os.path.join(FOLDER, name), "wb") as file:
+        file.write(b"\x89PNG\r\n\x1a\n")
+        file.write(chunk(b"IHDR", struct.pack(">IIBBBBB", width, height, 8, 6, 0, 0, 0)))
+        file.write(chunk(b"IDAT", zlib.compress(raw, 9)))
+        file.write(chunk(b"IEND", b""))
+
+
+def draw(name, width, height, color_at):
+    """color_at(x, y) gives red, green, blue and alpha from 0 to 1, of a point in pixels of the interface."""
+    steps = [(index + 0.5) / SAMPLES for index in range(SAMPLES)]
+    rows = []
+    for pixel_y in range(height * PIXELS):
+        row = []
+        for pixel_x in range(width * PIXELS):
+            red = green = blue = alpha = 0.0
+            for step_y in steps:
+                for step_x in steps:
+                    r, g, b, a = color_at((pixel_x + step_x) / PIXELS, (pixel_y + step_y) / PIXELS)
+                    red, green, blue, alpha = red + r * a, green + g * a, blue + b * a, alpha + a
+            if alpha:
+                row += [round(red / alpha), round(green / alpha), round(blue / alpha)]
+            else:
+                row += [0, 0, 0]
+            row.append(round(alpha * 255 / SAMPLES ** 2))
+        rows.append(row)
+    write_png(name, width * PIXELS, height * PIXELS, rows)
+
+
+def panel(name, size, radius, fill, edge, fill_alpha=1.0, edge_alpha=1.0, sheen=0.0):
+    """A rounded rectangle with an edge one pixel wide, and a brighter line below its upper edge."""
+
+    def color_at(x, y):
+        distance = rounded(x, y, 0, 0, size, size, radius)
+        if distance > 0:
+            return (*edge, 0)
+        if distance > -1:
+            return (*mix(edge, WHITE, sheen * max(0, 1 - y / radius)), edge_alpha)
+        return (*fill, fill_alpha)
+
+    draw(name, size, size, color_at)
+
+
+def ribbon():
+    """A card whose upper edge is a bright band, to be turned to each side."""
+    size, radius, band = 40, 10, 4
+
+    def color_at(x, y):
+        distance = rounded(x, y, 0, 0, size, size, radius)
+        if distance > 0:
+            return (*CARD_EDGE, 0)
+        if y < band:
+            return (*ACCENT, 1)
+        glow = max(0, 1 - (y - band) / 8) ** 2 * 0.22
+        return (*mix(CARD_EDGE if distance > -1 else INSET, ACCENT, glow), 1)
+
+    draw("ribbon.png", size, size, color_at)
+
+
+def glow():
+    """A bright outline that fades inward, to lie over a card."""
+    size, radius = 48, 12
+
+    def color_at(x, y):
+        distance = rounded(x, y, 0, 0, size, size, radius)
+        if distance > 0:
+            return (*ACCENT, 0)
+        if distance > -1.25:
+            return (*ACCENT, 0.85)
+        return (*ACCENT, 0.16 * max(0, 1 + distance / 14) ** 2)
+
+    draw("glow.png", size, size, color_at)
+
+
+def tile():
+    """A white tile, to be tinted by a colour mask."""
+
+    def color_at(x, y):
+        distance = rounded(x, y, 0, 0, 24, 24, 6)
+        shade = 1 - 0.12 * y / 24
+        return (255 * shade, 255 * shade, 255 * shade, 0 if distance > 0 else 1)
+
+    draw("tile.png", 24, 24, color_at)
+
+
+def mark():
+    """The sign of the program: panels inside a panel."""
+    size = 44
+
+    def color_at(x, y):
+        if rounded(x, y, 0, 0, size, size, 11) > 0:
+            return (*ACCENT, 0)
+        color = mix((116, 190, 255), (64, 112, 235), (x + 2 * y) / (3 * size))
+        if rounded(x, y, 9, 9, 35, 15, 2) <= 0:
+            return (*WHITE, 1)
+        if rounded(x, y, 9, 19, 18, 35, 2) <= 0:
+            return (*mix(color, WHITE, 0.62), 1)
+        if rounded(x, y, 22, 19, 35, 35, 2) <= 0:
+            return (*mix(color, WHITE, 0.35), 1)
+        return (*color, 1)
+
+    draw("mark.png", size, size, color_at)
+
+
+def backdrop():
+    """What lies behind everything: a dark field, a little lighter toward the upper left."""
+    width, height = 48, 32
+
+    def color_at(x, y):
+        light = max(0, 1 - math.hypot(x / width * 0.9, y / height) / 1.15) ** 1.6
+        return (*mix((14, 17, 23), (29, 37, 51), light), 1)
+
+    draw("backdrop.png", width, height, color_at)
+
+
+panel("card.png", 40, 12, CARD, CARD_EDGE, sheen=0.10)
+panel("inset.png", 32, 8, INSET, INSET_EDGE)
+panel("chip.png", 24, 11, ACCENT, ACCENT, fill_alpha=0.13, edge_alpha=0.42)
+panel("slot.png", 24, 6, ACCENT, ACCENT, fill_alpha=0.10, edge_alpha=0.55)
+ribbon()
+glow()
+tile()
+mark()
+backdrop()
