@@ -2,7 +2,6 @@
 
 #include <cstdarg>
 #include <cstdio>
-#include <cstring>
 
 namespace {
 
@@ -59,7 +58,9 @@ u32 NullHost::DrawText(u32, const char*, const tagRECT&, u32, u32)
 
 void NullHost::MeasureText(u32, const char* text, int& width)
 {
-    width = ByteWidth * static_cast<int>(std::strlen(text));
+    width = 0;
+    while (*text++)
+        width += ByteWidth;
 }
 
 bool NullHost::GetGlyphMetrics(u32, u32, u32, float* before, float* glyph, float* after)

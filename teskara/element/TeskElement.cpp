@@ -12,6 +12,19 @@
 
 #include <new>
 
+namespace {
+
+// Names of siblings mostly begin alike and differ at their end.
+bool HasName(const TeskElement& element, const utf8string& name)
+{
+    if (element.Name.size() != name.size())
+        return false;
+
+    return name.empty() || (element.Name.back() == name.back() && element.Name == name);
+}
+
+} // namespace
+
 TeskElement::TeskElement(const char* type, TeskElement* parent, const char* name)
     : Type(TextOrEmpty(type)), Name(TextOrEmpty(name)), Parent(parent), FadeStart(g_UIManager.FrameTick)
 {
@@ -159,9 +172,10 @@ void TeskElement::Detach()
 
 TeskElement* TeskElement::FindChild(const char* name)
 {
-    const std::string_view wanted = TextOrEmpty(name);
+    utf8string wanted = TextOrEmpty(name);
+    FoldAscii(wanted); // as names are kept
     for (TeskElement* child = FirstChild; child; child = child->Next) {
-        if (child->Name.size() == wanted.size() && EqualsNoCase(child->Name, wanted))
+        if (HasName(*child, wanted))
             return child;
     }
     return nullptr;

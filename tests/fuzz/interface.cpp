@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
+#include <optional>
 #include <string>
 #include <sys/mman.h>
 #include <unistd.h>
@@ -52,11 +53,11 @@ ChaosHost& StartedHost()
 
 void CheckTree()
 {
-    const std::string fault = FindTreeFault();
-    if (fault.empty())
+    const std::optional<std::string> fault = FindTreeFault();
+    if (!fault)
         return;
 
-    std::fprintf(stderr, "%s\n", fault.c_str());
+    std::fprintf(stderr, "%s\n", fault->c_str());
     std::abort();
 }
 
