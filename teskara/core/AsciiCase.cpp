@@ -23,8 +23,8 @@ int CompareNoCase(std::string_view left, std::string_view right)
 {
     const std::size_t shared = std::min(left.size(), right.size());
     for (std::size_t index = 0; index < shared; ++index) {
-        const int difference = static_cast<unsigned char>(FoldAscii(left[index]))
-            - static_cast<unsigned char>(FoldAscii(right[index]));
+        const int difference =
+            static_cast<unsigned char>(FoldAscii(left[index])) - static_cast<unsigned char>(FoldAscii(right[index]));
         if (difference != 0)
             return difference;
     }

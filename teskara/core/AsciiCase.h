@@ -27,7 +27,7 @@ namespace AsciiCase {
 // Compilers turn these into one load.
 constexpr u64 FourBytes(std::string_view text, std::size_t index)
 {
-    const auto byte = [&](std::size_t place) { return u64 {static_cast<unsigned char>(text[index + place])}; };
+    const auto byte = [&](std::size_t place) { return u64{static_cast<unsigned char>(text[index + place])}; };
     return byte(0) | byte(1) << 8 | byte(2) << 16 | byte(3) << 24;
 }
 

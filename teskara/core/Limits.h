@@ -61,4 +61,4 @@ inline constexpr std::size_t TextBuffer2048 = 2048;
 inline constexpr std::size_t TextBuffer4096 = 4096;
 inline constexpr std::size_t TextBuffer8192 = 8192;
 
-}
+} // namespace Limits

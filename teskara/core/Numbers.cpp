@@ -86,7 +86,7 @@ std::size_t WriteCut(char* to, std::size_t size, const char* begin, std::to_char
     return CopyBounded(to, size, {begin, static_cast<std::size_t>(result.ptr - begin)});
 }
 
-}
+} // namespace
 
 i32 ReadInteger(std::string_view text)
 {
@@ -163,7 +163,7 @@ u8 TruncateToByte(double value)
 {
     if (!(value > 0))
         return 0;
-    return value < 255 ? static_cast<u8>(value) : u8 {255};
+    return value < 255 ? static_cast<u8>(value) : u8{255};
 }
 
 std::size_t WriteInteger(char* to, std::size_t size, i64 value)

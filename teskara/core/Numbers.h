@@ -36,20 +36,17 @@ concept Integer32 = std::same_as<T, i32> || std::same_as<T, u32>;
 
 // 32-bit arithmetic that wraps. Operands of both signs may be mixed; the result is signed unless it is asked for as
 // WrapAdd<u32>(a, b).
-template <Integer32 Result = i32, Integer32 Left, Integer32 Right>
-constexpr Result WrapAdd(Left left, Right right)
+template <Integer32 Result = i32, Integer32 Left, Integer32 Right> constexpr Result WrapAdd(Left left, Right right)
 {
     return static_cast<Result>(static_cast<u32>(left) + static_cast<u32>(right));
 }
 
-template <Integer32 Result = i32, Integer32 Left, Integer32 Right>
-constexpr Result WrapSub(Left left, Right right)
+template <Integer32 Result = i32, Integer32 Left, Integer32 Right> constexpr Result WrapSub(Left left, Right right)
 {
     return static_cast<Result>(static_cast<u32>(left) - static_cast<u32>(right));
 }
 
-template <Integer32 Result = i32, Integer32 Left, Integer32 Right>
-constexpr Result WrapMul(Left left, Right right)
+template <Integer32 Result = i32, Integer32 Left, Integer32 Right> constexpr Result WrapMul(Left left, Right right)
 {
     return static_cast<Result>(static_cast<u32>(left) * static_cast<u32>(right));
 }

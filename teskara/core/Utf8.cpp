@@ -151,8 +151,7 @@ void CopyBlock(const char16_t* from, char* to)
 }
 
 // Copies whole blocks of ASCII and tells how many elements these were.
-template <typename From, typename To>
-std::size_t CopyAsciiBlocks(const From* from, To* to, std::size_t count)
+template <typename From, typename To> std::size_t CopyAsciiBlocks(const From* from, To* to, std::size_t count)
 {
     std::size_t done = 0;
     for (; done + BlockSize <= count && IsAsciiBlock(from + done); done += BlockSize)
@@ -160,8 +159,7 @@ std::size_t CopyAsciiBlocks(const From* from, To* to, std::size_t count)
     return done;
 }
 
-template <typename From>
-std::size_t CountAsciiBlocks(const From* from, std::size_t count)
+template <typename From> std::size_t CountAsciiBlocks(const From* from, std::size_t count)
 {
     std::size_t done = 0;
     while (done + BlockSize <= count && IsAsciiBlock(from + done))
@@ -169,7 +167,7 @@ std::size_t CountAsciiBlocks(const From* from, std::size_t count)
     return done;
 }
 
-}
+} // namespace
 
 std::size_t Utf16Length(std::string_view bytes)
 {

@@ -41,7 +41,7 @@ void XMLArena::Destroy()
 
 XMLArena& XMLArena::Of(const XMLNode& node)
 {
-    const char* const place = reinterpret_cast<const char*>(&node) - std::size_t {node.m_PlaceInBlock} * 8;
+    const char* const place = reinterpret_cast<const char*>(&node) - std::size_t{node.m_PlaceInBlock} * 8;
     return *reinterpret_cast<const Block*>(place)->Owner;
 }
 
@@ -80,7 +80,7 @@ char* XMLArena::RoomForLongText(std::size_t bytes)
     return reinterpret_cast<char*>(block + 1);
 }
 
-XMLAttribute* XMLArena::NewAttribute(XMLText name, XMLText value)
+XMLAttribute* XMLArena::NewAttribute(const XMLName& name, XMLText value)
 {
     void* const room = name.Text && value.Text ? RoomForObject(sizeof(XMLAttribute)) : nullptr;
     if (!room)
@@ -89,7 +89,7 @@ XMLAttribute* XMLArena::NewAttribute(XMLText name, XMLText value)
     XMLAttribute* const attribute = ::new (room) XMLAttribute;
     attribute->Name = name.Text;
     attribute->Value = value.Text;
-    attribute->m_NameHash = FoldedHash(name.View());
+    attribute->m_NameHash = name.Hash;
     attribute->m_NameLength = name.Length;
     return attribute;
 }
@@ -104,6 +104,12 @@ XMLText XMLArena::Store(std::string_view text)
         std::memcpy(room, text.data(), text.size());
     room[text.size()] = 0;
     return {room, static_cast<u32>(text.size())};
+}
+
+XMLName XMLArena::StoreName(std::string_view text)
+{
+    const XMLText stored = Store(text);
+    return {stored.Text, stored.Length, FoldedHash(text)};
 }
 
 XMLText XMLArena::Store(std::u16string_view units)

@@ -19,6 +19,15 @@ struct XMLText {
     std::string_view View() const { return {Text, Length}; }
 };
 
+// The same for a name, with its FoldedHash.
+struct XMLName {
+    const char* Text = nullptr;
+    u32 Length = 0;
+    u32 Hash = 0;
+
+    std::string_view View() const { return {Text, Length}; }
+};
+
 // The memory of one tree: a few blocks in which texts grow from the front and nodes from the back. Nothing is given
 // back before all is. Operations answer null if memory ran out and throw nothing.
 class XMLArena
@@ -37,14 +46,16 @@ public:
     static std::size_t BytesForText(std::size_t length) { return length + 1; }
 
     // A node without links, or as the last child of parent.
-    XMLNode* NewNode(XMLText name, u32 type);
-    XMLNode* NewNode(XMLText name, u32 type, XMLNode& parent);
+    // name: a text of this arena, or null, which gives null. hash: FoldedHash of an element's name, otherwise 0.
+    XMLNode* NewNode(const char* name, u32 type, u32 hash);
+    XMLNode* NewNode(const char* name, u32 type, u32 hash, XMLNode& parent);
     static void LinkLast(XMLNode& child, XMLNode& parent);
 
     // An attribute in no list.
-    XMLAttribute* NewAttribute(XMLText name, XMLText value);
+    XMLAttribute* NewAttribute(const XMLName& name, XMLText value);
 
     XMLText Store(std::string_view text);
+    XMLName StoreName(std::string_view text);
 
     // Stores UTF-16 units as UTF-8.
     XMLText Store(std::u16string_view units);
@@ -97,22 +108,21 @@ inline char* XMLArena::RoomForText(std::size_t bytes)
     return text;
 }
 
-inline XMLNode* XMLArena::NewNode(XMLText name, u32 type)
+inline XMLNode* XMLArena::NewNode(const char* name, u32 type, u32 hash)
 {
-    void* const room = name.Text ? RoomForObject(sizeof(XMLNode)) : nullptr;
+    void* const room = name ? RoomForObject(sizeof(XMLNode)) : nullptr;
     if (!room)
         return nullptr;
 
-    XMLNode* const node = ::new (room) XMLNode(name.Text, name.Length, type);
-    node->m_PlaceInBlock = static_cast<u32>((static_cast<char*>(room) - reinterpret_cast<char*>(m_Blocks)) / 8);
-    if (type == XMLElementNode)
-        node->NameHash = FoldedHash(name.View());
+    XMLNode* const node = ::new (room) XMLNode(name, type);
+    node->m_PlaceInBlock = static_cast<u16>((static_cast<char*>(room) - reinterpret_cast<char*>(m_Blocks)) / 8);
+    node->NameHash = static_cast<u16>(hash);
     return node;
 }
 
-inline XMLNode* XMLArena::NewNode(XMLText name, u32 type, XMLNode& parent)
+inline XMLNode* XMLArena::NewNode(const char* name, u32 type, u32 hash, XMLNode& parent)
 {
-    XMLNode* const node = NewNode(name, type);
+    XMLNode* const node = NewNode(name, type, hash);
     if (node)
         LinkLast(*node, parent);
     return node;

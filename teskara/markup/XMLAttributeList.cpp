@@ -2,11 +2,11 @@
 
 #include "teskara/core/Limits.h"
 
-bool XMLAttributeList::Set(XMLArena& arena, XMLText name, XMLText value)
+bool XMLAttributeList::Set(XMLArena& arena, const XMLName& name, XMLText value)
 {
     if (!name.Text || !value.Text)
         return false;
-    if (XMLAttribute* const known = Find(name.View())) {
+    if (XMLAttribute* const known = Find(name)) {
         known->Value = value.Text;
         return true;
     }
@@ -24,14 +24,14 @@ bool XMLAttributeList::Set(XMLArena& arena, XMLText name, XMLText value)
     return true;
 }
 
-XMLAttribute* XMLAttributeList::Find(std::string_view name)
+XMLAttribute* XMLAttributeList::Find(const XMLName& name)
 {
     if (m_Count < WalkedAtMost)
-        return m_Node->FindAttribute(name);
+        return m_Node->FindAttribute(name.View(), name.Hash);
 
     if (m_Index.empty())
         for (XMLAttribute* attribute = m_Node->Attributes; attribute; attribute = attribute->Next)
             m_Index.emplace(attribute->Name, attribute);
-    const auto found = m_Index.find(name);
+    const auto found = m_Index.find(name.View());
     return found != m_Index.end() ? found->second : nullptr;
 }

@@ -17,7 +17,7 @@ public:
 
     // The same as the node's SetAttribute, with texts that lie in its arena. False if memory ran out or the node has
     // as many attributes as it may have.
-    bool Set(XMLArena& arena, XMLText name, XMLText value);
+    bool Set(XMLArena& arena, const XMLName& name, XMLText value);
 
 private:
     static constexpr u32 WalkedAtMost = 16;
@@ -26,7 +26,7 @@ private:
         bool operator()(std::string_view left, std::string_view right) const { return CompareNoCase(left, right) < 0; }
     };
 
-    XMLAttribute* Find(std::string_view name);
+    XMLAttribute* Find(const XMLName& name);
 
     XMLNode* m_Node = nullptr;
     XMLAttribute* m_Last = nullptr;

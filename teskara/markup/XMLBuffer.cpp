@@ -5,9 +5,7 @@
 #include <algorithm>
 
 XMLBuffer::XMLBuffer(XMLDocument* document, std::string_view text)
-    : XMLStream(document)
-    , Data(text.data())
-    , Size(text.size())
+    : XMLStream(document), Data(text.data()), Size(text.size())
 {
     InputBytes = Size;
 }

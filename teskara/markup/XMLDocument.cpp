@@ -11,8 +11,7 @@
 #include <new>
 #include <utility>
 
-XMLDocument::XMLDocument(bool keepTree)
-    : KeepTree(keepTree)
+XMLDocument::XMLDocument(bool keepTree) : KeepTree(keepTree)
 {
     Reset();
 }

@@ -5,9 +5,7 @@
 #include <new>
 #include <utility>
 
-XMLFile::XMLFile(XMLDocument* document, OpenedFile file)
-    : XMLStream(document)
-    , File(std::move(file))
+XMLFile::XMLFile(XMLDocument* document, OpenedFile file) : XMLStream(document), File(std::move(file))
 {
     std::fseek(File.get(), 0, SEEK_END);
     const long size = std::ftell(File.get());

@@ -24,8 +24,7 @@ XMLNode* ContentOf(XMLNode* node, const char* name)
 }
 
 // Reads the text of a child element, which is empty if the element is.
-template <typename Read, typename Value>
-Value ReadChild(XMLNode* node, const char* name, Value fallback, Read read)
+template <typename Read, typename Value> Value ReadChild(XMLNode* node, const char* name, Value fallback, Read read)
 {
     const XMLNode* const child = XMLHelper::GetChild(node, name);
     if (!child)
@@ -33,8 +32,7 @@ Value ReadChild(XMLNode* node, const char* name, Value fallback, Read read)
     return read(child->FirstChild ? child->FirstChild->Name : "");
 }
 
-template <typename Read, typename Value>
-Value ReadAttribute(XMLNode* node, const char* name, Value fallback, Read read)
+template <typename Read, typename Value> Value ReadAttribute(XMLNode* node, const char* name, Value fallback, Read read)
 {
     const char* const text = AttributeText(node, name);
     return text ? read(text) : fallback;
@@ -92,7 +90,7 @@ unsigned int ReadPosition(std::string_view text, ElementPosition& position, unsi
     return position.Factor;
 }
 
-}
+} // namespace
 
 XMLNode* XMLHelper::GetFirstChild(XMLNode* node)
 {
@@ -183,7 +181,7 @@ bool XMLHelper::GetToggle(XMLNode* node, const char* name, bool fallback)
     if (!child)
         return fallback;
     // An empty element switches on.
-    return !child->FirstChild || ReadInteger(child->FirstChild->NameText()) != 0;
+    return !child->FirstChild || ReadInteger(child->FirstChild->Name) != 0;
 }
 
 unsigned int XMLHelper::GetFactorAttribute(XMLNode* node, const char* name, float& factor, unsigned int fallback)
@@ -200,7 +198,7 @@ unsigned int XMLHelper::GetFactorValue(XMLNode* node, const char* name, float& f
         factor = 0;
         return fallback;
     }
-    return child->FirstChild ? ReadFactor(child->FirstChild->NameText(), factor, fallback) : 0;
+    return child->FirstChild ? ReadFactor(child->FirstChild->Name, factor, fallback) : 0;
 }
 
 unsigned int XMLHelper::GetElementPositionAttribute(
@@ -219,7 +217,7 @@ unsigned int XMLHelper::GetElementPositionValue(
         SetPixels(position, fallback);
         return fallback;
     }
-    return child->FirstChild ? ReadPosition(child->FirstChild->NameText(), position, fallback) : 0;
+    return child->FirstChild ? ReadPosition(child->FirstChild->Name, position, fallback) : 0;
 }
 
 bool XMLHelper::GetElementPositionValueEx(
@@ -229,6 +227,6 @@ bool XMLHelper::GetElementPositionValueEx(
     if (!content)
         return false;
 
-    value = ReadPosition(content->NameText(), position, 0);
+    value = ReadPosition(content->Name, position, 0);
     return true;
 }

@@ -12,11 +12,7 @@ struct ElementPosition;
 // A tag or attribute name that is known when the program is compiled, with its hash: looking it up compares numbers
 // before texts. Made of a literal: GetChild(node, TagName("Width")).
 struct TagName {
-    consteval TagName(const char* text)
-        : Text(text)
-        , Hash(FoldedHash(text))
-    {
-    }
+    consteval TagName(const char* text) : Text(text), Hash(FoldedHash(text)) { }
 
     const char* Text;
     u32 Hash;

@@ -20,7 +20,7 @@ std::size_t BytesForCopy(const XMLNode* top)
 {
     std::size_t bytes = 0;
     for (const XMLNode* node = top; node; node = NextInTree(node, top)) {
-        bytes += XMLArena::BytesForNode() + XMLArena::BytesForText(node->NameText().size());
+        bytes += XMLArena::BytesForNode() + XMLArena::BytesForText(std::string_view(node->Name).size());
         for (const XMLAttribute* attribute = node->Attributes; attribute; attribute = attribute->Next)
             bytes += XMLArena::BytesForAttribute() + XMLArena::BytesForText(std::string_view(attribute->Name).size())
                 + XMLArena::BytesForText(std::string_view(attribute->Value).size());
@@ -31,14 +31,15 @@ std::size_t BytesForCopy(const XMLNode* top)
 // Copies one node without its children. Null if memory ran out.
 XMLNode* CopyOne(XMLArena& arena, const XMLNode& node, XMLNode* parent)
 {
-    const XMLText name = arena.Store(node.NameText());
-    XMLNode* const copy = parent ? arena.NewNode(name, node.Type, *parent) : arena.NewNode(name, node.Type);
+    const char* const name = arena.Store(std::string_view(node.Name)).Text;
+    XMLNode* const copy =
+        parent ? arena.NewNode(name, node.Type, node.NameHash, *parent) : arena.NewNode(name, node.Type, node.NameHash);
     if (!copy)
         return nullptr;
 
     XMLAttribute** end = &copy->Attributes;
     for (const XMLAttribute* attribute = node.Attributes; attribute; attribute = attribute->Next) {
-        const XMLText attributeName = arena.Store(std::string_view(attribute->Name));
+        const XMLName attributeName = arena.StoreName(attribute->Name);
         *end = arena.NewAttribute(attributeName, arena.Store(std::string_view(attribute->Value)));
         if (!*end)
             return nullptr;
@@ -75,19 +76,20 @@ XMLArena* ArenaForCopy(const XMLNode* top)
     return XMLArena::Create(BytesForCopy(top));
 }
 
-}
+} // namespace
 
 XMLNode* XMLNode::Create(XMLNode* parent, std::string_view name, u32 type)
 {
+    const u32 hash = type == XMLElementNode ? FoldedHash(name) : 0;
     if (parent) {
         XMLArena& arena = XMLArena::Of(*parent);
-        return arena.NewNode(arena.Store(name), type, *parent);
+        return arena.NewNode(arena.Store(name).Text, type, hash, *parent);
     }
 
     XMLArena* const arena = XMLArena::Create(XMLArena::BytesForNode() + XMLArena::BytesForText(name.size()));
     if (!arena)
         return nullptr;
-    XMLNode* const node = arena->NewNode(arena->Store(name), type);
+    XMLNode* const node = arena->NewNode(arena->Store(name).Text, type, hash);
     arena->First = node;
     if (!node)
         arena->Destroy();
@@ -123,7 +125,7 @@ void XMLNode::SetAttribute(const char* name, const char* value)
     XMLAttribute** end = &Attributes;
     while (*end)
         end = &(*end)->Next;
-    *end = arena.NewAttribute(arena.Store(std::string_view(TextOrEmpty(name))), valueText);
+    *end = arena.NewAttribute(arena.StoreName(TextOrEmpty(name)), valueText);
 }
 
 XMLNode* XMLNode::Clone(XMLNode* parent) const
@@ -146,14 +148,18 @@ XMLNode* XMLNode::Clone(XMLNode* parent) const
 
 bool XMLNode::HasName(std::string_view name, u32 foldedHash) const
 {
-    return NameHash == foldedHash && EqualsNoCase(NameText(), name);
+    return NameHash == static_cast<u16>(foldedHash) && EqualsNoCase(Name, name);
 }
 
 XMLAttribute* XMLNode::FindAttribute(std::string_view name) const
 {
-    const u32 hash = FoldedHash(name);
+    return FindAttribute(name, FoldedHash(name));
+}
+
+XMLAttribute* XMLNode::FindAttribute(std::string_view name, u32 foldedHash) const
+{
     for (XMLAttribute* attribute = Attributes; attribute; attribute = attribute->Next)
-        if (attribute->HasName(name, hash))
+        if (attribute->HasName(name, foldedHash))
             return attribute;
     return nullptr;
 }

@@ -52,12 +52,16 @@ public:
 
     // The attribute of that name in any case, or null.
     XMLAttribute* FindAttribute(std::string_view name) const;
-
-    std::string_view NameText() const { return {Name, m_NameLength}; }
+    XMLAttribute* FindAttribute(std::string_view name, u32 foldedHash) const;
 
     const char* Name; // never null: the tag, the text of a text or comment, the root name of a DOCTYPE
     u32 Type;
-    u32 NameHash = 0; // FoldedHash of an element's name
+    u16 NameHash = 0; // the low half of FoldedHash of an element's name
+
+private:
+    u16 m_PlaceInBlock = 0; // the distance to the start of its memory block, in words of 8 bytes
+
+public:
     XMLAttribute* Attributes = nullptr; // in the order of the markup
     XMLNode* Parent = nullptr;
     XMLNode* FirstChild = nullptr;
@@ -68,16 +72,8 @@ public:
 private:
     friend class XMLArena;
 
-    XMLNode(const char* name, u32 nameLength, u32 type)
-        : Name(name)
-        , Type(type)
-        , m_NameLength(nameLength)
-    {
-    }
+    XMLNode(const char* name, u32 type) : Name(name), Type(type) { }
     static void operator delete(void*) { }
-
-    u32 m_NameLength;
-    u32 m_PlaceInBlock = 0; // the distance to the start of its memory block, in words of 8 bytes
 };
 
 // For owning a tree: std::unique_ptr<XMLNode, XMLNodeDeleter>.

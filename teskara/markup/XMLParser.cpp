@@ -13,29 +13,22 @@ namespace {
 // Room for a small interface; blocks grow from there.
 constexpr std::size_t FirstBlockBytes = 2048;
 
-bool IsSameName(std::u16string_view units, std::string_view name)
+bool IsSameName(std::u16string_view units, const char* name)
 {
-    const auto isSame = [](char16_t unit, char byte) { return unit < 128 && unit == static_cast<u8>(byte); };
-    if (std::equal(units.begin(), units.end(), name.begin(), name.end(), isSame))
-        return true;
-    return EqualsNoCase(ToUtf8(units), name);
+    return IsSpelled(units, name) || EqualsNoCase(ToUtf8(units), name);
 }
 
 // The node's name and the names of all above it, cut to what fits.
 void WritePath(char* to, std::size_t size, const XMLNode* node)
 {
-    std::size_t length = CopyBounded(to, size, node->NameText());
+    std::size_t length = CopyBounded(to, size, node->Name);
     for (node = node->Parent; node; node = node->Parent)
         length += FormatBounded(to + length, size - length, "@%s", node->Name);
 }
 
-}
+} // namespace
 
-XMLParser::XMLParser(XMLDocument& document, XMLStream& stream)
-    : m_Document(document)
-    , m_Stream(stream)
-{
-}
+XMLParser::XMLParser(XMLDocument& document, XMLStream& stream) : m_Document(document), m_Stream(stream) { }
 
 bool XMLParser::Fail(const char* format, const XMLSpan& token)
 {
@@ -74,9 +67,9 @@ XMLSpan XMLParser::NextBehindSpace()
     return token;
 }
 
-XMLNode* XMLParser::NewChild(XMLText name, u32 type)
+XMLNode* XMLParser::NewChild(const char* name, u32 type, u32 hash)
 {
-    return m_Arena->NewNode(name, type, *m_Document.Current);
+    return m_Arena->NewNode(name, type, hash, *m_Document.Current);
 }
 
 bool XMLParser::MakeRoot()
@@ -85,7 +78,7 @@ bool XMLParser::MakeRoot()
     if (!m_Arena)
         return false;
 
-    XMLNode* const root = m_Arena->NewNode(m_Arena->Store(std::string_view("DOCUMENT ROOT")), XMLRootNode);
+    XMLNode* const root = m_Arena->NewNode(m_Arena->Store(std::string_view("DOCUMENT ROOT")).Text, XMLRootNode, 0);
     m_Arena->First = root;
     m_Document.Root = root;
     m_Document.Current = root;
@@ -115,7 +108,7 @@ bool XMLParser::ParseContent()
     while (m_Document.Current != m_Document.Root) {
         const std::u16string_view run = m_Stream.TakeUntil(XMLUnit::EndsContent);
         if (m_Text.empty() && m_Stream.TakeTagBegin()) {
-            if (!run.empty() && !NewChild(Store(run), XMLTextNode))
+            if (!run.empty() && !NewChild(Store(run).Text, XMLTextNode))
                 return false;
             if (!ParseTag())
                 return false;
@@ -136,7 +129,7 @@ bool XMLParser::ParseContentToken()
     if (token.Type == XMLAmpersandToken)
         return AppendReference(m_Text) == Reference::Appended;
     Append(m_Text, token.Units);
-    return bool {token};
+    return bool{token};
 }
 
 bool XMLParser::FlushText()
@@ -146,7 +139,7 @@ bool XMLParser::FlushText()
 
     const XMLText text = m_Arena->Store(std::string_view(m_Text));
     m_Text.clear();
-    return NewChild(text, XMLTextNode) != nullptr;
+    return NewChild(text.Text, XMLTextNode) != nullptr;
 }
 
 bool XMLParser::ParseTag()
@@ -169,9 +162,10 @@ bool XMLParser::ParseTag()
     }
 }
 
-bool XMLParser::ParseStartTag(std::u16string_view name)
+bool XMLParser::ParseStartTag(std::u16string_view nameUnits)
 {
-    XMLNode* const node = NewChild(Store(name), XMLElementNode);
+    const XMLName name = StoreName(nameUnits);
+    XMLNode* const node = NewChild(name.Text, XMLElementNode, name.Hash);
     if (!node)
         return false;
 
@@ -211,7 +205,7 @@ bool XMLParser::ParseEndTag()
     if (name.empty() || !current->Parent)
         return false;
 
-    if (!IsSameName(name, current->NameText())) {
+    if (!IsSameName(name, current->Name)) {
         FormatBounded(m_Document.ErrorText, sizeof m_Document.ErrorText, "Closing element %s, expected %s",
             ToUtf8(name).c_str(), current->Name);
         return false;
@@ -227,7 +221,7 @@ bool XMLParser::ParseEndTag()
 bool XMLParser::ParseAttribute(XMLNode& node, std::u16string_view nameUnits)
 {
     constexpr const char* UnexpectedEnd = "Unexpected end in attribute %s";
-    const XMLText name = Store(nameUnits);
+    const XMLName name = StoreName(nameUnits);
     if (!name.Text)
         return false;
 

@@ -4,6 +4,7 @@
 #include "teskara/markup/XMLArena.h"
 #include "teskara/markup/XMLAttributeList.h"
 #include "teskara/markup/XMLDocument.h"
+#include "teskara/markup/XMLNameTable.h"
 #include "teskara/markup/XMLStream.h"
 
 #include <string>
@@ -28,7 +29,7 @@ private:
     bool ParseContentToken();
     bool FlushText();
     bool ParseTag();
-    bool ParseStartTag(std::u16string_view name);
+    bool ParseStartTag(std::u16string_view nameUnits);
     bool ParseEndTag();
 
     bool ParseAttribute(XMLNode& node, std::u16string_view nameUnits);
@@ -50,8 +51,9 @@ private:
 
     static void Append(std::string& to, std::u16string_view units);
     XMLText Store(std::u16string_view units);
+    XMLName StoreName(std::u16string_view units);
     XMLSpan NextBehindSpace();
-    XMLNode* NewChild(XMLText name, u32 type);
+    XMLNode* NewChild(const char* name, u32 type, u32 hash = 0);
 
     bool Fail(const char* format, const XMLSpan& token);
     bool FailInAttribute(const XMLNode& node, const char* format, const char* name);
@@ -60,6 +62,7 @@ private:
     XMLStream& m_Stream;
     XMLArena* m_Arena = nullptr;
     XMLAttributeList m_Attributes;
+    XMLNameTable m_Names;
     std::string m_Text; // of the open element, as far as it doesn't lie in one piece in the buffer
     std::string m_Value;
     std::string m_Reference;
@@ -71,4 +74,9 @@ private:
 inline XMLText XMLParser::Store(std::u16string_view units)
 {
     return m_Stream.HoldsOnlyAscii() ? m_Arena->StoreAscii(units) : m_Arena->Store(units);
+}
+
+inline XMLName XMLParser::StoreName(std::u16string_view units)
+{
+    return m_Names.Get(units, [this](std::u16string_view name) { return Store(name); });
 }

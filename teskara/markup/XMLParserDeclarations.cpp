@@ -18,14 +18,14 @@ constexpr Declaration NotImplemented[] = {
     {"NOTATION", "ParseExNotation not implemented"},
 };
 
-}
+} // namespace
 
 bool XMLParser::ParseInstruction()
 {
     XMLSpan token = NextBehindSpace();
     if (token.Type != XMLTextToken)
         return false;
-    XMLNode* const node = NewChild(Store(token.Units), XMLInstructionNode);
+    XMLNode* const node = NewChild(Store(token.Units).Text, XMLInstructionNode);
     if (!node)
         return false;
 
@@ -83,7 +83,7 @@ bool XMLParser::ParseComment()
             if (token.Type == XMLHyphenToken) {
                 token = m_Stream.Next();
                 if (token.Type == XMLCloseBracketToken)
-                    return NewChild(m_Arena->Store(std::string_view(text)), XMLCommentNode) != nullptr;
+                    return NewChild(m_Arena->Store(std::string_view(text)).Text, XMLCommentNode) != nullptr;
             }
         }
         Append(text, token.Units);
@@ -96,7 +96,7 @@ bool XMLParser::ParseDoctype()
     XMLSpan token = NextBehindSpace();
     if (token.Type != XMLTextToken)
         return false;
-    XMLNode* const node = NewChild(Store(token.Units), XMLDoctypeNode);
+    XMLNode* const node = NewChild(Store(token.Units).Text, XMLDoctypeNode);
     if (!node)
         return false;
     m_Attributes.Begin(*node);
@@ -157,5 +157,5 @@ bool XMLParser::ParseDoctypeEnd()
 
 bool XMLParser::SetAttribute(std::string_view name, std::string_view value)
 {
-    return m_Attributes.Set(*m_Arena, m_Arena->Store(name), m_Arena->Store(value));
+    return m_Attributes.Set(*m_Arena, m_Arena->StoreName(name), m_Arena->Store(value));
 }

@@ -21,10 +21,9 @@ bool IsAscii(const char16_t* units, std::size_t count)
     return all < 128;
 }
 
-}
+} // namespace
 
-XMLStream::XMLStream(XMLDocument* document)
-    : Document(document)
+XMLStream::XMLStream(XMLDocument* document) : Document(document)
 {
     if (!Grow(FirstUnits))
         Fail();
@@ -92,7 +91,7 @@ XMLSpan XMLStream::NextAcrossReads()
     while (true) {
         const std::size_t scanned = UnreadCount();
         if (!ReadMore())
-            return scanned == 0 || m_Failed ? XMLSpan {} : Take(XMLTextToken, DataEnd);
+            return scanned == 0 || m_Failed ? XMLSpan{} : Take(XMLTextToken, DataEnd);
         if (scanned == 0)
             return Next();
 

@@ -6,7 +6,24 @@ namespace {
 
 // Indexed by token type.
 constexpr const char* Characters[] = {
-    "", "", "<", ">", "=", "\"", "'", "&", "/", "#", ";", "!", "-", "?", "[", "]", nullptr, " ",
+    "",
+    "",
+    "<",
+    ">",
+    "=",
+    "\"",
+    "'",
+    "&",
+    "/",
+    "#",
+    ";",
+    "!",
+    "-",
+    "?",
+    "[",
+    "]",
+    nullptr,
+    " ",
 };
 
 const char* LineSpace(char16_t unit)
@@ -16,7 +33,7 @@ const char* LineSpace(char16_t unit)
     return unit == u'\n' ? "\n" : "\r";
 }
 
-}
+} // namespace
 
 XMLToken::~XMLToken() = default;
 

@@ -19,7 +19,7 @@ constexpr std::array<u8, 128> MakeClasses()
 {
     constexpr u8 EndsAll = EndsDoubleQuoted | EndsSingleQuoted | EndsContent;
     constexpr std::string_view Characters = "<>=\"'&/#;!-?[]"; // in the order of their types
-    std::array<u8, 128> classes {};
+    std::array<u8, 128> classes{};
     for (std::size_t index = 0; index < Characters.size(); ++index)
         classes[static_cast<std::size_t>(Characters[index])] = static_cast<u8>(XMLOpenBracketToken + index);
     classes['\t'] = classes['\n'] = classes['\r'] = XMLLineSpaceToken;
@@ -36,13 +36,13 @@ inline constexpr std::array<u8, 128> Classes = MakeClasses();
 
 constexpr u8 ClassOf(char16_t unit)
 {
-    return unit < Classes.size() ? Classes[unit] : u8 {0};
+    return unit < Classes.size() ? Classes[unit] : u8{0};
 }
 
 constexpr u32 TypeOf(char16_t unit)
 {
     const u32 type = ClassOf(unit) & TypeMask;
-    return type != 0 ? type : u32 {XMLTextToken};
+    return type != 0 ? type : u32{XMLTextToken};
 }
 
 constexpr bool IsSpace(char16_t unit)
@@ -71,4 +71,4 @@ inline const char16_t* FindStop(const char16_t* unit, u8 bits, bool onlyAscii)
     return unit;
 }
 
-}
+} // namespace XMLUnit
