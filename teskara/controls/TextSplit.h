@@ -1,12 +1,10 @@
 #pragma once
 
-#include "teskara/core/BoundedText.h"
 #include "teskara/core/Export.h"
 #include "teskara/core/Types.h"
 
 #include <algorithm>
 #include <cstddef>
-#include <string_view>
 
 // Breaks a text into lines: at the last space of a line that is full, or else right there. A line may pass its width by
 // one character.
@@ -26,7 +24,7 @@ public:
     {
         TextSplit split(text, width, reached);
         const u64 lines = split.Run(measure);
-        CopyBounded(text, BufferSize, {split.m_Output, split.m_Length});
+        *std::copy_n(split.m_Output, split.m_Length, text) = 0;
         return lines;
     }
 

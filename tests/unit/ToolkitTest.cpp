@@ -1,0 +1,76 @@
+#include "tests/unit/ToolkitTest.h"
+
+#include "teskara/core/CUIManager.h"
+#include "teskara/element/TeskElement.h"
+
+#include <cstdio>
+#include <cstdlib>
+#include <stdexcept>
+#include <unistd.h>
+
+namespace {
+
+// Stands for the host while no test runs, and outlives the library's end.
+TestHost& IdleHost()
+{
+    static auto* host = new TestHost;
+    return *host;
+}
+
+// The toolkit can be started only once.
+void StartOnce()
+{
+    static const bool started = [] {
+        F1(&IdleHost())->Initialize();
+        return true;
+    }();
+    static_cast<void>(started);
+}
+
+} // namespace
+
+ToolkitTest::ToolkitTest()
+{
+    StartOnce();
+    SetPlatform(&System);
+    F1(&Host);
+    g_UIManager.TooltipElementID = 0;
+    g_UIManager.MousePosition = {-1, -1};
+    g_UIManager.ResetMouseState();
+    Frame();
+}
+
+ToolkitTest::~ToolkitTest()
+{
+    g_UIManager.Reset();
+    g_UIManager.ClearTemplates();
+    F1(&IdleHost());
+    SetPlatform(nullptr);
+}
+
+void ToolkitTest::Load(const std::string& markup)
+{
+    char path[] = "/tmp/teskara-unit-XXXXXX";
+    const int file = mkstemp(path);
+    ASSERT_GE(file, 0);
+    const std::string text = "<Tesk>" + markup + "</Tesk>";
+    ASSERT_EQ(static_cast<ssize_t>(text.size()), write(file, text.data(), text.size()));
+    close(file);
+    Host.Located["test.xml"] = path;
+    EXPECT_TRUE(g_UIManager.LoadInterfaceXML("test.xml", false, nullptr));
+    std::remove(path);
+}
+
+std::string ToolkitTest::Frame()
+{
+    g_UIManager.Render();
+    return Host.TakeCalls();
+}
+
+TeskElement& ToolkitTest::Element(const char* name)
+{
+    TeskElement* element = g_UIManager.FindElement(name);
+    if (!element)
+        throw std::runtime_error(std::string("no element ") + name);
+    return *element;
+}
