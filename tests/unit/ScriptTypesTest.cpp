@@ -1,5 +1,6 @@
 #include "teskara/core/CUIManager.h"
 #include "teskara/element/TeskScreen.h"
+#include "tests/unit/Allocations.h"
 #include "tests/unit/ScriptHost.h"
 
 #include <gtest/gtest.h>
@@ -173,4 +174,29 @@ TEST(ScriptTypesDeathTest, ATypeMayBeAskedWhenItsBaseHasGone)
         g_UIManager.Shutdown();
         EXPECT_TRUE(host.Types.empty());
     });
+}
+
+// Every allocation of a start fails in turn, alone or with all that follow.
+TEST(ScriptTypesDeathTest, ATypeWithoutMemoryIsLeftOutAndTheRestWorks)
+{
+    for (const auto failing : {Allocations::Failing::Once, Allocations::Failing::FromThenOn}) {
+        for (std::size_t failure = 0; failure < 200; ++failure) {
+            WithHost([&](ScriptHost& host) {
+                Allocations::FailAfter(failure, failing);
+                g_UIManager.Initialize();
+                Allocations::Allow();
+
+                if (failing == Allocations::Failing::FromThenOn && failure == 0) {
+                    EXPECT_TRUE(host.Types.empty()) << "failures do not reach the library";
+                }
+                EXPECT_LE(host.Types.size(), 27u);
+                for (const auto& [name, type] : host.Types) {
+                    _MvTypeVar result;
+                    EXPECT_EQ(-1, type->DispatchMember(ObjectValue(nullptr), "Nonsense", 0, nullptr, result)) << name;
+                }
+                g_UIManager.Shutdown();
+                EXPECT_TRUE(host.Types.empty());
+            });
+        }
+    }
 }
