@@ -8,14 +8,10 @@
 
 // A table of borrowed pointers. A null slot is free, and the first free slot is reused; a full table grows by a fixed
 // number of slots.
-template <class T>
-class CIndex
+template <class T> class CIndex
 {
 public:
-    explicit CIndex(std::size_t growth = 10)
-        : m_Growth(growth > 0 ? growth : 1)
-    {
-    }
+    explicit CIndex(std::size_t growth = 10) : m_Growth(growth > 0 ? growth : 1) { }
 
     // Puts the entry into the first free slot and returns the slot.
     std::size_t Add(T* entry)

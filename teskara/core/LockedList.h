@@ -5,8 +5,7 @@
 #include <vector>
 
 // A last-in-first-out list of pointers under a lock of its own. The pointers are borrowed.
-template <class T>
-class LockedList
+template <class T> class LockedList
 {
 public:
     void Push(T* entry)
