@@ -2,6 +2,7 @@
 
 #include "teskara/core/Utf8.h"
 
+#include <algorithm>
 #include <new>
 #include <utility>
 
@@ -18,7 +19,9 @@ XMLFile::XMLFile(XMLDocument* document, OpenedFile file) : XMLStream(document), 
 void XMLFile::SkipByteOrderMark()
 {
     unsigned char mark[3];
-    if (std::fread(mark, 1, sizeof mark, File.get()) != sizeof mark || mark[0] != 0xEF)
+    if (std::fread(mark, 1, sizeof mark, File.get()) == sizeof mark && mark[0] == 0xEF)
+        InputBytes -= std::min<u64>(InputBytes, sizeof mark);
+    else
         std::rewind(File.get());
 }
 

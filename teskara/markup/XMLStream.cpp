@@ -112,14 +112,16 @@ XMLSpan XMLStream::NextBracket()
 }
 
 // The marker at the beginning stays part of the text. The one at the end is seen only where another unit follows it.
+// A zero does not end the input here, but the text.
 XMLSpan XMLStream::NextSection()
 {
     for (std::size_t from = SectionBegin.size();;) {
         const std::u16string_view section(Unread, UnreadCount() - 1);
         const std::size_t end = section.find(SectionEnd, from);
         if (end != section.npos) {
-            const XMLSpan span = Take(XMLTextToken, Unread + end);
+            XMLSpan span = Take(XMLTextToken, Unread + end);
             Unread += SectionEnd.size();
+            span.Units = span.Units.substr(0, span.Units.find(u'\0'));
             return span;
         }
         from = std::max(from, section.size() - std::min(section.size(), SectionEnd.size() - 1));

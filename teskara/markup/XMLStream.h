@@ -56,7 +56,7 @@ public:
     XMLDocument* Document;
     const char16_t* Unread = nullptr;
 
-    // The size of the whole input in bytes.
+    // The size of the whole input in bytes, as far as it is parsed.
     u64 InputBytes = 0;
 
 private:
