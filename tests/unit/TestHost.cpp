@@ -7,6 +7,7 @@
 #include <cstdarg>
 #include <cstdio>
 #include <cstring>
+#include <string_view>
 
 namespace {
 
@@ -17,7 +18,7 @@ std::string BodyOf(const std::string& source)
     return source.substr(begin, source.rfind("\n}\n") - begin);
 }
 
-void CopyText(const std::string& text, char* output, u32 size)
+void CopyText(std::string_view text, char* output, u32 size)
 {
     const std::size_t length = std::min<std::size_t>(text.size(), size - 1);
     std::memcpy(output, text.data(), length);
@@ -76,7 +77,10 @@ std::string TestHost::TakeCalls()
 int TestHost::DataParse(const char* text, char* output, u32 size)
 {
     Record(RecordSequences, "DataParse \"%s\"", text);
-    CopyText(Expand ? Expand(text) : text, output, size);
+    if (Expand)
+        CopyText(Expand(text), output, size);
+    else
+        CopyText(text, output, size);
     return 1;
 }
 

@@ -1,0 +1,52 @@
+#include "teskara/controls/TeskText.h"
+#include "teskara/core/CUIManager.h"
+#include "teskara/element/TeskElement.h"
+#include "tests/unit/Allocations.h"
+#include "tests/unit/ToolkitTest.h"
+
+namespace {
+
+class FrameAllocationTest : public ToolkitTest
+{
+protected:
+    FrameAllocationTest() { Host.Recorded = 0; }
+
+    static std::size_t AllocationsOfFrames(int count)
+    {
+        const std::size_t before = Allocations::Count();
+        for (int frame = 0; frame < count; ++frame)
+            g_UIManager.Render();
+        return Allocations::Count() - before;
+    }
+};
+
+} // namespace
+
+TEST_F(FrameAllocationTest, AFrameInWhichNothingChangesAllocatesNothing)
+{
+    Load("<frame name='Panel'><Width>100</Width><Height>100</Height><Border>2</Border>"
+         "<BackgroundColor>ff000000</BackgroundColor><FadeDelay>10</FadeDelay><FadeDuration>10</FadeDuration>"
+         "<OnRender>nothing</OnRender><AutoTooltip>Hint</AutoTooltip><Children>"
+         "<frame name='Image'><Width>50</Width><Height>50</Height><Border>4</Border>"
+         "<Texture Filename='#fill'><Border>4</Border></Texture></frame>"
+         "<text name='Static'><Width>50</Width><Height>50</Height><Wrap>1</Wrap><Text>one two three</Text></text>"
+         "<text name='Live'><Width>50</Width><Height>50</Height><Wrap>1</Wrap><Text>${Time} and more</Text></text>"
+         "<frame name='Hidden'><Visible>0</Visible><Children><frame name='Below'/></Children></frame>"
+         "</Children></frame>");
+    AllocationsOfFrames(2);
+    EXPECT_EQ(0u, AllocationsOfFrames(100));
+}
+
+TEST_F(FrameAllocationTest, ATextThatChangesInEveryFrameReusesItsMemory)
+{
+    Load("<text name='T'><Width>80</Width><Height>50</Height><Text>A text of 20 letters</Text></text>");
+    auto& text = As<TeskText>("T");
+    text.SetText("Now it is a bit longer.");
+    const char* const texts[] = {"One of some 20 letters", "And another, as long", "Now it is a bit longer."};
+    const std::size_t before = Allocations::Count();
+    for (int frame = 0; frame < 99; ++frame) {
+        text.SetText(texts[frame % 3]);
+        g_UIManager.Render();
+    }
+    EXPECT_EQ(before, Allocations::Count());
+}
