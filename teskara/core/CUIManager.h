@@ -24,7 +24,7 @@ constexpr u32 TeskaraVersion = 18;
 enum : u8 {
     ButtonUp = 0,
     ButtonIgnored = 1, // down, and no element took the press
-    ButtonTaken = 2,   // down, and an element took it
+    ButtonTaken = 2, // down, and an element took it
 };
 
 // Flags of a key in KeyState and KeyStates.
@@ -114,8 +114,7 @@ public:
     // --- Interface files. False: nothing was applied, and a line says why. file is the host's to locate.
 
     bool LoadInterfaceXML(const char* file, bool replace, TeskSkin* skin);
-    bool LoadInterfaceXML(
-        const char* file, const char* elementName, const char* newName, bool replace, TeskSkin* skin);
+    bool LoadInterfaceXML(const char* file, const char* elementName, const char* newName, bool replace, TeskSkin* skin);
     bool LoadInterfaceXML(TeskElement* parent, const char* file, bool replace, TeskSkin* skin);
     bool LoadInterfaceXML(TeskElement* parent, const char* file, const char* elementName, const char* newName,
         bool replace, TeskSkin* skin);
@@ -242,8 +241,7 @@ private:
     // Input routing
     static MouseButton LeftButton();
     static MouseButton RightButton();
-    template <class Offer>
-    bool OfferDown(TeskElement* candidate, Offer&& offer);
+    template <class Offer> bool OfferDown(TeskElement* candidate, Offer&& offer);
     bool PressButton(const MouseButton& button);
     bool OfferPress(const MouseButton& button, TeskElement& candidate);
     bool IsDoubleClick(const MouseButton& button, u32 id) const;

@@ -7,10 +7,7 @@ class TESKARA_EXPORT CWinLock : public CPortableLock
 {
 public:
     CWinLock() = default;
-    explicit CWinLock(CriticalSection* lock)
-        : m_Lock(lock)
-    {
-    }
+    explicit CWinLock(CriticalSection* lock) : m_Lock(lock) { }
     ~CWinLock() override { CWinLock::Unlock(); }
     CWinLock(const CWinLock&) = delete;
     CWinLock& operator=(const CWinLock&) = delete;

@@ -6,9 +6,7 @@
 class DepthScope
 {
 public:
-    DepthScope(u32& depth, u32 limit)
-        : m_Depth(depth)
-        , m_Entered(depth < limit)
+    DepthScope(u32& depth, u32 limit) : m_Depth(depth), m_Entered(depth < limit)
     {
         if (m_Entered)
             ++m_Depth;

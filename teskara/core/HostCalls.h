@@ -17,8 +17,7 @@ extern HostObject* g_Host;
 extern HostScriptInterface* g_ScriptHost;
 
 // Calls an operation of the host; failure is what stands for "it did not work".
-template <class Result, class Operation>
-inline Result Call(Result failure, Operation&& operation) noexcept
+template <class Result, class Operation> inline Result Call(Result failure, Operation&& operation) noexcept
 {
     if (!g_Host)
         return failure;
@@ -30,8 +29,7 @@ inline Result Call(Result failure, Operation&& operation) noexcept
     }
 }
 
-template <class Operation>
-inline void Call(Operation&& operation) noexcept
+template <class Operation> inline void Call(Operation&& operation) noexcept
 {
     if (!g_Host)
         return;
@@ -44,8 +42,7 @@ inline void Call(Operation&& operation) noexcept
 }
 
 // The same for the script table.
-template <class Result, class Operation>
-inline Result CallScripts(Result failure, Operation&& operation) noexcept
+template <class Result, class Operation> inline Result CallScripts(Result failure, Operation&& operation) noexcept
 {
     if (!g_ScriptHost)
         return failure;
@@ -124,7 +121,7 @@ inline bool DrawLine(const TeskDrawRecord& record, u32 width) noexcept
 
 inline u32 DrawText(u32 font, const char* text, const tagRECT& box, u32 color, u32 format) noexcept
 {
-    return Call(u32 {0}, [&](HostObject& host) { return host.DrawText(font, text, box, color, format); });
+    return Call(u32{0}, [&](HostObject& host) { return host.DrawText(font, text, box, color, format); });
 }
 
 // Width in pixels; a host that writes nothing leaves what width held, a negative width counts as 0.

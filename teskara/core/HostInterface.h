@@ -47,14 +47,14 @@ public:
 
 // One image on the screen, or one line. A wire record: the host may read it as bytes.
 struct TeskDrawRecord {
-    u32 Flags = 0;          // 1: Source is set, else the whole image. 2: Alpha is set. 4: ColorMask is set. 16: a triangle.
-    tagRECT Destination;    // screen pixels; for a line, its two points
-    tagRECT Source;         // pixels of the image
-    u32 TextureID = 0;      // from LoadTextureResource; 1 in a plain line
-    u8 Alpha = 0;           // 0 clear to 255 opaque
-    u8 Orientation = 0;     // quarter turns clockwise
+    u32 Flags = 0; // 1: Source is set, else the whole image. 2: Alpha is set. 4: ColorMask is set. 16: a triangle.
+    tagRECT Destination; // screen pixels; for a line, its two points
+    tagRECT Source; // pixels of the image
+    u32 TextureID = 0; // from LoadTextureResource; 1 in a plain line
+    u8 Alpha = 0; // 0 clear to 255 opaque
+    u8 Orientation = 0; // quarter turns clockwise
     u8 Padding[2] = {0, 0};
-    u32 ColorMask = 0;      // ARGB by which the image is multiplied; the colour of a plain line
+    u32 ColorMask = 0; // ARGB by which the image is multiplied; the colour of a plain line
 };
 static_assert(sizeof(TeskDrawRecord) == 48);
 static_assert(offsetof(TeskDrawRecord, Destination) == 4);

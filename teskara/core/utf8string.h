@@ -15,10 +15,7 @@ using utf8string = std::string;
 class utf8stringnocase
 {
 public:
-    explicit utf8stringnocase(std::string_view text)
-        : m_Text(text)
-    {
-    }
+    explicit utf8stringnocase(std::string_view text) : m_Text(text) { }
 
     operator std::string_view() const { return m_Text; }
     const utf8string& Text() const { return m_Text; }
@@ -40,5 +37,4 @@ struct TESKARA_EXPORT NameEqual {
 };
 
 // A map by name. Look up with any text: map.find(std::string_view(...)).
-template <class Value>
-using NameMap = std::unordered_map<utf8stringnocase, Value, NameHash, NameEqual>;
+template <class Value> using NameMap = std::unordered_map<utf8stringnocase, Value, NameHash, NameEqual>;

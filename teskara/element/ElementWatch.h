@@ -13,16 +13,11 @@
 class ElementWatch
 {
 public:
-    explicit ElementWatch(const TeskElement& element)
-        : ElementWatch(&element)
-    {
-    }
+    explicit ElementWatch(const TeskElement& element) : ElementWatch(&element) { }
 
     // A watch on null says from the start that there is nothing.
     explicit ElementWatch(const TeskElement* element)
-        : m_Element(element)
-        , m_ID(element ? element->ID : 0)
-        , m_Deaths(g_UIManager.GetElementDeaths())
+        : m_Element(element), m_ID(element ? element->ID : 0), m_Deaths(g_UIManager.GetElementDeaths())
     {
     }
 

@@ -9,10 +9,7 @@ constexpr u32 KeepText = 1;
 
 } // namespace
 
-TeskDataSequence::TeskDataSequence(const char* text)
-    : Sequence(Host::PreParseSequence(text ? text : "", KeepText))
-{
-}
+TeskDataSequence::TeskDataSequence(const char* text) : Sequence(Host::PreParseSequence(text ? text : "", KeepText)) { }
 
 TeskDataSequence::~TeskDataSequence()
 {

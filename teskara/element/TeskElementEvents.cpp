@@ -152,9 +152,7 @@ void TeskElement::OnKeyboardExit(TeskElement*)
     RunScript(Events.OnKeyboardExit);
 }
 
-void TeskElement::OnLMouseDownOther(TeskElement*)
-{
-}
+void TeskElement::OnLMouseDownOther(TeskElement*) { }
 
 // Passing a notification up is not a new one.
 void TeskElement::OnNotify(TeskElement* source, unsigned int code, unsigned long long value)

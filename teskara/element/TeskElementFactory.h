@@ -75,8 +75,7 @@ private:
 };
 
 // The factory of one element class, which is made from (kind word, parent, name).
-template <class T>
-class TeskFactory : public TeskElementFactory
+template <class T> class TeskFactory : public TeskElementFactory
 {
 public:
     explicit TeskFactory(const char* name, unsigned int version = TeskaraVersion) { Register(name, version); }

@@ -88,9 +88,7 @@ void TeskElement::RecalculateChildrenSize()
     }
 }
 
-void TeskElement::SizeRecalculated(bool)
-{
-}
+void TeskElement::SizeRecalculated(bool) { }
 
 void TeskElement::Center()
 {

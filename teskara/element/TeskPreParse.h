@@ -23,5 +23,5 @@ public:
     bool RetrieveProcessedText(char* buffer, unsigned int size);
 
     std::unique_ptr<char[]> Text; // unparsed; null for none
-    u32 Sequence = 0;             // host's; 0: there is no text to show
+    u32 Sequence = 0; // host's; 0: there is no text to show
 };

@@ -19,8 +19,7 @@ u32 Follow(int surface, const ElementPosition& position)
 
 } // namespace
 
-TeskScreen::TeskScreen()
-    : TeskElement(nullptr, nullptr, "Screen")
+TeskScreen::TeskScreen() : TeskElement(nullptr, nullptr, "Screen")
 {
     Height = InitialHeight;
     Width = InitialWidth;
@@ -58,18 +57,10 @@ bool TeskScreen::OnLMouseDown(_Point2i&)
     return false;
 }
 
-void TeskScreen::MoveZUp()
-{
-}
+void TeskScreen::MoveZUp() { }
 
-void TeskScreen::MoveZDown()
-{
-}
+void TeskScreen::MoveZDown() { }
 
-void TeskScreen::MoveZTop(bool)
-{
-}
+void TeskScreen::MoveZTop(bool) { }
 
-void TeskScreen::MoveZBottom()
-{
-}
+void TeskScreen::MoveZBottom() { }

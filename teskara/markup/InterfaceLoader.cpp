@@ -141,8 +141,8 @@ bool CUIManager::LoadInterfaceXML(TeskElement* parent, const char* file, bool re
     return LoadInterface({parent, file, nullptr, nullptr, replace, skin});
 }
 
-bool CUIManager::LoadInterfaceXML(TeskElement* parent, const char* file, const char* elementName, const char* newName,
-    bool replace, TeskSkin* skin)
+bool CUIManager::LoadInterfaceXML(
+    TeskElement* parent, const char* file, const char* elementName, const char* newName, bool replace, TeskSkin* skin)
 {
     return LoadInterface({parent, file, TextOrEmpty(elementName), newName, replace, skin});
 }

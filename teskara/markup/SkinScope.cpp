@@ -3,9 +3,8 @@
 #include "teskara/markup/TeskSkin.h"
 
 SkinScope::SkinScope(TeskSkin* skin)
-    : m_Saved(g_UIManager.CurrentSkin)
-    , m_SavedLife(g_UIManager.ShareSkin(m_Saved))
-    , m_SavedIsOurs(!m_SavedLife.expired())
+    : m_Saved(g_UIManager.CurrentSkin), m_SavedLife(g_UIManager.ShareSkin(m_Saved)),
+      m_SavedIsOurs(!m_SavedLife.expired())
 {
     if (skin)
         g_UIManager.CurrentSkin = skin;

@@ -4,10 +4,7 @@
 #include "teskara/markup/XMLHelper.h"
 #include "teskara/markup/XMLNode.h"
 
-TeskSkin::TeskSkin(const char* name)
-    : Name(TextOrEmpty(name))
-{
-}
+TeskSkin::TeskSkin(const char* name) : Name(TextOrEmpty(name)) { }
 
 void TeskSkin::AddTemplate(const char* base, const char* skinned)
 {
