@@ -127,7 +127,7 @@ def transcripts(tally, preset):
     if status == 0 and failed == 0:
         return
     print(output.rstrip())
-    names = list(dict.fromkeys(re.findall(r"\S+\.probe", output)))[:failed]
+    names = list(dict.fromkeys(re.findall(r"^\S+\.probe", output, re.MULTILINE)))[:failed]
     for name in names + ["a transcript"] * (max(failed, 1) - len(names)):
         rerun = name if name in names else "tests/transcripts"
         tally.fail(name, f"build/{preset}/bin/teskara probe --check {rerun}")
