@@ -3,14 +3,15 @@
 #include <CLI/CLI.hpp>
 
 #include <iostream>
+#include <string>
 
 namespace {
 
-// A subcommand's own usage, if one was named.
-const CLI::App& ChosenApp(const CLI::App& app)
+// The usage of the subcommand that was named, else of the program.
+std::string UsageOf(const CLI::App& app)
 {
     const auto chosen = app.get_subcommands();
-    return chosen.empty() ? app : *chosen.front();
+    return chosen.empty() ? app.help() : chosen.front()->help(app.get_name());
 }
 
 } // namespace
@@ -31,7 +32,7 @@ int main(int argc, char** argv)
         if (error.get_exit_code() == static_cast<int>(CLI::ExitCodes::Success))
             return app.exit(error);
 
-        std::cerr << "teskara: " << error.what() << "\n\n" << ChosenApp(app).help();
+        std::cerr << "teskara: " << error.what() << "\n\n" << UsageOf(app);
         return ExitUsage;
     }
     return exitCode;

@@ -11,6 +11,7 @@
 #include <algorithm>
 #include <cstdio>
 #include <memory>
+#include <string_view>
 
 namespace {
 
@@ -57,10 +58,20 @@ void RunFrames(host::InterfaceSession& session, host::Window& window)
     SDL_StopTextInput();
 }
 
+// Without a display SDL falls back on drivers that show nothing; those count only if they were asked for.
+bool FindDisplay()
+{
+    if (SDL_Init(SDL_INIT_VIDEO) != 0)
+        return false;
+
+    const std::string_view driver = SDL_GetCurrentVideoDriver();
+    return (driver != "offscreen" && driver != "dummy") || SDL_getenv("SDL_VIDEODRIVER");
+}
+
 int Run(const InterfaceOptions& options)
 {
-    if (SDL_Init(SDL_INIT_VIDEO) != 0) {
-        std::fprintf(stderr, "teskara: There is no display to open a window on (%s).\n", SDL_GetError());
+    if (!FindDisplay()) {
+        std::fprintf(stderr, "teskara: There is no display to open a window on; `teskara shot` makes a picture.\n");
         return ExitFailed;
     }
     host::Window window;
