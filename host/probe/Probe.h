@@ -1,0 +1,14 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+enum class ProbeMode {
+    Print,  // run each transcript and print what was said and what came back
+    Check,  // compare with the expected lines
+    Update, // rewrite the expected lines with what came back
+};
+
+// Runs transcripts. A path is a file, or a folder of .probe files, which may lie deeper; "-" alone stands for commands
+// from standard input. Returns the exit status: 1 if a transcript failed, 2 if a path does not exist.
+int RunProbe(ProbeMode mode, const std::vector<std::string>& paths);

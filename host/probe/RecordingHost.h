@@ -1,0 +1,106 @@
+#pragma once
+
+#include "host/probe/RecordingScriptInterface.h"
+#include "teskara/core/HostInterface.h"
+
+#include <map>
+#include <string>
+
+class ProbeSession;
+
+// A host without a window: it writes down each call, answers by the rules that the transcript set, and fails where the
+// transcript refuses an operation.
+class RecordingHost : public HostObject
+{
+public:
+    explicit RecordingHost(ProbeSession& session)
+        : m_Session(session)
+        , m_ScriptInterface(session, *this)
+    {
+    }
+
+    u32 AddClass() { return ++m_LastClass; }
+    void SetCompletion(const std::string& from, const std::string& to) { m_Completions[from] = to; }
+
+    // --- Scripts, commands and objects
+
+    HostScript* GetCurrentScript() override;
+    void AddCommand(const char* name, CommandHandler handler, int parse, int hidden) override;
+    void RemoveCommand(const char* name) override;
+    int ExecuteCommand(const char* text) override;
+    int DataParse(const char* text, char* output, u32 size) override;
+    void AddTopLevelObject(const char* name, TopLevelObjectHandler handler) override;
+    void RemoveTopLevelObject(const char* name) override;
+    void AddType(MvTypeDefinition* type) override;
+    void RemoveType(MvTypeDefinition* type) override;
+    MvTypeDefinition* FindType(const char* name) override;
+    void InvalidateTransientObject(u32 classID, void* object) override;
+    u32 RegisterTransientClass(const char* name) override;
+    const char* CompleteCommandLine(const char* text, bool shift) override;
+    bool Calculate(const char* text, double& result) override;
+    void PrintLine(const char* format, ...) override;
+    HostScriptInterface* GetScriptInterface() override;
+
+    // --- Atoms
+
+    u32 CompileAtom(const char* source, u32 length) override;
+    void ReleaseAtom(u32 atom) override;
+    int ExecuteAtomForText(
+        u32 atom, int argc, char** argv, _MvTypeVar* self, u32 unused, char* output, u32 size) override;
+    int ExecuteAtom(u32 atom, u32 unused, int argc, char** argv, _MvTypeVar* self) override;
+    u32 FindAtom(const char* name) override;
+
+    // --- Data sequences
+
+    u32 PreParseSequence(const char* text, u32 keep) override;
+    bool RetrieveOriginalText(u32 sequence, char* buffer, u32 size) override;
+    bool RetrieveProcessedText(u32 sequence, char* buffer, u32 size) override;
+    bool RetrieveProcessedResult(u32 sequence, _MvTypeVar& result) override;
+    void FreeSequence(u32 sequence) override;
+
+    // --- References to the toolkit's objects
+
+    u32 RegisterObjectClass(const char* name) override;
+    void InvalidateObject(u32 classID, void* object) override;
+    void SetTypeObjectClass(MvTypeDefinition* type, u32 classID) override;
+
+    // --- Files and the rest
+
+    bool FindResourceFile(const char* name, char* path) override;
+    bool LocateFile(const char* name, char* path) override;
+    bool OpenClipboard() override;
+    void SaveElementPosition(TeskElement* element) override;
+    void LoadElementPosition(TeskElement* element) override;
+    bool GetKeyName(u32 key, char* buffer, u32 size) override;
+    void GetOutputConsole(char* buffer, u32 size) override;
+    void SetOutputConsole(const char* name) override;
+
+    // --- Drawing
+
+    void DrawRect(const tagRECT& rect, u32 color) override;
+    bool DrawTexturedRect(const TeskDrawRecord& record) override;
+    bool DrawTexturedRects(u32 count, const TeskDrawRecord* records) override;
+    bool DrawLine(const TeskDrawRecord& record, u32 width) override;
+    u32 CreateFontResource(const char* name, u8 height, bool fixed, bool bold) override;
+    void ReleaseFontResource(u32 font) override;
+    u32 DrawText(u32 font, const char* text, const tagRECT& box, u32 color, u32 format) override;
+    void MeasureText(u32 font, const char* text, int& width) override;
+    bool GetGlyphMetrics(u32 font, u32 first, u32 last, float* before, float* glyph, float* after) override;
+    bool GetDisplaySize(int& width, int& height) override;
+    u32 LoadTextureResource(const char* path, u32 colorKey) override;
+    bool GetTextureResourceSize(u32 texture, _Point2i& size) override;
+    void ReleaseTextureResource(u32 texture) override;
+
+private:
+    bool RunAtom(HostOperation operation, u32 atom, int argc, char** argv, _MvTypeVar* self, std::string* text);
+    bool FindFile(HostOperation operation, const char* name, char* path);
+    bool TracesDrawing() const;
+
+    ProbeSession& m_Session;
+    RecordingScriptInterface m_ScriptInterface;
+    std::map<u32, std::string> m_Sequences;
+    std::map<std::string, std::string> m_Completions;
+    std::string m_Console;
+    u32 m_LastSequence = 0;
+    u32 m_LastClass = 0;
+};
