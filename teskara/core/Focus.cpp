@@ -50,9 +50,12 @@ void CUIManager::SetFocusElement(TeskElement* element)
     const ElementWatch watch(*element);
     if (present && !ExitFocus(*present, element))
         return;
+
+    const u32 old = FocusElementID;
     if (watch.Exists())
         element->OnKeyboardEnter();
-    FocusElementID = watch.Exists() ? watch.GetID() : 0;
+    if (FocusElementID == old || FocusElementID == 0) // else the handler moved the focus on
+        FocusElementID = watch.Exists() ? watch.GetID() : 0;
 }
 
 TeskElement* CUIManager::SetFocusElement()
