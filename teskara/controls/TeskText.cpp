@@ -106,16 +106,15 @@ void TeskText::Create(const _CreateText& record, XMLNode* templateNode)
     Alignment = record.Alignment;
     Wrap = record.Wrap;
     Font.reset(TeskFont::New(this, record.Font, templateNode));
-    Text = TextOrEmpty(record.Text);
-    if (!Text.empty())
+    if (TryAssign(Text, record.Text) && !Text.empty())
         TextChanged();
     MoveZTop(true);
 }
 
 void TeskText::SetText(const char* text)
 {
-    Text = TextOrEmpty(text);
-    TextChanged();
+    if (TryAssign(Text, text))
+        TextChanged();
 }
 
 void TeskText::SetHorizontalAlignment(eTextAlign alignment)
@@ -217,7 +216,9 @@ bool TeskText::RenderDynamic()
         CopyBounded(source, sizeof(source), Text);
         Host::DataParse(source, expanded, sizeof(expanded));
     } else {
-        const utf8string source = Text;
+        utf8string source;
+        if (!TryAssign(source, Text.c_str()))
+            return true;
         Host::DataParse(source.c_str(), expanded, sizeof(expanded));
     }
     if (!self.Exists())

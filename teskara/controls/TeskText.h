@@ -41,6 +41,7 @@ public:
     // Fills a text that was made without markup and puts it on top. A null template means the one named "text".
     void Create(const _CreateText& record, XMLNode* templateNode);
 
+    // Changes nothing if memory ran out.
     void SetText(const char* text);
 
     // Any number but that of centre and right draws to the left.

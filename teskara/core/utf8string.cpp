@@ -28,6 +28,16 @@ u64 Mix(u64 hash, u64 word)
 
 } // namespace
 
+bool TryAssign(utf8string& text, const char* from) noexcept
+{
+    try {
+        text = from ? from : "";
+        return true;
+    } catch (...) {
+        return false;
+    }
+}
+
 std::size_t NameHash::operator()(std::string_view name) const noexcept
 {
     u64 hash = reinterpret_cast<std::uintptr_t>(&g_SeedAnchor) ^ name.size();

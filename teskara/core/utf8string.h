@@ -11,6 +11,9 @@
 // UTF-8 text that owns its bytes and knows its length.
 using utf8string = std::string;
 
+// Replaces a text, which from may be a part of; null is empty. False, and the text as it was, if memory ran out.
+bool TryAssign(utf8string& text, const char* from) noexcept;
+
 // The same for names: compared without regard to ASCII case. Keeps the spelling it was made with.
 class utf8stringnocase
 {

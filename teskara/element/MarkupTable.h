@@ -47,17 +47,21 @@ template <class Owner> struct MarkupValue {
     MarkupDefault Default;
 };
 
-// Reads every value of a table in its order. False: the control was deleted meanwhile.
+// Reads every value of a table in its order. False: the control was deleted meanwhile, or memory ran out.
 template <class Owner, std::size_t Count>
 bool ReadMarkup(Owner& control, const MarkupValue<Owner> (&values)[Count], const MarkupSource& source)
 {
     const ElementWatch self(control);
-    for (const MarkupValue<Owner>& value : values) {
-        value.Form.Read(control, source, value.Tag, value.Default);
-        if (!self.Exists())
-            return false;
+    try {
+        for (const MarkupValue<Owner>& value : values) {
+            value.Form.Read(control, source, value.Tag, value.Default);
+            if (!self.Exists())
+                return false;
+        }
+        return true;
+    } catch (...) {
+        return false;
     }
-    return true;
 }
 
 namespace Markup {

@@ -86,29 +86,38 @@ std::optional<utf8string> FindImage(const char* name)
     return path;
 }
 
-} // namespace
-
-TeskTexture* TeskElement::TextureFromXML(XMLNode* node, const char* tag, XMLNode* templateNode)
+// The texture that a tag describes; null if it names no image that is there.
+TeskTexture* MakeTexture(XMLNode* markup)
 {
-    XMLNode* markup = FindMarkup(node, tag, templateNode);
     if (!markup)
         return nullptr;
 
-    XMLNode* textureTemplate = nullptr;
+    XMLNode* templateNode = nullptr;
     const char* name = XMLHelper::GetStringAttribute(markup, "Filename", "");
     if (!*name) {
-        textureTemplate = g_UIManager.FindTemplate(XMLHelper::GetStringAttribute(markup, "Template", ""));
-        name = XMLHelper::GetStringAttribute(textureTemplate, "Filename", "");
+        templateNode = g_UIManager.FindTemplate(XMLHelper::GetStringAttribute(markup, "Template", ""));
+        name = XMLHelper::GetStringAttribute(templateNode, "Filename", "");
         if (!*name)
             return nullptr;
     }
 
     const std::optional<utf8string> file = FindImage(name);
     std::unique_ptr<TeskTexture> texture(file ? TeskTexture::New(file->c_str()) : nullptr);
-    if (!texture || !texture->FromXML(markup, textureTemplate))
+    if (!texture || !texture->FromXML(markup, templateNode))
         return nullptr;
 
     return texture.release();
+}
+
+} // namespace
+
+TeskTexture* TeskElement::TextureFromXML(XMLNode* node, const char* tag, XMLNode* templateNode)
+{
+    try {
+        return MakeTexture(FindMarkup(node, tag, templateNode));
+    } catch (...) {
+        return nullptr;
+    }
 }
 
 TeskFont* TeskElement::FontFromXML(XMLNode* node, const char* tag, XMLNode* templateNode)

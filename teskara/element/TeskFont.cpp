@@ -208,11 +208,10 @@ void TeskFont::SetHeight(u8 height)
 
 void TeskFont::SetName(const char* name)
 {
-    if (EqualsNoCase(Name, TextOrEmpty(name)))
+    if (EqualsNoCase(Name, TextOrEmpty(name)) || !TryAssign(Name, name))
         return;
 
     Release();
-    Name = TextOrEmpty(name);
     TellOwner();
 }
 

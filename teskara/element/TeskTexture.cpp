@@ -23,7 +23,7 @@ constexpr TextureEdge Edges[] = {
 
 TeskTexture::TeskTexture(const char* filename) : Filename(TextOrEmpty(filename)) { }
 
-TeskTexture::TeskTexture(const TeskTexture& source)
+TeskTexture::TeskTexture(const TeskTexture& source) : Filename(source.Filename)
 {
     CopyFields(source);
 }
@@ -140,14 +140,16 @@ bool TeskTexture::GetSize()
 
 void TeskTexture::Set(const char* filename, u32 colorKey)
 {
+    if (!TryAssign(Filename, filename))
+        return;
+
     ReleaseImage();
-    Filename = TextOrEmpty(filename);
     ColorKey = colorKey;
 }
 
 void TeskTexture::SetFrom(const TeskTexture& source)
 {
-    if (&source == this)
+    if (&source == this || !TryAssign(Filename, source.Filename.c_str()))
         return;
 
     ReleaseImage();
@@ -163,10 +165,9 @@ void TeskTexture::ReleaseImage()
     TextureID = 0;
 }
 
-// The source loads its image by being copied; the copy waits for its own first use.
+// All but the name. The source loads its image by being copied; the copy waits for its own first use.
 void TeskTexture::CopyFields(const TeskTexture& source)
 {
-    Filename = source.Filename;
     ColorKey = source.ColorKey;
     Flags = source.Flags;
     Left = source.Left;

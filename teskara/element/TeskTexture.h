@@ -40,7 +40,7 @@ public:
     // Fills Right and Bottom from the loaded image where no rectangle was given. Loads nothing.
     bool GetSize();
 
-    // Names another image and keeps all the rest.
+    // Names another image and keeps all the rest. This and SetFrom change nothing if memory ran out.
     void Set(const char* filename, u32 colorKey);
 
     // Takes over everything from another texture but its loaded image.
