@@ -1,14 +1,23 @@
 #include "host/display/Renderer.h"
 
 #include <algorithm>
-#include <cstring>
+#include <cmath>
+#include <iterator>
+#include <utility>
 
 namespace host {
 
 namespace {
 
-constexpr int VerticesPerQuad = 4;
-constexpr int QuadIndices[] = {0, 1, 2, 0, 2, 3};
+// Two triangles make a shape.
+constexpr int ShapeIndices[] = {0, 1, 2, 0, 2, 3};
+constexpr int IndicesPerShape = static_cast<int>(std::size(ShapeIndices));
+
+void AppendIndices(std::vector<int>& indices, int shape)
+{
+    for (const int index : ShapeIndices)
+        indices.push_back(shape * FrameGeometry::VerticesPerShape + index);
+}
 
 // Moves the far corners of an edge pair so that they show the part of the texture between two shares of the edge.
 void CutCorners(TextureCorners& corners, float left, float top, float right, float bottom)
@@ -25,9 +34,12 @@ void CutCorners(TextureCorners& corners, float left, float top, float right, flo
 // Cuts a rectangle and what it shows to a clip. False: nothing is left.
 bool Cut(PixelRect& rect, TextureCorners& corners, const PixelRect& clip)
 {
+    if (clip.Contains(rect))
+        return !rect.IsEmpty();
+
     const PixelRect part = {std::max(rect.Left, clip.Left), std::max(rect.Top, clip.Top),
         std::min(rect.Right, clip.Right), std::min(rect.Bottom, clip.Bottom)};
-    if (part.Left >= part.Right || part.Top >= part.Bottom)
+    if (part.IsEmpty())
         return false;
 
     CutCorners(corners, (part.Left - rect.Left) / rect.Width(), (part.Top - rect.Top) / rect.Height(),
@@ -55,24 +67,7 @@ SDL_FPoint Inside(const SDL_FPoint& corner)
     return {std::clamp(corner.x, 0.0f, 1.0f), std::clamp(corner.y, 0.0f, 1.0f)};
 }
 
-bool SameBytes(const std::vector<SDL_Vertex>& a, const std::vector<SDL_Vertex>& b)
-{
-    static_assert(sizeof(SDL_Vertex) == 20, "no padding, so that vertices compare as bytes");
-    return a.size() == b.size() && (a.empty() || std::memcmp(a.data(), b.data(), a.size() * sizeof(SDL_Vertex)) == 0);
-}
-
 } // namespace
-
-void Renderer::Frame::Clear()
-{
-    Vertices.clear();
-    Batches.clear();
-}
-
-bool Renderer::Frame::Equals(const Frame& other) const
-{
-    return Batches == other.Batches && SameBytes(Vertices, other.Vertices);
-}
 
 Renderer::Renderer(SDL_Renderer* renderer) : m_Renderer(renderer)
 {
@@ -118,10 +113,7 @@ void Renderer::AddQuad(
 
 void Renderer::AddShape(SDL_Texture* texture, const SDL_Vertex (&vertices)[4])
 {
-    if (m_Frame.Batches.empty() || m_Frame.Batches.back().Texture != texture)
-        m_Frame.Batches.push_back({texture, static_cast<int>(m_Frame.Vertices.size()), 0});
-    m_Frame.Vertices.insert(m_Frame.Vertices.end(), std::begin(vertices), std::end(vertices));
-    m_Frame.Batches.back().VertexCount += VerticesPerQuad;
+    m_Frame.Add(texture, vertices);
 }
 
 void Renderer::Flush()
@@ -133,12 +125,16 @@ void Renderer::Flush()
 
 bool Renderer::EndFrame()
 {
-    if (!m_Invalid && m_Frame.Equals(m_LastFrame))
-        return false;
-
     // What was flushed is not in the kept frame, so the next one has nothing to be compared with.
     const bool wasSplit = m_Cleared;
-    Submit();
+    if (m_Invalid || !m_Frame.HasFormOf(m_LastFrame)) {
+        Submit();
+    } else {
+        const PixelRect difference = m_Frame.DifferenceFrom(m_LastFrame);
+        if (difference.IsEmpty())
+            return false;
+        m_Software ? SubmitPart(difference) : Submit();
+    }
     std::swap(m_Frame, m_LastFrame);
     m_Invalid = wasSplit;
     return true;
@@ -152,19 +148,49 @@ void Renderer::Submit()
         SDL_SetRenderDrawBlendMode(m_Renderer, SDL_BLENDMODE_BLEND);
         m_Cleared = true;
     }
-    for (const Batch& batch : m_Frame.Batches)
+    for (const FrameGeometry::Batch& batch : m_Frame.Batches())
         DrawBatch(batch);
 }
 
-void Renderer::DrawBatch(const Batch& batch)
+// What lies outside of the part is still in the target.
+void Renderer::SubmitPart(const PixelRect& part)
 {
-    const int quads = batch.VertexCount / VerticesPerQuad;
-    for (int quad = static_cast<int>(m_Indices.size() / std::size(QuadIndices)); quad < quads; ++quad)
-        for (const int index : QuadIndices)
-            m_Indices.push_back(quad * VerticesPerQuad + index);
+    const SDL_Rect clip = {static_cast<int>(std::floor(part.Left)), static_cast<int>(std::floor(part.Top)),
+        static_cast<int>(std::ceil(part.Width())) + 1, static_cast<int>(std::ceil(part.Height())) + 1};
+    SDL_RenderSetClipRect(m_Renderer, &clip);
+    SDL_SetRenderDrawBlendMode(m_Renderer, SDL_BLENDMODE_NONE);
+    SDL_SetRenderDrawColor(m_Renderer, m_Background.r, m_Background.g, m_Background.b, m_Background.a);
+    SDL_RenderFillRect(m_Renderer, &clip);
+    SDL_SetRenderDrawBlendMode(m_Renderer, SDL_BLENDMODE_BLEND);
 
-    SDL_RenderGeometry(m_Renderer, batch.Texture, &m_Frame.Vertices[static_cast<std::size_t>(batch.FirstVertex)],
-        batch.VertexCount, m_Indices.data(), quads * static_cast<int>(std::size(QuadIndices)));
+    const PixelRect drawn = {static_cast<float>(clip.x), static_cast<float>(clip.y),
+        static_cast<float>(clip.x + clip.w), static_cast<float>(clip.y + clip.h)};
+    for (const FrameGeometry::Batch& batch : m_Frame.Batches())
+        DrawBatchPart(batch, drawn);
+    SDL_RenderSetClipRect(m_Renderer, nullptr);
+}
+
+void Renderer::DrawBatch(const FrameGeometry::Batch& batch)
+{
+    for (int shape = static_cast<int>(m_Indices.size()) / IndicesPerShape; shape < batch.ShapeCount; ++shape)
+        AppendIndices(m_Indices, shape);
+    DrawShapes(batch, m_Indices, batch.ShapeCount);
+}
+
+void Renderer::DrawBatchPart(const FrameGeometry::Batch& batch, const PixelRect& part)
+{
+    m_PartIndices.clear();
+    for (int shape = 0; shape < batch.ShapeCount; ++shape)
+        if (m_Frame.BoundsOf(batch.FirstShape + shape).Meets(part))
+            AppendIndices(m_PartIndices, shape);
+    if (!m_PartIndices.empty())
+        DrawShapes(batch, m_PartIndices, static_cast<int>(m_PartIndices.size()) / IndicesPerShape);
+}
+
+void Renderer::DrawShapes(const FrameGeometry::Batch& batch, const std::vector<int>& indices, int count)
+{
+    SDL_RenderGeometry(m_Renderer, batch.Texture, m_Frame.ShapeAt(batch.FirstShape),
+        batch.ShapeCount * FrameGeometry::VerticesPerShape, indices.data(), count * IndicesPerShape);
 }
 
 } // namespace host

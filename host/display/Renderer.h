@@ -1,21 +1,13 @@
 #pragma once
 
+#include "host/display/FrameGeometry.h"
+#include "host/display/PixelRect.h"
+
 #include <SDL.h>
 
 #include <vector>
 
 namespace host {
-
-// A rectangle in pixels of the target.
-struct PixelRect {
-    float Left = 0;
-    float Top = 0;
-    float Right = 0;
-    float Bottom = 0;
-
-    float Width() const { return Right - Left; }
-    float Height() const { return Bottom - Top; }
-};
 
 // Which part of a texture goes to which corner, from 0 to 1. The fourth corner follows from the three.
 struct TextureCorners {
@@ -25,7 +17,7 @@ struct TextureCorners {
 };
 
 // Collects a frame as triangles, joined into one call for each run of the same texture, and draws it at the frame's
-// end. A frame that equals the one before is not drawn again. Works on every kind of SDL renderer.
+// end. A frame that equals the one before is not drawn again, and the processor draws only the part that changed.
 class Renderer
 {
 public:
@@ -60,32 +52,20 @@ public:
     void Invalidate() { m_Invalid = true; }
 
 private:
-    struct Batch {
-        SDL_Texture* Texture = nullptr;
-        int FirstVertex = 0;
-        int VertexCount = 0;
-
-        bool operator==(const Batch&) const = default;
-    };
-
-    struct Frame {
-        std::vector<SDL_Vertex> Vertices;
-        std::vector<Batch> Batches;
-
-        void Clear();
-        bool Equals(const Frame& other) const;
-    };
-
     void Submit();
-    void DrawBatch(const Batch& batch);
+    void SubmitPart(const PixelRect& part);
+    void DrawBatch(const FrameGeometry::Batch& batch);
+    void DrawBatchPart(const FrameGeometry::Batch& batch, const PixelRect& part);
+    void DrawShapes(const FrameGeometry::Batch& batch, const std::vector<int>& indices, int count);
 
     SDL_Renderer* m_Renderer;
     bool m_Software = false;
     SDL_Color m_Background = {0, 0, 0, 255};
     PixelRect m_Bounds;
-    Frame m_Frame;
-    Frame m_LastFrame;
-    std::vector<int> m_Indices;
+    FrameGeometry m_Frame;
+    FrameGeometry m_LastFrame;
+    std::vector<int> m_Indices; // of as many shapes as a batch ever had
+    std::vector<int> m_PartIndices;
     bool m_Cleared = false;
     bool m_Invalid = true;
 };

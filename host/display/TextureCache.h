@@ -40,8 +40,8 @@ public:
     // Null for an id that is not in use.
     const Image* Find(u32 id) const;
 
-    // The image turned by quarter turns clockwise, for a renderer that cannot turn what it draws. Null as for Find, or if
-    // the turned image could not be made.
+    // The image turned by quarter turns clockwise, for a renderer that cannot turn what it draws. Null as for Find, and
+    // if the turned image could not be made.
     const Image* FindTurned(u32 id, u8 quarterTurns);
 
     // Between frames: lets go of what has not been used for a while.
