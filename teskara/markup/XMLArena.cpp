@@ -15,13 +15,13 @@ XMLArena::Block* XMLArena::AllocateBlock(std::size_t bytes)
 XMLArena* XMLArena::Create(std::size_t bytes)
 {
     const std::size_t head = sizeof(Block) + sizeof(XMLArena);
-    const std::size_t size = (head + bytes + Slack + 15) / 16 * 16;
+    const std::size_t size = std::min((head + bytes + Slack + 15) / 16 * 16, LargestBlock);
     Block* const block = AllocateBlock(size);
     if (!block)
         return nullptr;
 
     XMLArena* const arena = ::new (block + 1) XMLArena;
-    arena->m_NextBlockBytes = std::min(std::max<std::size_t>(size * 2, 1024), LargestBlock);
+    arena->m_NextBlockBytes = std::clamp<std::size_t>(size * 2, 1024, LargestBlock);
     block->Owner = arena;
     block->Next = nullptr;
     arena->m_Blocks = block;

@@ -33,7 +33,7 @@ struct XMLName {
 class XMLArena
 {
 public:
-    // Makes an arena whose first block has room for bytes. It holds the arena itself too.
+    // Makes an arena whose first block has room for bytes, if they are no more than a block may have.
     static XMLArena* Create(std::size_t bytes);
     void Destroy();
 
@@ -69,6 +69,8 @@ public:
 private:
     // A text is written in blocks, so that up to so many bytes behind its end are touched.
     static constexpr std::size_t Slack = AsciiBlock::Size;
+    // A node's place in its block is told by 16 bits. Larger blocks would have their memory from the system and back
+    // each time.
     static constexpr std::size_t LargestBlock = 64 * 1024 - 64;
 
     struct Block {
