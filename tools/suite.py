@@ -105,7 +105,8 @@ def unit_tests(tally, preset):
         done += names
         crashed = [name for name in names if name not in finished]
         if status != 0:
-            print(re.sub(r"^\[( RUN      |       OK |-+|=+)\].*\n", "", output, flags=re.MULTILINE).rstrip())
+            passed = r"^\[ RUN      \] .*\n\[       OK \] .*\n|^\[[-=]+\].*\n+"
+            print(re.sub(passed, "", output, flags=re.MULTILINE).strip())
         if status == 0 or not crashed:
             if status != 0 and len(good) == len(names):
                 tally.fail(f"end of {program}", program)
