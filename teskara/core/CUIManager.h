@@ -43,8 +43,8 @@ using StoredTemplate = std::unique_ptr<XMLNode, DeleteTemplate>;
 // The centre of the toolkit: knows all elements, owns the screen, the templates and the skins, drives frames and routes
 // input. There is one, g_UIManager. All operations must be called on one thread, and all may be called from scripts.
 //
-// Elements are remembered by id. An id is valid while the id index maps it, and is never used again, so a stale id finds
-// nothing, never something else.
+// Elements are remembered by id. An id is valid while the id index maps it, and is never used again, so a stale id
+// finds nothing, never something else.
 class TESKARA_EXPORT CUIManager
 {
 public:

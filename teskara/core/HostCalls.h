@@ -8,8 +8,8 @@
 #include <string>
 #include <utility>
 
-// Every call to the host goes through here: without a host, and when an operation throws, the result is that operation's
-// failure. Results are preset, so an operation that writes nothing leaves a value that can be used.
+// Every call to the host goes through here: without a host, and when an operation throws, the result is that
+// operation's failure. Results are preset, so an operation that writes nothing leaves a value that can be used.
 namespace Host {
 
 // The object given to F1 and its second table; null until then.

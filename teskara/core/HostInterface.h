@@ -83,8 +83,8 @@ public:
     // Finds a script type by name; null if there is none. The last two arguments are always 0.
     virtual MvTypeDefinition* FindTypeByName(const char* name, u32 unused1, u32 unused2) = 0;
 
-    // Keeps a copy of text in memory of the host's, at least size bytes, that outlives the evaluation that asked for it.
-    // Null on failure: the member then has no value.
+    // Keeps a copy of text in memory of the host's, at least size bytes, that outlives the evaluation that asked for
+    // it. Null on failure: the member then has no value.
     virtual char* MakeTempBuffer(std::size_t size, const char* text) = 0;
 
     // Names a class of objects, for example "internal_pointer". The id goes to InvalidateTransientObject2.
@@ -161,7 +161,8 @@ public:
 
     // --- Atoms: compiled pieces of script
 
-    // Compiles "atom NAME(ARGUMENTS)\n{\nBODY\n}\n". length: bytes without the end. 0: the script is left out, with a line.
+    // Compiles "atom NAME(ARGUMENTS)\n{\nBODY\n}\n". length: bytes without the end. 0: the script is left out, with a
+    // line.
     virtual u32 CompileAtom(const char* source, u32 length) = 0;
 
     // Frees an atom. It may be running; then it goes when it returns.

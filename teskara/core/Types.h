@@ -23,7 +23,8 @@ struct _Point3f {
     float z = 0;
 };
 
-// A rectangle in screen coordinates. The far edges are handed to the host as they are, also when they lie before the near ones.
+// A rectangle in screen coordinates. The far edges are handed to the host as they are, also when they lie before the
+// near ones.
 struct tagRECT {
     i32 left = 0;
     i32 top = 0;

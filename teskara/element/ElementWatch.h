@@ -6,10 +6,10 @@
 // Tells whether an element outlived a call during which scripts could run. Take one before the call, ask it afterwards,
 // and touch nothing of the element if it says no.
 //
-// These may run a script, and so delete anything: the host's ExecuteAtom, ExecuteAtomForText, ExecuteCommand, DataParse,
-// RetrieveProcessedText, RetrieveProcessedResult, Calculate, CreateQuery, EvaluateQuery, CompleteCommandLine,
-// SaveElementPosition, LoadElementPosition, SetOutputConsole and PrintLine; every OnNotify; every virtual operation of a
-// class that is not ours; and whatever reaches one of them.
+// These may run a script, and so delete anything: the host's ExecuteAtom, ExecuteAtomForText, ExecuteCommand,
+// DataParse, RetrieveProcessedText, RetrieveProcessedResult, Calculate, CreateQuery, EvaluateQuery,
+// CompleteCommandLine, SaveElementPosition, LoadElementPosition, SetOutputConsole and PrintLine; every OnNotify; every
+// virtual operation of a class that is not ours; and whatever reaches one of them.
 class ElementWatch
 {
 public:

@@ -5,8 +5,8 @@
 
 struct _MvTypeVar;
 
-// A text with data sequences, parsed once by the host and evaluated at each use. Only the host's id is kept; the host is
-// asked for the text itself. Evaluation may run scripts.
+// A text with data sequences, parsed once by the host and evaluated at each use. Only the host's id is kept; the host
+// is asked for the text itself. Evaluation may run scripts.
 class TESKARA_EXPORT TeskDataSequence
 {
 public:

@@ -93,7 +93,8 @@ struct TeskTexturedRect {
 };
 
 // Everything that stands on the screen. An element belongs to its parent's list of children, from the bottom of the
-// picture to its top, and leaves it through DeleteChild or Delete only. Its X and Y are pixels from the parent's corner.
+// picture to its top, and leaves it through DeleteChild or Delete only. Its X and Y are pixels from the parent's
+// corner.
 //
 // Scripts run inside most operations, and a script may delete any element, this one included: see ElementWatch.
 class TESKARA_EXPORT TeskElement
@@ -222,7 +223,8 @@ public:
     // Writes an absolute position to the element and, from it, to everything below.
     void SpreadPosition(i32 absoluteX, i32 absoluteY);
 
-    // --- Drawing operations. All coordinates are screen pixels, all colours ARGB; AbsoluteAlpha is multiplied in. False: nothing was drawn.
+    // --- Drawing operations. All coordinates are screen pixels, all colours ARGB; AbsoluteAlpha is multiplied in.
+    // False: nothing was drawn.
 
     bool FillRect(const tagRECT& rect, u32 color);
     bool FillRectBordered(const tagRECT& rect, u32 color, u32 border, u32 borderColor);
@@ -235,7 +237,8 @@ public:
     bool TexturedRectBordered(const tagRECT& rect, TeskTexture* texture, u32 border);
     bool TexturedRects(u32 count, const TeskTexturedRect* records);
 
-    // Text in one line, from or around x; right is the limit, else the element's right edge. The result is the width drawn.
+    // Text in one line, from or around x; right is the limit, else the element's right edge. The result is the width
+    // drawn.
     u64 DrawTextA(TeskFont* font, const char* text, i32 x, i32 y);
     u64 DrawTextClipped(TeskFont* font, const char* text, i32 x, i32 y);
     u64 DrawTextClipped(TeskFont* font, const char* text, i32 x, i32 y, i32 right);

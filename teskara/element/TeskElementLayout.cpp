@@ -99,7 +99,8 @@ void TeskElement::Center()
     Y = static_cast<i32>((Parent->Height - Height) >> 1);
 }
 
-// Both far edges count as inside. A circle has the whole width or height as its radius, so only its far corners are cut.
+// Both far edges count as inside. A circle has the whole width or height as its radius, so only its far corners are
+// cut.
 bool TeskElement::HitTest(_Point2i& point)
 {
     if (point.x < AbsoluteX || point.y < AbsoluteY || point.x > WrapAdd(AbsoluteX, Width)

@@ -29,7 +29,8 @@ enum DispatchResult : int {
 };
 
 // A script type: a named table of members and methods, and the operations that answer them on a value of the type. The
-// host calls DispatchMember and DispatchMethod. Names are case-sensitive. argv are the texts behind the name, without it.
+// host calls DispatchMember and DispatchMethod. Names are case-sensitive. argv are the texts behind the name, without
+// it.
 //
 // A derived type overrides GetMember and GetMethod, and switches there on the record's ID. A type with a base asks it
 // from its UnknownMember and UnknownMethod; names that a type has itself never reach its base.
@@ -67,7 +68,8 @@ public:
     virtual int UnknownMember(MvValue value, const char* name, int argc, char** argv, _MvTypeVar& result);
     virtual int UnknownMethod(MvValue value, const char* name, int argc, char** argv);
 
-    // --- Text of a value. ToText writes at most size bytes with the end, the other two at most 4096. False: there is none.
+    // --- Text of a value. ToText writes at most size bytes with the end, the other two at most 4096. False: there is
+    // none.
 
     virtual bool ToTextCopy(MvValue value, char* buffer);
     virtual bool ToText(MvValue value, char* buffer, u32 size);
@@ -80,7 +82,8 @@ public:
     virtual bool InheritsMethod(const char* name);
     virtual MvTypeDefinition* GetVariableType();
 
-    // Register takes the id that the name has, or the next free one. False: the name has this handler already, or is null.
+    // Register takes the id that the name has, or the next free one. False: the name has this handler already, or is
+    // null.
     virtual bool RegisterMember(const char* name, MvTypeHandler handler);
     virtual bool AddMember(u32 id, const char* name, MvTypeHandler handler);
     virtual bool RemoveMember(const char* name, MvTypeHandler handler);

@@ -28,7 +28,8 @@ public:
     // One byte of the ANSI code page as a UTF-16 unit.
     virtual char16_t AnsiToWide(u8 character) = 0;
 
-    // Opens a regular file for reading bytes. path: UTF-16, terminated. Null if it cannot be opened or is no regular file.
+    // Opens a regular file for reading bytes. path: UTF-16, terminated. Null if it cannot be opened or is no regular
+    // file.
     virtual std::FILE* OpenFile(const char16_t* path) = 0;
 
     // Whether something of that name exists. path: UTF-16, terminated.
