@@ -19,8 +19,8 @@ namespace {
 // A name for this process alone, so that several can search at a time.
 const std::string& TemporaryPath()
 {
-    static const std::string path
-        = (std::filesystem::temp_directory_path() / ("xml_bytes." + std::to_string(getpid()))).string();
+    static const std::string path =
+        (std::filesystem::temp_directory_path() / ("xml_bytes." + std::to_string(getpid()))).string();
     return path;
 }
 
@@ -69,7 +69,7 @@ void ReadValues(XMLNode* root)
     }
 }
 
-}
+} // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t size)
 {

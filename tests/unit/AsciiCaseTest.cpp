@@ -14,9 +14,12 @@ TEST(AsciiCase, FoldsLettersAndNothingElse)
         const bool isUpper = byte >= 'A' && byte <= 'Z';
         EXPECT_EQ(FoldAscii(character), isUpper ? static_cast<char>(byte + 32) : character) << byte;
     }
-    std::string text = "\xC3\x84" "BC@[`{z";
+    std::string text = "\xC3\x84"
+                       "BC@[`{z";
     FoldAscii(text);
-    EXPECT_EQ(text, "\xC3\x84" "bc@[`{z");
+    EXPECT_EQ(text,
+        "\xC3\x84"
+        "bc@[`{z");
 }
 
 TEST(AsciiCase, NamesThatDifferInCaseAloneAreEqual)

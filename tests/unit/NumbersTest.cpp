@@ -24,7 +24,7 @@ template <typename Value> std::string Written(std::size_t (*write)(char*, std::s
     return {text, write(text, sizeof text, value)};
 }
 
-}
+} // namespace
 
 TEST(Numbers, AnIntegerIsReadUpToTheFirstOtherByte)
 {
@@ -138,7 +138,7 @@ TEST(Numbers, ArithmeticWraps)
 TEST(Numbers, WrittenNumbersReadBackTheSame)
 {
     EXPECT_EQ(Written<i64>(WriteInteger, -9223372036854775807 - 1), "-9223372036854775808");
-    EXPECT_EQ(Written<i64>(WriteInteger, u32 {4294967295}), "4294967295");
+    EXPECT_EQ(Written<i64>(WriteInteger, u32{4294967295}), "4294967295");
     EXPECT_EQ(Written<float>(WriteFloat, 0.1f), "0.1");
     EXPECT_EQ(Written<float>(WriteFloat, 1e30f), "1e+30");
     EXPECT_EQ(Written<double>(WriteDouble, 0.1), "0.1");

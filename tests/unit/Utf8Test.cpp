@@ -20,7 +20,7 @@ std::string OfCharacter(char32_t character)
     return ToUtf8(units);
 }
 
-}
+} // namespace
 
 TEST(Utf8, EveryCharacterGoesThereAndBack)
 {
@@ -45,11 +45,15 @@ TEST(Utf8, AnIllFormedPartBecomesOneReplacement)
         {"\xC0\x80", {Bad, Bad}},
         {"\xC1\xBF", {Bad, Bad}},
         {"\xC3", {Bad}},
-        {"\xC3" "a", {Bad, u'a'}},
+        {"\xC3"
+         "a",
+            {Bad, u'a'}},
         {"\xC3\xC3\xA4", {Bad, 0xE4}},
         {"\xE0\x80\xAF", {Bad, Bad, Bad}},
         {"\xE2\x82", {Bad}},
-        {"\xE2\x82" "a", {Bad, u'a'}},
+        {"\xE2\x82"
+         "a",
+            {Bad, u'a'}},
         {"\xED\xA0\x80", {Bad, Bad, Bad}},
         {"\xF0\x80\x80\x80", {Bad, Bad, Bad, Bad}},
         {"\xF0\x9F\x98", {Bad}},
@@ -66,9 +70,11 @@ TEST(Utf8, AnIllFormedPartBecomesOneReplacement)
 
 TEST(Utf8, ALoneSurrogateBecomesAReplacement)
 {
-    EXPECT_EQ(ToUtf8(std::u16string {0xD83D}), "\xEF\xBF\xBD");
-    EXPECT_EQ(ToUtf8(std::u16string {0xDE00, u'a'}), "\xEF\xBF\xBD" "a");
-    EXPECT_EQ(ToUtf8(std::u16string {0xD83D, 0xD83D, 0xDE00}), "\xEF\xBF\xBD\xF0\x9F\x98\x80");
+    EXPECT_EQ(ToUtf8(std::u16string{0xD83D}), "\xEF\xBF\xBD");
+    EXPECT_EQ(ToUtf8(std::u16string{0xDE00, u'a'}),
+        "\xEF\xBF\xBD"
+        "a");
+    EXPECT_EQ(ToUtf8(std::u16string{0xD83D, 0xD83D, 0xDE00}), "\xEF\xBF\xBD\xF0\x9F\x98\x80");
 }
 
 // Blocks of 32 go a faster way: what is not ASCII must be seen at every place of one.
@@ -77,8 +83,8 @@ TEST(Utf8, LongTextsConvertAlikeWhereverTheyAreNotAscii)
     for (const char* character : {"\xC3\xA4", "\xE2\x82\xAC", "\xF0\x9F\x98\x80", "\xFF"})
         for (std::size_t place = 0; place < 100; ++place) {
             const std::string bytes = std::string(place, 'x') + character + std::string(100 - place, 'y');
-            const std::u16string expected
-                = std::u16string(place, u'x') + ToUtf16(character) + std::u16string(100 - place, u'y');
+            const std::u16string expected =
+                std::u16string(place, u'x') + ToUtf16(character) + std::u16string(100 - place, u'y');
             ASSERT_EQ(ToUtf16(bytes), expected) << place;
             ASSERT_EQ(Utf16Length(bytes), expected.size());
             ASSERT_EQ(Utf8Length(expected), ToUtf8(expected).size());

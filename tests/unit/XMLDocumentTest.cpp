@@ -94,7 +94,7 @@ TEST(XMLDocument, NodesAreLinkedBothWays)
     const XMLNode* const root = document.Root;
     const XMLNode* const a = root->FirstChild;
     const XMLNode* const b = a->FirstChild;
-    EXPECT_EQ(root->Type, u32 {XMLRootNode});
+    EXPECT_EQ(root->Type, u32{XMLRootNode});
     EXPECT_STREQ(root->Name, "DOCUMENT ROOT");
     EXPECT_EQ(root->Parent, nullptr);
     EXPECT_EQ(root->LastChild, a);
@@ -222,7 +222,9 @@ TEST(XMLDocument, ANumberStandsForTheByteOfItsLow8Bits)
     EXPECT_EQ(Parsed("<a>&#65;&#x41;&#321;&#x141;&#4294967361;</a>"), ".1 'a'\n..3 'AAAAA'\n");
     EXPECT_EQ(Parsed("<a>&#228;</a>"), ".1 'a'\n..3 '\xE4'\n");
     EXPECT_EQ(Parsed("<a>x&#0;&#256;&#x;&#zz;&#X41;y</a>"), ".1 'a'\n..3 'xy'\n");
-    EXPECT_EQ(Parsed("<a>&#x4g;&#65z;</a>"), ".1 'a'\n..3 '\x04" "A'\n");
+    EXPECT_EQ(Parsed("<a>&#x4g;&#65z;</a>"),
+        ".1 'a'\n..3 '\x04"
+        "A'\n");
     EXPECT_EQ(Parsed("<a>&#;;x</a>"), ".1 'a'\n..3 'x'\n");
     EXPECT_EQ(Parsed("<a>&#x" + std::string(126, '0') + "41ff;</a>"), ".1 'a'\n..3 'A'\n");
 }

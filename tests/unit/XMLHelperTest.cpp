@@ -1,6 +1,6 @@
+#include "teskara/markup/XMLHelper.h"
 #include "teskara/markup/ElementPosition.h"
 #include "teskara/markup/XMLDocument.h"
-#include "teskara/markup/XMLHelper.h"
 
 #include <gtest/gtest.h>
 
@@ -24,7 +24,7 @@ protected:
     // The three forms of absence; the last has the attribute and not the child.
     XMLNode* const None = nullptr;
 
-    ElementPosition Position {77, 88};
+    ElementPosition Position{77, 88};
     float Factor = 9;
     unsigned int Value = 66;
 
@@ -32,7 +32,7 @@ private:
     XMLDocument m_Document;
 };
 
-}
+} // namespace
 
 TEST_F(XMLHelperTest, WalkersFollowTheLinks)
 {
@@ -230,7 +230,7 @@ TEST_F(XMLHelperTest, APositionIsPixelsAShareOrADistanceFromTheFarEdge)
     for (const auto& row : table) {
         XMLNode* const node = With(row.Text);
         const bool isShare = row.Type == 2;
-        ElementPosition expected {row.Type, row.Number};
+        ElementPosition expected{row.Type, row.Number};
         if (isShare)
             expected.SetShare(row.Share);
         const auto check = [&](unsigned int result, unsigned int shareResult) {

@@ -16,13 +16,13 @@ XMLTree NewTree(std::string_view name)
     return XMLTree(XMLNode::Create(nullptr, name, XMLElementNode));
 }
 
-}
+} // namespace
 
 TEST(XMLNode, ANewOneStandsAloneOrLast)
 {
     const XMLTree root = NewTree("Root");
     EXPECT_STREQ(root->Name, "Root");
-    EXPECT_EQ(root->Type, u32 {XMLElementNode});
+    EXPECT_EQ(root->Type, u32{XMLElementNode});
     EXPECT_EQ(root->Parent, nullptr);
     EXPECT_EQ(root->FirstChild, nullptr);
     EXPECT_EQ(root->Attributes, nullptr);
@@ -121,8 +121,7 @@ TEST(XMLNode, ANodeCanBeClonedBelowItself)
     EXPECT_NE(root->Clone(child), nullptr);
     EXPECT_EQ(DumpTree(root.get()), "1 'a'\n.1 'b'\n..1 'a'\n...1 'b'\n");
     EXPECT_NE(root->Clone(root.get()), nullptr);
-    EXPECT_EQ(DumpTree(root.get()),
-        "1 'a'\n.1 'b'\n..1 'a'\n...1 'b'\n.1 'a'\n..1 'b'\n...1 'a'\n....1 'b'\n");
+    EXPECT_EQ(DumpTree(root.get()), "1 'a'\n.1 'b'\n..1 'a'\n...1 'b'\n.1 'a'\n..1 'b'\n...1 'a'\n....1 'b'\n");
 }
 
 TEST(XMLNode, CloningANodeLeavesItsSiblingsOut)

@@ -16,8 +16,8 @@ char Lower(char character)
 
 bool SameName(std::string_view left, std::string_view right)
 {
-    return std::equal(left.begin(), left.end(), right.begin(), right.end(),
-        [](char a, char b) { return Lower(a) == Lower(b); });
+    return std::equal(
+        left.begin(), left.end(), right.begin(), right.end(), [](char a, char b) { return Lower(a) == Lower(b); });
 }
 
 u32 TypeOf(char16_t unit)
@@ -121,7 +121,7 @@ void DumpPlain(const XMLPlainParser::Node& node, std::size_t depth, std::string&
         DumpPlain(*child, depth + 1, to);
 }
 
-}
+} // namespace
 
 std::string DumpTree(const XMLNode* root)
 {
@@ -147,7 +147,7 @@ std::string DumpTree(const XMLNode* root)
 }
 
 XMLPlainParser::XMLPlainParser(std::string_view bytes)
-    : Entities {{"lt", "<"}, {"gt", ">"}, {"amp", "&"}, {"apos", "'"}, {"quot", "\""}}, m_Bytes(bytes)
+    : Entities{{"lt", "<"}, {"gt", ">"}, {"amp", "&"}, {"apos", "'"}, {"quot", "\""}}, m_Bytes(bytes)
 {
 }
 
@@ -192,7 +192,7 @@ bool XMLPlainParser::ReadMore()
 
 XMLPlainParser::Token XMLPlainParser::TakeText(std::size_t units)
 {
-    Token token {1, Narrow(std::u16string_view(m_Units).substr(0, units))};
+    Token token{1, Narrow(std::u16string_view(m_Units).substr(0, units))};
     m_Units.erase(0, units);
     return token;
 }
@@ -203,7 +203,7 @@ XMLPlainParser::Token XMLPlainParser::Next()
         return {};
     for (std::size_t place = 0;; ++place) {
         if (place == m_Units.size() && !ReadMore())
-            return place == 0 || m_Broken ? Token {} : TakeText(place);
+            return place == 0 || m_Broken ? Token{} : TakeText(place);
         const char16_t unit = m_Units[place];
         const u32 type = TypeOf(unit);
         if (type == 1 && unit != 0)
@@ -399,8 +399,8 @@ bool XMLPlainParser::Attribute(Node* node, const std::string& name)
             if (!Reference(value, ended)) {
                 if (m_Expanded > m_Bytes.size() * 64 + 1024 * 1024)
                     return false;
-                return FailIn(node,
-                    (ended ? "Unexpected end in attribute " : "Expected ; in XML entity in attribute ") + name);
+                return FailIn(
+                    node, (ended ? "Unexpected end in attribute " : "Expected ; in XML entity in attribute ") + name);
             }
         } else {
             value += token.Text;
