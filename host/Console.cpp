@@ -1,6 +1,9 @@
 #include "host/Console.h"
 
+#include "host/display/Characters.h"
+
 #include <cstdio>
+#include <string_view>
 
 namespace host {
 
@@ -8,7 +11,19 @@ namespace {
 
 constexpr std::size_t LongestLine = 4096;
 
+// A message may quote bytes of a broken file, which a terminal must not take for orders.
+std::string Printable(std::string_view text)
+{
+    std::string printable;
+    for (std::size_t at = 0; at < text.size();) {
+        const char32_t character = DecodeCharacter(text, at);
+        const bool isControl = character < 0x20 || (character >= 0x7F && character < 0xA0);
+        AppendUtf8(printable, isControl && character != '\t' ? U'?' : character);
+    }
+    return printable;
 }
+
+} // namespace
 
 void Console::Print(const char* format, ...)
 {
@@ -27,10 +42,8 @@ void Console::PrintArguments(const char* format, std::va_list arguments)
 
 void Console::PrintText(const std::string& text)
 {
-    if (m_Subject.empty())
-        std::fprintf(stderr, "teskara: %s\n", text.c_str());
-    else
-        std::fprintf(stderr, "teskara: %s: %s\n", m_Subject.c_str(), text.c_str());
+    const std::string line = m_Subject.empty() ? text : m_Subject + ": " + text;
+    std::fprintf(stderr, "teskara: %s\n", Printable(line).c_str());
 }
 
 } // namespace host

@@ -91,19 +91,26 @@ struct Span {
     float To;
 };
 
-// A stretch of the image along one axis as shares of its size. When it is drawn enlarged it begins and ends in the
-// middle of its outer pixels, so that smoothing takes in nothing of the neighbours.
+// A stretch of the image along one axis as shares of its size. What lies outside of the image shows its last pixel,
+// and an empty stretch the pixel at its place, as in the middle of an image that is all border.
 Span SharesOf(i32 from, i32 to, int size, float drawn, bool smooth)
 {
-    auto start = static_cast<float>(from);
-    auto end = static_cast<float>(to);
-    if (smooth && std::abs(end - start) >= 1 && drawn > std::abs(end - start)) {
+    const auto whole = static_cast<float>(size);
+    float start = std::clamp(static_cast<float>(from), 0.0f, whole);
+    float end = std::clamp(static_cast<float>(to), 0.0f, whole);
+    if (start == end) {
+        start = std::min(start, whole - 1);
+        end = start + 1;
+    }
+
+    // Enlarged, it begins and ends in the middle of its outer pixels, so that smoothing takes in nothing of the
+    // neighbours.
+    if (smooth && drawn > std::abs(end - start)) {
         const float inward = end > start ? 0.5f : -0.5f;
         start += inward;
         end -= inward;
     }
-    const auto whole = static_cast<float>(size);
-    return {std::clamp(start / whole, 0.0f, 1.0f), std::clamp(end / whole, 0.0f, 1.0f)};
+    return {start / whole, end / whole};
 }
 
 } // namespace
