@@ -11,11 +11,16 @@ std::atomic<std::size_t> g_Count = 0;
 std::atomic<std::size_t> g_FirstFailure = SIZE_MAX;
 std::atomic<bool> g_FailsFromThenOn = false;
 
-void* Allocate(std::size_t size)
+void* AllocateOrNull(std::size_t size)
 {
     const std::size_t index = g_Count++;
     const bool fails = index == g_FirstFailure || (index > g_FirstFailure && g_FailsFromThenOn);
-    void* memory = fails ? nullptr : std::malloc(size > 0 ? size : 1);
+    return fails ? nullptr : std::malloc(size > 0 ? size : 1);
+}
+
+void* Allocate(std::size_t size)
+{
+    void* memory = AllocateOrNull(size);
     if (!memory)
         throw std::bad_alloc();
     return memory;
@@ -51,6 +56,16 @@ void* operator new(std::size_t size)
 void* operator new[](std::size_t size)
 {
     return Allocate(size);
+}
+
+void* operator new(std::size_t size, const std::nothrow_t&) noexcept
+{
+    return AllocateOrNull(size);
+}
+
+void* operator new[](std::size_t size, const std::nothrow_t&) noexcept
+{
+    return AllocateOrNull(size);
 }
 
 void operator delete(void* memory) noexcept
