@@ -1,6 +1,7 @@
 #include "teskara/core/AsciiCase.h"
 #include "teskara/core/CUIManager.h"
 #include "teskara/core/Numbers.h"
+#include "teskara/element/ChildWalkBound.h"
 #include "teskara/element/ElementWatch.h"
 #include "teskara/element/TeskElement.h"
 
@@ -72,12 +73,13 @@ void TeskElement::RecalculateSize(bool recurse)
         RecalculateChildrenSize();
 }
 
-// A child's new size may run a script that deletes anything.
+// A child's new size may run a script that deletes or moves anything.
 void TeskElement::RecalculateChildrenSize()
 {
     const ElementWatch self(*this);
+    ChildWalkBound bound(*this, s_Relinks);
     TeskElement* child = FirstChild;
-    while (child) {
+    while (child && bound.Step()) {
         const ElementWatch watchedChild(*child);
         const ElementWatch next(child->Next);
         child->RecalculateSize(true);
