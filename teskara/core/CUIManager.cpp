@@ -108,7 +108,8 @@ void CUIManager::Reset()
         return;
 
     DestroyScreen();
-    CreateScreen();
+    if (!m_InShutdown) // which a script of the old screen may have begun
+        CreateScreen();
 }
 
 // Scripts may replace the screen between any two steps.
@@ -173,6 +174,9 @@ bool CUIManager::EnterElement(TeskElement& element)
     if (NextElementID == 0)
         return false;
 
+    // Leaving a list must not fail, so there is room from the start for each to be out of its own.
+    if (m_Detached.capacity() <= ElementsByID.size())
+        m_Detached.reserve(2 * ElementsByID.size() + 1);
     element.ID = NextElementID;
     ElementsByID.emplace(element.ID, &element);
     try {
@@ -214,9 +218,12 @@ void CUIManager::ForgetParent(TeskElement& parent)
     }
 }
 
+// Without memory the element keeps what it had.
 void CUIManager::SetElementMetadata(u32 id, const char* name, const char* value)
-{
+try {
     ElementMetadata[id].insert_or_assign(utf8stringnocase(TextOrEmpty(name)), TextOrEmpty(value));
+} catch (...) {
+    return;
 }
 
 const char* CUIManager::GetElementMetadata(u32 id, const char* name) const

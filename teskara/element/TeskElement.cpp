@@ -172,7 +172,10 @@ void TeskElement::Detach()
 
 TeskElement* TeskElement::FindChild(const char* name)
 {
-    utf8string wanted = TextOrEmpty(name);
+    utf8string wanted;
+    if (!TryAssign(wanted, name))
+        return nullptr;
+
     FoldAscii(wanted); // as names are kept
     for (TeskElement* child = FirstChild; child; child = child->Next) {
         if (HasName(*child, wanted))

@@ -215,7 +215,7 @@ public:
     // Runs one of the element's scripts, if it is there. Afterwards the element may be gone.
     static void RunScript(const ScriptPointer& script);
     static void RunScript(const ScriptPointer& script, const _Point2i& point);
-    static void RunScript(const ScriptPointer& script, const char* argument);
+    static void RunScript(const ScriptPointer& script, char* argument);
 
     // Fills the base fields from a record.
     void CreateFrom(const _CreateElement& record);

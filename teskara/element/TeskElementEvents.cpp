@@ -63,14 +63,10 @@ void TeskElement::RunScript(const ScriptPointer& script, const _Point2i& point)
     script->Execute(2, arguments);
 }
 
-void TeskElement::RunScript(const ScriptPointer& script, const char* argument)
+void TeskElement::RunScript(const ScriptPointer& script, char* argument)
 {
-    if (!script)
-        return;
-
-    utf8string copy = argument;
-    char* arguments[] = {copy.data()};
-    script->Execute(1, arguments);
+    if (script)
+        script->Execute(1, &argument);
 }
 
 bool TeskElement::OnLMouseUp(_Point2i& point)

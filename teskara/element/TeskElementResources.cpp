@@ -148,7 +148,7 @@ TeskFixedFont* TeskElement::FixedFontFromXML(XMLNode* node, const char* tag, XML
 
 // The old texture goes in any case.
 bool TeskElement::TextureFromArgs(int argc, char** argv, TeskTexture** texture)
-{
+try {
     if (!texture)
         return false;
 
@@ -165,6 +165,8 @@ bool TeskElement::TextureFromArgs(int argc, char** argv, TeskTexture** texture)
     const SkinScope inForce(skin);
     *texture = TextureFromXML(document.Root->FirstChild, nullptr, nullptr);
     return *texture != nullptr;
+} catch (...) {
+    return false; // no memory
 }
 
 bool TeskElement::TextureFromArgs(int argc, char** argv, std::unique_ptr<TeskTexture>& texture)

@@ -14,6 +14,21 @@ namespace {
 
 u32 g_ScriptDepth = 0;
 
+// The host's number of the atom; 0 if the host refused, or if memory ran out.
+u32 Compile(const char* text, const char* arguments)
+{
+    try {
+        utf8string source = "atom auto(";
+        source += TextOrEmpty(arguments);
+        source += ")\n{\n";
+        source += text;
+        source += "\n}\n";
+        return Host::CompileAtom(source);
+    } catch (...) {
+        return 0;
+    }
+}
+
 } // namespace
 
 TeskEmbeddedScript* TeskEmbeddedScript::New(TeskElement* element, const char* text, const char* arguments)
@@ -21,12 +36,7 @@ TeskEmbeddedScript* TeskEmbeddedScript::New(TeskElement* element, const char* te
     if (!element || !text)
         return nullptr;
 
-    utf8string source = "atom auto(";
-    source += TextOrEmpty(arguments);
-    source += ")\n{\n";
-    source += text;
-    source += "\n}\n";
-    const u32 atom = Host::CompileAtom(source);
+    const u32 atom = Compile(text, arguments);
     if (!atom)
         return nullptr;
 

@@ -3,6 +3,7 @@
 #include "teskara/core/HostCalls.h"
 
 #include <cstring>
+#include <new>
 
 namespace {
 
@@ -26,8 +27,9 @@ void TeskPreParse::PreParse(const char* text)
     std::unique_ptr<char[]> copy;
     if (text) {
         const std::size_t size = std::strlen(text) + 1;
-        copy = std::make_unique<char[]>(size);
-        std::memcpy(copy.get(), text, size);
+        copy.reset(new (std::nothrow) char[size]);
+        if (copy)
+            std::memcpy(copy.get(), text, size);
     }
     Clear();
     Text = std::move(copy);

@@ -15,7 +15,7 @@ public:
     TeskPreParse(const TeskPreParse&) = delete;
     TeskPreParse& operator=(const TeskPreParse&) = delete;
 
-    // Takes a new text in place of the old; null leaves none. text may be the present one.
+    // Takes a new text in place of the old; null leaves none, as does a lack of memory. text may be the present one.
     void PreParse(const char* text);
     void Clear();
 

@@ -169,7 +169,7 @@ bool CUIManager::OpenInterface(const char* file, XMLDocument& document, XMLNode*
 }
 
 bool CUIManager::LoadInterface(const LoadRequest& request)
-{
+try {
     const DepthScope depth(m_LoadDepth, Limits::NestedLoads);
     if (!request.Parent || !depth.Entered() || m_TearingDown)
         return false;
@@ -193,6 +193,8 @@ bool CUIManager::LoadInterface(const LoadRequest& request)
             LoadTopLevelElement(request, node);
     }
     return true;
+} catch (...) {
+    return false; // no memory
 }
 
 void CUIManager::LoadTopLevelElement(const LoadRequest& request, XMLNode* node)
@@ -210,7 +212,7 @@ void CUIManager::LoadTopLevelElement(const LoadRequest& request, XMLNode* node)
 }
 
 bool CUIManager::UnloadInterfaceXML(const char* file)
-{
+try {
     const auto document = std::make_unique<XMLDocument>(false);
     XMLNode* root = nullptr;
     if (!OpenInterface(file, *document, root))
@@ -221,10 +223,12 @@ bool CUIManager::UnloadInterfaceXML(const char* file)
             DeleteFromScreen(NameOf(node));
     }
     return true;
+} catch (...) {
+    return false; // no memory
 }
 
 TeskElement* CUIManager::LoadElement(TeskElement* parent, const char* type, const char* name)
-{
+try {
     if (!parent || !type || !name || !*name)
         return nullptr;
 
@@ -243,11 +247,13 @@ TeskElement* CUIManager::LoadElement(TeskElement* parent, const char* type, cons
         return nullptr;
     }
     return FinishElement(*element);
+} catch (...) {
+    return nullptr; // no memory
 }
 
 TeskElement* CUIManager::LoadElement(
     TeskElement* parent, const char* type, const char* name, XMLNode* node, const char* templateName)
-{
+try {
     if (!parent || !node || !type || !name || !*name)
         return nullptr;
 
@@ -272,4 +278,6 @@ TeskElement* CUIManager::LoadElement(
     const ElementWatch watch(*element);
     LoadChildren(*element, node, FindTemplate(templateName));
     return watch.Exists() ? FinishElement(*element) : nullptr;
+} catch (...) {
+    return nullptr; // no memory
 }
