@@ -102,7 +102,7 @@ void TeskText::Create(const _CreateText& record, XMLNode* templateNode)
     if (!templateNode)
         templateNode = g_UIManager.FindTemplate("text");
     CreateFrom(record);
-    VerticalAlignment = record.VerticalAlignment;
+    VerticalAlignment = record.VerticalAlignment ? record.VerticalAlignment : AlignTop;
     Alignment = record.Alignment;
     Wrap = record.Wrap;
     Font.reset(TeskFont::New(this, record.Font, templateNode));
