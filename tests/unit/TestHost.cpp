@@ -135,6 +135,19 @@ void TestHost::LoadElementPosition(TeskElement* element)
         RestorePosition(*element);
 }
 
+void TestHost::SaveElementPosition(TeskElement* element)
+{
+    if (KeepPosition)
+        KeepPosition(*element);
+}
+
+bool TestHost::GetKeyName(u32 key, char* name, u32 size)
+{
+    if (NamesKeys)
+        CopyText(std::string(1, static_cast<char>(key)), name, size);
+    return NamesKeys;
+}
+
 void TestHost::DrawRect(const tagRECT& rect, u32 color)
 {
     if (Recorded & RecordDrawing)

@@ -62,9 +62,9 @@ public:
     bool LocateFile(const char* name, char* path) override;
 
     bool OpenClipboard() override { return false; }
-    void SaveElementPosition(TeskElement*) override { }
+    void SaveElementPosition(TeskElement* element) override;
     void LoadElementPosition(TeskElement* element) override;
-    bool GetKeyName(u32, char*, u32) override { return false; }
+    bool GetKeyName(u32 key, char* name, u32 size) override;
     void GetOutputConsole(char* buffer, u32) override { *buffer = 0; }
     void SetOutputConsole(const char*) override { }
 
@@ -109,6 +109,10 @@ public:
     std::map<std::string, std::string> Located;
     std::map<std::string, std::string> FoundResources;
     std::function<void(TeskElement& element)> RestorePosition;
+    std::function<void(TeskElement& element)> KeepPosition;
+
+    // Whether keys have names, which are their characters.
+    bool NamesKeys = false;
 
 private:
     void Record(unsigned group, const char* format, ...) __attribute__((format(printf, 3, 4)));
