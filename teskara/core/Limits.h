@@ -33,6 +33,9 @@ inline constexpr u32 ElementDepth = 200;
 inline constexpr std::size_t FullNameBytes = 4096;
 // Entries of a chain of templates; the chain stops there.
 inline constexpr u32 TemplateChainEntries = 4096;
+// Bytes of markup that the entries hold together, nodes and attributes included. The first entry counts in any case;
+// the chain stops before the one that would go beyond.
+inline constexpr std::size_t TemplateChainBytes = 16 * 1024 * 1024;
 
 // Calls inside calls.
 

@@ -2,11 +2,14 @@
 
 #include "teskara/core/CUIManager.h"
 #include "teskara/core/Limits.h"
+#include "teskara/core/utf8string.h"
 #include "teskara/markup/XMLAttribute.h"
 #include "teskara/markup/XMLHelper.h"
 #include "teskara/markup/XMLNode.h"
 
 #include <cstring>
+#include <string_view>
+#include <unordered_map>
 
 namespace {
 
@@ -22,19 +25,76 @@ void RemoveChild(XMLNode* parent, XMLNode* child)
     XMLNode::Delete(child);
 }
 
-// An element takes the place of the first one of its tag, and stands at the end. Texts and comments add up.
-void MergeInto(XMLNode* target, XMLNode* source)
+// What a copy of the node and all below it takes, roughly.
+std::size_t BytesOf(const XMLNode* top)
 {
-    for (XMLAttribute* attribute = source->Attributes; attribute; attribute = attribute->Next)
-        target->SetAttribute(attribute->Name, attribute->Value);
-    for (XMLNode* child = source->FirstChild; child; child = child->Next) {
-        if (child->Type == XMLElementNode) {
-            if (XMLNode* replaced = XMLHelper::GetChild(target, child->Name, child->NameHash))
-                RemoveChild(target, replaced);
+    std::size_t bytes = 0;
+    const XMLNode* node = top;
+    while (node) {
+        bytes += sizeof(XMLNode) + std::strlen(node->Name);
+        for (const XMLAttribute* attribute = node->Attributes; attribute; attribute = attribute->Next)
+            bytes += sizeof(XMLAttribute) + std::strlen(attribute->Name) + std::strlen(attribute->Value);
+
+        if (node->FirstChild) {
+            node = node->FirstChild;
+            continue;
         }
-        child->Clone(target);
+        while (node != top && !node->Next)
+            node = node->Parent;
+        node = node == top ? nullptr : node->Next;
     }
+    return bytes;
 }
+
+// The template that comes of a chain, entry by entry. Knows its children by tag, so that many of them cost no search.
+class MergedTemplate
+{
+public:
+    explicit MergedTemplate(XMLNode* root) : m_Root(root)
+    {
+        for (XMLNode* child = root->FirstChild; child; child = child->Next)
+            Note(child);
+    }
+
+    // An element takes the place of the first one of its tag, and stands at the end. Texts and comments add up.
+    void Merge(XMLNode* source)
+    {
+        for (XMLAttribute* attribute = source->Attributes; attribute; attribute = attribute->Next)
+            m_Root->SetAttribute(attribute->Name, attribute->Value);
+        for (XMLNode* child = source->FirstChild; child; child = child->Next) {
+            if (child->Type == XMLElementNode)
+                RemoveFirst(child->Name);
+            if (XMLNode* copy = child->Clone(m_Root))
+                Note(copy);
+        }
+    }
+
+private:
+    // The children of one tag, of which the first ones are gone.
+    struct Namesakes {
+        std::vector<XMLNode*> Nodes;
+        std::size_t Gone = 0;
+    };
+
+    void Note(XMLNode* child)
+    {
+        if (child->Type == XMLElementNode)
+            m_ByTag[std::string_view(child->Name)].Nodes.push_back(child);
+    }
+
+    void RemoveFirst(std::string_view tag)
+    {
+        const auto known = m_ByTag.find(tag);
+        if (known == m_ByTag.end() || known->second.Gone == known->second.Nodes.size())
+            return;
+
+        RemoveChild(m_Root, known->second.Nodes[known->second.Gone]);
+        ++known->second.Gone;
+    }
+
+    XMLNode* m_Root;
+    std::unordered_map<std::string_view, Namesakes, NameHash, NameEqual> m_ByTag; // names of gone ones stay good
+};
 
 } // namespace
 
@@ -45,16 +105,22 @@ TemplateChain::TemplateChain(XMLNode* node)
     Collect();
 }
 
+// Bases that hold too much together are left out from there on, so that circles and lists of lists come to an end
+// before memory does.
 void TemplateChain::Enter(XMLNode* node)
 {
-    m_Entries.Push(node);
+    m_Bytes += BytesOf(node);
+    if (!m_Entries.IsEmpty() && m_Bytes > Limits::TemplateChainBytes)
+        m_Full = true;
+    else
+        m_Entries.Push(node);
 }
 
 // A name without a comma leads to the next node, until a node names the one just found. With commas only the names
 // that a comma ends count, each a chain of its own; the node stays, so its list is taken twice.
 void TemplateChain::Collect()
 {
-    while (!m_Passes.empty() && m_Entries.Count() < Limits::TemplateChainEntries) {
+    while (!m_Passes.empty() && !m_Full && m_Entries.Count() < Limits::TemplateChainEntries) {
         Pass& pass = m_Passes.back();
         if (std::strchr(pass.NextName, ',')) {
             if (XMLNode* listed = NextListed(pass)) {
@@ -86,8 +152,12 @@ XMLNode* TemplateChain::NextListed(Pass& pass)
 
 XMLNode* TemplateChain::Merge()
 {
-    XMLNode* merged = m_Entries.Pop()->Clone(nullptr);
-    while (merged && !m_Entries.IsEmpty())
-        MergeInto(merged, m_Entries.Pop());
-    return merged;
+    XMLTree root(m_Entries.Pop()->Clone(nullptr));
+    if (!root || m_Entries.IsEmpty())
+        return root.release();
+
+    MergedTemplate merged(root.get());
+    while (!m_Entries.IsEmpty())
+        merged.Merge(m_Entries.Pop());
+    return root.release();
 }
