@@ -3,16 +3,11 @@
 #include "teskara/core/BoundedText.h"
 #include "teskara/core/HostCalls.h"
 #include "teskara/core/platform/Platform.h"
-#include "teskara/element/ElementWatch.h"
 #include "teskara/element/TeskElement.h"
-#include "teskara/element/TeskElementFactory.h"
 #include "teskara/element/TeskScreen.h"
 #include "teskara/script/Commands.h"
 #include "teskara/script/ScriptTypes.h"
 #include "teskara/script/TopLevelObjects.h"
-
-#include <algorithm>
-#include <new>
 
 namespace {
 
@@ -43,9 +38,10 @@ CUIManager::~CUIManager()
         delete ElementsByID.begin()->second;
 }
 
+// The host may shut the toolkit down while it is asked to register something.
 void CUIManager::Initialize()
-{
-    if (!Host::g_Host || m_InShutdown)
+try {
+    if (!Host::g_Host || m_InShutdown || m_TearingDown)
         return;
 
     RegisterScriptTypes();
@@ -53,10 +49,12 @@ void CUIManager::Initialize()
     RegisterCommands();
     DestroyScreen();
     CreateScreen();
+} catch (...) {
+    return;
 }
 
 void CUIManager::Shutdown()
-{
+try {
     if (m_InShutdown || !Host::g_Host)
         return;
 
@@ -67,6 +65,8 @@ void CUIManager::Shutdown()
     ShuttingDown = true; // from here on no font and no texture goes back to the host
     DestroyScreen();
     ClearTemplates();
+} catch (...) {
+    return;
 }
 
 u32 CUIManager::GetVersion()
@@ -81,8 +81,12 @@ void CUIManager::ResetMouseState()
     MouseOverElementID = 0;
 }
 
+// Scripts that ran while the old one was destroyed may have shut the toolkit down.
 void CUIManager::CreateScreen()
 {
+    if (Screen || m_InShutdown)
+        return;
+
     try {
         Screen = new TeskScreen;
     } catch (...) {
@@ -103,18 +107,19 @@ void CUIManager::DestroyScreen()
 }
 
 void CUIManager::Reset()
-{
+try {
     if (!Screen)
         return;
 
     DestroyScreen();
-    if (!m_InShutdown) // which a script of the old screen may have begun
-        CreateScreen();
+    CreateScreen();
+} catch (...) {
+    return;
 }
 
 // Scripts may replace the screen between any two steps.
 void CUIManager::Render()
-{
+try {
     if (m_InRender || !Screen)
         return;
 
@@ -131,6 +136,8 @@ void CUIManager::Render()
     Screen->AbsoluteY = 0;
     if (Screen->Visible)
         Screen->Render();
+} catch (...) {
+    return;
 }
 
 TeskElement* CUIManager::FindElement(const char* name)
@@ -152,7 +159,7 @@ TeskElementFactory* CUIManager::FindFactory(const char* name)
 }
 
 bool CUIManager::ShowElement(const char* name, bool show)
-{
+try {
     TeskElement* element = FindElement(name);
     if (!element)
         return false;
@@ -161,6 +168,8 @@ bool CUIManager::ShowElement(const char* name, bool show)
     if (!show)
         SetFocusElement();
     return true;
+} catch (...) {
+    return false;
 }
 
 bool CUIManager::ToggleElement(const char* name)
@@ -221,7 +230,8 @@ void CUIManager::ForgetParent(TeskElement& parent)
 // Without memory the element keeps what it had.
 void CUIManager::SetElementMetadata(u32 id, const char* name, const char* value)
 try {
-    ElementMetadata[id].insert_or_assign(utf8stringnocase(TextOrEmpty(name)), TextOrEmpty(value));
+    const utf8string text = TextOrEmpty(value); // which may be the one that is replaced
+    ElementMetadata[id].insert_or_assign(utf8stringnocase(TextOrEmpty(name)), text);
 } catch (...) {
     return;
 }
@@ -253,7 +263,8 @@ bool CUIManager::RemoveElementMetadata(u32 id, const char* name)
 
 void CUIManager::ClearElementMetadata(TeskElement* element)
 {
-    ElementMetadata.erase(element->ID);
+    if (element)
+        ElementMetadata.erase(element->ID);
 }
 
 bool CUIManager::GetTextureSize(unsigned int id, _Point2i& size)

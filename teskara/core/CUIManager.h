@@ -261,7 +261,6 @@ private:
     XMLNode* StoreTemplate(const char* name, StoredTemplate node);
     StoredTemplate TakeTemplate(const char* name);
     void RetireTemplate(StoredTemplate node);
-    void ForgetSkin(std::string_view name);
 
     u32 m_ElementDeaths = 0;
     u32 m_LoadDepth = 0;

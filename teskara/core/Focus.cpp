@@ -6,6 +6,24 @@
 #include "teskara/element/TeskElement.h"
 #include "teskara/element/TeskScreen.h"
 
+namespace {
+
+// Sets an id for the length of a scope.
+class IDScope
+{
+public:
+    IDScope(u32& id, u32 value) : m_ID(id), m_Outer(id) { m_ID = value; }
+    ~IDScope() { m_ID = m_Outer; }
+    IDScope(const IDScope&) = delete;
+    IDScope& operator=(const IDScope&) = delete;
+
+private:
+    u32& m_ID;
+    u32 m_Outer;
+};
+
+} // namespace
+
 // Tells the focus element that it loses the keyboard, unless it is just being told. True: the focus has not been moved
 // by its script, so the caller goes on.
 bool CUIManager::ExitFocus(TeskElement& element, TeskElement* next)
@@ -14,15 +32,13 @@ bool CUIManager::ExitFocus(TeskElement& element, TeskElement* next)
     if (m_ExitingFocusID == id)
         return true;
 
-    const u32 outer = m_ExitingFocusID;
-    m_ExitingFocusID = id;
+    const IDScope exiting(m_ExitingFocusID, id);
     element.OnKeyboardExit(next);
-    m_ExitingFocusID = outer;
     return FocusElementID == id || FocusElementID == 0;
 }
 
 TeskElement* CUIManager::GetFocusElement()
-{
+try {
     const u32 id = FocusElementID;
     if (id == 0 || id == m_ExitingFocusID)
         return nullptr;
@@ -34,10 +50,12 @@ TeskElement* CUIManager::GetFocusElement()
     if (!element || ExitFocus(*element, nullptr))
         FocusElementID = 0;
     return nullptr;
+} catch (...) {
+    return nullptr;
 }
 
 void CUIManager::SetFocusElement(TeskElement* element)
-{
+try {
     TeskElement* present = FindElementByID(FocusElementID);
     if (!element) {
         if (!present || ExitFocus(*present, nullptr))
@@ -56,14 +74,18 @@ void CUIManager::SetFocusElement(TeskElement* element)
         element->OnKeyboardEnter();
     if (FocusElementID == old || FocusElementID == 0) // else the handler moved the focus on
         FocusElementID = watch.Exists() ? watch.GetID() : 0;
+} catch (...) {
+    return;
 }
 
 TeskElement* CUIManager::SetFocusElement()
-{
+try {
     // A focus element that was hidden hears of it twice: once by the question, and once here.
     const ElementWatch element(FindElementByID(FocusElementID));
     if (!GetFocusElement() && element.Exists())
         ExitFocus(*element.Get(), nullptr);
+    return nullptr;
+} catch (...) {
     return nullptr;
 }
 
@@ -84,7 +106,7 @@ TeskElement* CUIManager::GetMouseOverElement()
 }
 
 TeskElement* CUIManager::SetMouseOverElement()
-{
+try {
     // The capturing control relies on being entered again at each search.
     if (TeskElement* capture = FindElementByID(MouseCaptureElementID)) {
         if (TeskElement* found = capture->FindMouseOver(MousePosition, nullptr)) {
@@ -112,6 +134,8 @@ TeskElement* CUIManager::SetMouseOverElement()
     if (old)
         old->OnMouseExit(found);
     return EnterMouseOver(id);
+} catch (...) {
+    return nullptr;
 }
 
 TeskElement* CUIManager::EnterMouseOver(u32 id)

@@ -1,5 +1,6 @@
 // How the host's mouse and key events find their element. A handler that takes an event may have deleted anything, so
-// elements are remembered by id from one call to the next.
+// elements are remembered by id from one call to the next. Nothing is thrown to the host: an event whose handler throws
+// was not taken.
 
 #include "teskara/core/CUIManager.h"
 #include "teskara/core/platform/Platform.h"
@@ -95,7 +96,7 @@ template <class Offer> bool CUIManager::OfferDown(TeskElement* candidate, Offer&
 }
 
 bool CUIManager::OnMouseMove(_Point2i& position)
-{
+try {
     if (position.x == MousePosition.x && position.y == MousePosition.y)
         return false;
 
@@ -107,32 +108,44 @@ bool CUIManager::OnMouseMove(_Point2i& position)
         _Point2i point = position;
         return element.OnMouseMove(point);
     });
+} catch (...) {
+    return false;
 }
 
 bool CUIManager::OnMouseWheel(int offset)
-{
+try {
     LastInputTick = CurrentPlatform().GetTickCount();
     return OfferDown(GetMouseOverElement(), [offset](TeskElement& element) { return element.OnMouseWheel(offset); });
+} catch (...) {
+    return false;
 }
 
 bool CUIManager::OnLMouseDown()
-{
+try {
     return PressButton(LeftButton());
+} catch (...) {
+    return false;
 }
 
 bool CUIManager::OnLMouseUp()
-{
+try {
     return ReleaseButton(LeftButton());
+} catch (...) {
+    return false;
 }
 
 bool CUIManager::OnRMouseDown()
-{
+try {
     return PressButton(RightButton());
+} catch (...) {
+    return false;
 }
 
 bool CUIManager::OnRMouseUp()
-{
+try {
     return ReleaseButton(RightButton());
+} catch (...) {
+    return false;
 }
 
 bool CUIManager::IsDoubleClick(const MouseButton& button, u32 id) const
@@ -254,7 +267,7 @@ void CUIManager::AddKeyFlag(u32 key, u8 flag)
 }
 
 bool CUIManager::OnKeyDown(unsigned int key)
-{
+try {
     LastInputTick = CurrentPlatform().GetTickCount();
     SetModifier(key, true);
     AddKeyFlag(key, KeyHeld);
@@ -265,10 +278,12 @@ bool CUIManager::OnKeyDown(unsigned int key)
 
     AddKeyFlag(key, KeyTaken);
     return true;
+} catch (...) {
+    return false;
 }
 
 bool CUIManager::OnKeyUp(unsigned int key)
-{
+try {
     LastInputTick = CurrentPlatform().GetTickCount();
     SetModifier(key, false);
     const u32 old = GetKeyFlags(key);
@@ -277,6 +292,8 @@ bool CUIManager::OnKeyUp(unsigned int key)
     SetKeyFlags(key, old & ~static_cast<u32>(KeyHeld | KeyTaken));
     OfferKey(&TeskElement::OnKeyUp, key);
     return (old & KeyTaken) != 0;
+} catch (...) {
+    return false;
 }
 
 // Offers a key to the focus element and then up its ancestors.

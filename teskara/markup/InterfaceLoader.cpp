@@ -175,12 +175,13 @@ try {
         return false;
 
     const ElementWatch parent(*request.Parent);
-    const auto document = std::make_unique<XMLDocument>(false);
+    const SkinWatch requestedSkin(request.Skin);
+    const auto document = std::make_unique<XMLDocument>();
     XMLNode* root = nullptr;
     if (!OpenInterface(request.File, *document, root))
         return false;
 
-    const SkinScope skin(request.Skin);
+    const SkinScope skin(requestedSkin.Get());
     const MarkupReading reading;
     for (XMLNode* node = root->FirstChild; node && parent.Exists(); node = node->Next) {
         if (!IsElement(node))
@@ -213,7 +214,7 @@ void CUIManager::LoadTopLevelElement(const LoadRequest& request, XMLNode* node)
 
 bool CUIManager::UnloadInterfaceXML(const char* file)
 try {
-    const auto document = std::make_unique<XMLDocument>(false);
+    const auto document = std::make_unique<XMLDocument>();
     XMLNode* root = nullptr;
     if (!OpenInterface(file, *document, root))
         return false;

@@ -2,9 +2,7 @@
 
 #include "teskara/markup/TeskSkin.h"
 
-SkinScope::SkinScope(TeskSkin* skin)
-    : m_Saved(g_UIManager.CurrentSkin), m_SavedLife(g_UIManager.ShareSkin(m_Saved)),
-      m_SavedIsOurs(!m_SavedLife.expired())
+SkinScope::SkinScope(TeskSkin* skin) : m_Saved(g_UIManager.CurrentSkin)
 {
     if (skin)
         g_UIManager.CurrentSkin = skin;
@@ -12,6 +10,5 @@ SkinScope::SkinScope(TeskSkin* skin)
 
 SkinScope::~SkinScope()
 {
-    const bool died = m_SavedIsOurs && m_SavedLife.expired();
-    g_UIManager.CurrentSkin = died ? nullptr : m_Saved;
+    g_UIManager.CurrentSkin = m_Saved.Get();
 }

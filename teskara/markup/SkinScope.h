@@ -4,6 +4,24 @@
 
 #include <memory>
 
+// Tells whether a skin outlived a call during which scripts could run.
+class SkinWatch
+{
+public:
+    explicit SkinWatch(TeskSkin* skin)
+        : m_Skin(skin), m_Life(g_UIManager.ShareSkin(skin)), m_IsManaged(!m_Life.expired())
+    {
+    }
+
+    // The skin, or null if it has died.
+    TeskSkin* Get() const { return m_IsManaged && m_Life.expired() ? nullptr : m_Skin; }
+
+private:
+    TeskSkin* m_Skin;
+    std::weak_ptr<TeskSkin> m_Life; // empty for a skin that is not the manager's
+    bool m_IsManaged;
+};
+
 // Puts a skin in force for the length of a scope and then puts back the one before it. A skin that died meanwhile is
 // not put back. A null skin leaves the one in force.
 class SkinScope
@@ -15,7 +33,5 @@ public:
     SkinScope& operator=(const SkinScope&) = delete;
 
 private:
-    TeskSkin* m_Saved;
-    std::weak_ptr<TeskSkin> m_SavedLife; // empty for a skin that is not the manager's
-    bool m_SavedIsOurs;
+    SkinWatch m_Saved;
 };

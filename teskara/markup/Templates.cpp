@@ -34,7 +34,7 @@ void DeleteTemplate::operator()(XMLNode* node) const
 // The old one is out of the store before the bases are looked up, and lives until the copy is made, since node may be
 // part of it.
 XMLNode* CUIManager::AddTemplate(const char* name, XMLNode* node)
-{
+try {
     if (IsEmpty(name) || !IsTemplate(node))
         return nullptr;
 
@@ -44,23 +44,28 @@ XMLNode* CUIManager::AddTemplate(const char* name, XMLNode* node)
     StoredTemplate merged(inherits ? TemplateChain(node).Merge() : node->Clone(nullptr));
     RetireTemplate(std::move(old));
     return StoreTemplate(copiedName.c_str(), std::move(merged));
+} catch (...) {
+    return nullptr;
 }
 
 XMLNode* CUIManager::AddTemplate(const char* name, const char* markup)
-{
+try {
     if (IsEmpty(name) || IsEmpty(markup))
         return nullptr;
 
-    XMLDocument document(false);
-    if (!document.ParseBuffer(markup, 0))
+    XMLDocument document;
+    if (!document.ParseBuffer(markup))
         return nullptr;
 
     XMLNode* node = document.Root->FirstChild;
     if (!IsTemplate(node) || node->Next)
         return nullptr;
 
+    const utf8string copiedName = name; // which may be part of the old one
     RetireTemplate(TakeTemplate(name));
-    return StoreTemplate(name, StoredTemplate(node->Clone(nullptr)));
+    return StoreTemplate(copiedName.c_str(), StoredTemplate(node->Clone(nullptr)));
+} catch (...) {
+    return nullptr;
 }
 
 XMLNode* CUIManager::StoreTemplate(const char* name, StoredTemplate node)
@@ -83,10 +88,17 @@ StoredTemplate CUIManager::TakeTemplate(const char* name)
     return taken;
 }
 
+// Without memory for it the template is never freed, since somebody may be reading it.
 void CUIManager::RetireTemplate(StoredTemplate node)
 {
-    if (node && m_MarkupReaders > 0)
+    if (!node || m_MarkupReaders == 0)
+        return;
+
+    try {
         m_RetiredTemplates.push_back(std::move(node));
+    } catch (...) {
+        static_cast<void>(node.release());
+    }
 }
 
 void CUIManager::EndReading()
@@ -119,13 +131,15 @@ XMLNode* CUIManager::FindTemplate(const char* name)
 }
 
 TeskSkin* CUIManager::NewSkin(const char* name)
-{
+try {
     if (IsEmpty(name))
         return nullptr;
 
     auto skin = std::make_shared<TeskSkin>(name);
-    ForgetSkin(skin->Name);
+    RemoveSkin(skin->Name.c_str()); // name may be the old one's
     return Skins.insert_or_assign(utf8stringnocase(skin->Name), skin).first->second.get();
+} catch (...) {
+    return nullptr;
 }
 
 TeskSkin* CUIManager::FindSkin(const char* name)
@@ -134,15 +148,10 @@ TeskSkin* CUIManager::FindSkin(const char* name)
     return entry == Skins.end() ? nullptr : entry->second.get();
 }
 
+// A skin that dies while it is in force leaves none in force.
 void CUIManager::RemoveSkin(const char* name)
 {
-    ForgetSkin(TextOrEmpty(name));
-}
-
-// A skin that dies while it is in force leaves none in force.
-void CUIManager::ForgetSkin(std::string_view name)
-{
-    const auto entry = Skins.find(name);
+    const auto entry = Skins.find(std::string_view(TextOrEmpty(name)));
     if (entry == Skins.end())
         return;
 

@@ -7,11 +7,13 @@
 TeskSkin::TeskSkin(const char* name) : Name(TextOrEmpty(name)) { }
 
 void TeskSkin::AddTemplate(const char* base, const char* skinned)
-{
+try {
     if (!base || !*base)
         return;
 
-    Templates.insert_or_assign(utf8stringnocase(base), TextOrEmpty(skinned));
+    Templates.insert_or_assign(utf8stringnocase(base), utf8string(TextOrEmpty(skinned)));
+} catch (...) {
+    return;
 }
 
 void TeskSkin::RemoveTemplate(const char* base)

@@ -1,5 +1,6 @@
 #include "teskara/script/Commands.h"
 
+#include "teskara/core/CUIManager.h"
 #include "teskara/core/HostCalls.h"
 #include "teskara/script/Arguments.h"
 #include "teskara/script/InputBoxCommand.h"
@@ -35,8 +36,10 @@ constexpr CommandRow Commands[] = {
 
 void RegisterCommands()
 {
-    for (const CommandRow& row : Commands)
-        Host::AddCommand(row.Name, row.Handler);
+    for (const CommandRow& row : Commands) {
+        if (!g_UIManager.ShuttingDown) // the host may shut the toolkit down in between
+            Host::AddCommand(row.Name, row.Handler);
+    }
 }
 
 void RemoveCommands()

@@ -72,8 +72,10 @@ constexpr ObjectRow Objects[] = {
 
 void RegisterTopLevelObjects()
 {
-    for (const ObjectRow& row : Objects)
-        Host::AddTopLevelObject(row.Name, row.Handler);
+    for (const ObjectRow& row : Objects) {
+        if (!g_UIManager.ShuttingDown) // the host may shut the toolkit down in between
+            Host::AddTopLevelObject(row.Name, row.Handler);
+    }
 }
 
 void RemoveTopLevelObjects()

@@ -56,6 +56,11 @@ public:
         if (OnRemoveType)
             OnRemoveType(type);
     }
+    void InvalidateObject(u32, void*) override
+    {
+        if (OnInvalidateObject)
+            OnInvalidateObject();
+    }
     void SetTypeObjectClass(MvTypeDefinition* type, u32) override { Classed.push_back(type->GetName()); }
     void PrintLine(const char* format, ...) override
     {
@@ -93,6 +98,7 @@ public:
     std::function<void(MvTypeDefinition*)> OnAddType;
     std::function<void(MvTypeDefinition*)> OnRemoveType;
     std::function<void()> OnPrintLine;
+    std::function<void()> OnInvalidateObject;
 };
 
 // Runs a body, in a process of its own, with a host that is not started yet.

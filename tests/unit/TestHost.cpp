@@ -126,6 +126,8 @@ bool TestHost::FindResourceFile(const char* name, char* path)
 
 bool TestHost::LocateFile(const char* name, char* path)
 {
+    if (OnLocateFile)
+        OnLocateFile();
     return FindPath(Located, name, path);
 }
 

@@ -109,6 +109,7 @@ public:
     std::map<std::string, std::string> Located;
     std::map<std::string, std::string> FoundResources;
     std::function<void(TeskElement& element)> RestorePosition;
+    std::function<void()> OnLocateFile;
     std::function<void(TeskElement& element)> KeepPosition;
 
     // Whether keys have names, which are their characters.
@@ -130,7 +131,7 @@ class TestPlatform : public Platform
 {
 public:
     u32 GetTickCount() override { return Ticks; }
-    bool IsKeyToggled(u32) override { return false; }
+    bool IsKeyToggled(u32 key) override { return ToggledKeys.count(key) != 0; }
     int ToAscii(u32, const u8*, char*) override { return 0; }
     char16_t AnsiToWide(u8 character) override { return character; }
     std::FILE* OpenFile(const char16_t* path) override { return SystemPlatform().OpenFile(path); }
@@ -146,5 +147,6 @@ public:
 
     u32 Ticks = 10000;
     std::set<std::u16string> Files;
+    std::set<u32> ToggledKeys;
     std::string DebugOutput;
 };

@@ -57,7 +57,7 @@ void ToolkitTest::Load(const std::string& markup)
     ASSERT_EQ(static_cast<ssize_t>(text.size()), write(file, text.data(), text.size()));
     close(file);
     Host.Located["test.xml"] = path;
-    EXPECT_TRUE(g_UIManager.LoadInterfaceXML("test.xml", false, nullptr));
+    EXPECT_TRUE(g_UIManager.LoadInterfaceXML("test.xml", false, Skin));
     std::remove(path);
 }
 

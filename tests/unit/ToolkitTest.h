@@ -7,6 +7,7 @@
 #include <string>
 
 class TeskElement;
+class TeskSkin;
 
 // A started toolkit with an empty tree. Ids of fonts and images count from 1 in each test.
 class ToolkitTest : public testing::Test
@@ -17,6 +18,9 @@ protected:
 
     // Loads the elements of a file of markup: what stands inside of its root.
     void Load(const std::string& markup);
+
+    // What files are loaded with.
+    TeskSkin* Skin = nullptr;
 
     // Draws one frame and tells what the host heard.
     std::string Frame();

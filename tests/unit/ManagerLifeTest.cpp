@@ -1,0 +1,197 @@
+#include "teskara/core/CUIManager.h"
+#include "teskara/element/TeskScreen.h"
+#include "teskara/markup/TeskSkin.h"
+#include "tests/unit/FreshProcess.h"
+#include "tests/unit/ScriptHost.h"
+
+#include <gtest/gtest.h>
+
+#include <climits>
+#include <string>
+
+namespace {
+
+void SendInput(CUIManager& manager)
+{
+    for (_Point2i point : {_Point2i{0, 0}, _Point2i{INT_MAX, INT_MIN}, _Point2i{-1, -1}})
+        manager.OnMouseMove(point);
+    manager.OnLMouseDown();
+    manager.OnLMouseUp();
+    manager.OnRMouseDown();
+    manager.OnRMouseUp();
+    manager.OnMouseWheel(INT_MIN);
+    for (const unsigned int key : {0u, 16u, 255u, 256u, UINT_MAX}) {
+        manager.OnKeyDown(key);
+        manager.OnKeyUp(key);
+    }
+}
+
+void AskForNothing(CUIManager& manager)
+{
+    _Point2i size;
+    EXPECT_EQ(18u, manager.GetVersion());
+    EXPECT_EQ(nullptr, manager.FindElement(nullptr));
+    EXPECT_EQ(nullptr, manager.FindElementByID(0));
+    EXPECT_EQ(nullptr, manager.FindFactory(nullptr));
+    EXPECT_FALSE(manager.ShowElement(nullptr, true));
+    EXPECT_FALSE(manager.ShowElement(nullptr, false));
+    EXPECT_FALSE(manager.ToggleElement(nullptr));
+    manager.GetTextureSize(0, size);
+    EXPECT_EQ(nullptr, manager.GetFocusElement());
+    EXPECT_EQ(nullptr, manager.SetFocusElement());
+    manager.SetFocusElement(nullptr);
+    EXPECT_EQ(0u, manager.FocusElementID);
+    EXPECT_EQ(nullptr, manager.GetElementMetadata(0, nullptr));
+    EXPECT_FALSE(manager.RemoveElementMetadata(0, nullptr));
+    manager.ClearElementMetadata(nullptr);
+}
+
+void LoadNothing(CUIManager& manager)
+{
+    EXPECT_FALSE(manager.LoadInterfaceXML(nullptr, false, nullptr));
+    EXPECT_FALSE(manager.LoadInterfaceXML(nullptr, nullptr, nullptr, true, nullptr));
+    EXPECT_FALSE(manager.LoadInterfaceXML(static_cast<TeskElement*>(nullptr), nullptr, false, nullptr));
+    EXPECT_FALSE(manager.LoadInterfaceXML(nullptr, nullptr, nullptr, nullptr, true, nullptr));
+    EXPECT_FALSE(manager.UnloadInterfaceXML(nullptr));
+    EXPECT_EQ(nullptr, manager.LoadElement(nullptr, "frame", "Panel"));
+    EXPECT_EQ(nullptr, manager.LoadElement(manager.Screen, nullptr, "Panel"));
+    EXPECT_EQ(nullptr, manager.LoadElement(manager.Screen, "frame", nullptr));
+    EXPECT_EQ(nullptr, manager.LoadElement(manager.Screen, "frame", ""));
+    EXPECT_EQ(nullptr, manager.LoadElement(manager.Screen, "frame", "Panel", nullptr, nullptr));
+}
+
+void StoreNothing(CUIManager& manager)
+{
+    EXPECT_EQ(nullptr, manager.AddTemplate(nullptr, "<Template/>"));
+    EXPECT_EQ(nullptr, manager.AddTemplate("", "<Template/>"));
+    EXPECT_EQ(nullptr, manager.AddTemplate("Name", static_cast<const char*>(nullptr)));
+    EXPECT_EQ(nullptr, manager.AddTemplate("Name", static_cast<XMLNode*>(nullptr)));
+    EXPECT_EQ(nullptr, manager.FindTemplate(nullptr));
+    EXPECT_EQ(nullptr, manager.FindTemplate(""));
+    manager.RemoveTemplate(nullptr);
+    manager.RemoveTemplate("");
+    manager.ClearTemplates();
+    EXPECT_EQ(nullptr, manager.NewSkin(nullptr));
+    EXPECT_EQ(nullptr, manager.NewSkin(""));
+    EXPECT_EQ(nullptr, manager.FindSkin(nullptr));
+    EXPECT_EQ(nullptr, manager.FindSkin(""));
+    manager.RemoveSkin(nullptr);
+    manager.RemoveSkin("");
+}
+
+void DoEverythingWithNothing()
+{
+    AskForNothing(g_UIManager);
+    LoadNothing(g_UIManager);
+    StoreNothing(g_UIManager);
+    SendInput(g_UIManager);
+    g_UIManager.ResetMouseState();
+    g_UIManager.Render();
+    g_UIManager.Reset();
+}
+
+} // namespace
+
+TEST(ManagerLifeDeathTest, NothingIsDoneWithNothingInEveryStageOfLife)
+{
+    InFreshProcess([] {
+        DoEverythingWithNothing();
+        g_UIManager.Initialize(); // without a host
+        g_UIManager.Shutdown();
+        EXPECT_EQ(nullptr, g_UIManager.Screen);
+        EXPECT_FALSE(g_UIManager.ShuttingDown);
+
+        ScriptHost host;
+        EXPECT_EQ(&g_UIManager, F1(nullptr));
+        g_UIManager.Initialize();
+        EXPECT_EQ(nullptr, g_UIManager.Screen);
+        EXPECT_EQ(&g_UIManager, F1(&host));
+        DoEverythingWithNothing();
+        EXPECT_EQ(nullptr, g_UIManager.Screen);
+
+        g_UIManager.Initialize();
+        DoEverythingWithNothing();
+        EXPECT_NE(nullptr, g_UIManager.Screen);
+
+        g_UIManager.Shutdown();
+        DoEverythingWithNothing();
+        EXPECT_EQ(nullptr, g_UIManager.Screen);
+        EXPECT_TRUE(g_UIManager.ShuttingDown);
+    });
+}
+
+TEST(ManagerLifeDeathTest, AHostThatIsTakenAwayLeavesAToolkitThatStillAnswers)
+{
+    InFreshProcess([] {
+        ScriptHost host;
+        F1(&host);
+        g_UIManager.Initialize();
+        ASSERT_TRUE(g_UIManager.LoadElement(g_UIManager.Screen, "text", "Label"));
+        F1(nullptr);
+        DoEverythingWithNothing();
+        g_UIManager.Shutdown();
+        EXPECT_FALSE(g_UIManager.ShuttingDown);
+        F1(&host);
+        g_UIManager.Shutdown();
+        EXPECT_TRUE(host.Types.empty());
+        EXPECT_TRUE(host.Commands.empty());
+    });
+}
+
+TEST(ManagerLifeDeathTest, AShutdownInsideTheStartLeavesNothingBehind)
+{
+    WithHost([](ScriptHost& host) {
+        host.OnAddType = [](MvTypeDefinition* type) {
+            if (std::string(type->GetName()) == "teskframe")
+                g_UIManager.Shutdown();
+        };
+        g_UIManager.Initialize();
+        EXPECT_TRUE(host.Types.empty());
+        EXPECT_TRUE(host.Objects.empty());
+        EXPECT_TRUE(host.Commands.empty());
+        EXPECT_EQ(nullptr, g_UIManager.Screen);
+    });
+}
+
+TEST(ManagerLifeDeathTest, AStartInsideAResetMakesNoSecondScreen)
+{
+    WithToolkit([](ScriptHost& host) {
+        ASSERT_TRUE(g_UIManager.LoadElement(g_UIManager.Screen, "frame", "Panel"));
+        host.OnInvalidateObject = [] { g_UIManager.Initialize(); };
+        g_UIManager.Reset();
+        host.OnInvalidateObject = nullptr;
+        EXPECT_NE(nullptr, g_UIManager.Screen);
+        EXPECT_EQ(1u, g_UIManager.ElementsByID.size());
+        EXPECT_EQ(g_UIManager.Screen, g_UIManager.FindElement("Screen"));
+    });
+}
+
+TEST(ManagerLifeDeathTest, AShutdownInsideAResetLeavesNoScreen)
+{
+    WithToolkit([](ScriptHost& host) {
+        ASSERT_TRUE(g_UIManager.LoadElement(g_UIManager.Screen, "frame", "Panel"));
+        host.OnInvalidateObject = [] { g_UIManager.Shutdown(); };
+        g_UIManager.Reset();
+        host.OnInvalidateObject = nullptr;
+        EXPECT_EQ(nullptr, g_UIManager.Screen);
+        EXPECT_TRUE(g_UIManager.ElementsByID.empty());
+    });
+}
+
+TEST(ManagerLifeDeathTest, EverythingHeldIsGivenBackWhenTheToolkitEnds)
+{
+    WithToolkit([](ScriptHost& host) {
+        g_UIManager.AddTemplate("Name", "<Template/>");
+        g_UIManager.NewSkin("dark");
+        g_UIManager.CurrentSkin = g_UIManager.FindSkin("dark");
+        g_UIManager.Shutdown();
+        EXPECT_TRUE(g_UIManager.Templates.empty());
+        EXPECT_NE(nullptr, g_UIManager.FindSkin("dark"));
+        EXPECT_TRUE(g_UIManager.ElementsByName.empty());
+        host.Types.clear();
+        g_UIManager.Shutdown();
+        g_UIManager.Initialize();
+        EXPECT_TRUE(host.Types.empty());
+        EXPECT_EQ(nullptr, g_UIManager.Screen);
+    });
+}

@@ -1,0 +1,227 @@
+#include "teskara/core/CUIManager.h"
+#include "teskara/element/TeskElement.h"
+#include "teskara/markup/TeskSkin.h"
+#include "teskara/markup/XMLAttribute.h"
+#include "teskara/markup/XMLHelper.h"
+#include "teskara/markup/XMLNode.h"
+#include "tests/unit/ToolkitTest.h"
+
+#include <chrono>
+#include <cstring>
+#include <string>
+
+class TemplatesTest : public ToolkitTest
+{
+protected:
+    ~TemplatesTest() override
+    {
+        g_UIManager.RemoveSkin("dark");
+        g_UIManager.RemoveSkin("light");
+    }
+
+    // The children of a template: tags, and texts in quotes.
+    static std::string Children(const char* name)
+    {
+        XMLNode* node = g_UIManager.FindTemplate(name);
+        if (!node)
+            return "none";
+
+        std::string all;
+        for (XMLNode* child = node->FirstChild; child; child = child->Next)
+            all += (child->Type == XMLElementNode ? child->Name : "'" + std::string(child->Name) + "'") + " ";
+        return all;
+    }
+
+    static std::size_t Count(const char* name)
+    {
+        std::size_t count = 0;
+        for (XMLNode* child = g_UIManager.FindTemplate(name)->FirstChild; child; child = child->Next)
+            ++count;
+        return count;
+    }
+};
+
+namespace {
+
+// A template with so many children of different tags and so many attributes.
+std::string Large(const std::string& name, const std::string& base, int children, int attributes = 0)
+{
+    std::string text = "<Template name=\"" + name + "\" Template=\"" + base + "\"";
+    for (int index = 0; index < attributes; ++index)
+        text += " " + name + std::to_string(index) + "=\"v\"";
+    text += ">";
+    for (int index = 0; index < children; ++index)
+        text += "<" + name + std::to_string(index) + "/>";
+    return text + "</Template>";
+}
+
+// Seconds that this machine, under whatever checks, may take for what a user must not wait for.
+constexpr double Patience = 30;
+
+double SecondsSince(std::chrono::steady_clock::time_point start)
+{
+    return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+}
+
+} // namespace
+
+TEST_F(TemplatesTest, TextsAddUpWhereElementsReplace)
+{
+    Load(R"(<Template name="base">x<Width>1</Width><!--c--></Template>
+        <Template name="more" Template="base">y<WIDTH>2</WIDTH><Height/></Template>)");
+    EXPECT_EQ("'x' 'c' 'y' WIDTH Height ", Children("more"));
+}
+
+TEST_F(TemplatesTest, TextsOfAListAddUpAsOftenAsItsTakenAndElementsStayOnce)
+{
+    Load(R"(<Template name="a">x<Width/></Template><Template name="b" Template="a,">y<Height/></Template>)");
+    EXPECT_EQ("'x' 'y' 'x' Width 'y' Height ", Children("b"));
+}
+
+TEST_F(TemplatesTest, ATemplateMayBeStoredFromItself)
+{
+    Load(R"(<Template name="a"><Width>1</Width></Template>)");
+    XMLNode* node = g_UIManager.FindTemplate("a");
+    XMLNode* copy = g_UIManager.AddTemplate("a", node);
+    ASSERT_NE(nullptr, copy);
+    EXPECT_EQ(copy, g_UIManager.FindTemplate("a"));
+    EXPECT_EQ("Width ", Children("a"));
+}
+
+TEST_F(TemplatesTest, ATemplateMayBeReplacedByTheNameItBears)
+{
+    Load(R"(<Template name="a name long enough to live in the template alone"><Width>1</Width></Template>)");
+    XMLNode* node = g_UIManager.FindTemplate("a name long enough to live in the template alone");
+    const char* name = XMLHelper::GetStringAttribute(node, "name", "");
+    EXPECT_NE(nullptr, g_UIManager.AddTemplate(name, "<Template><Height/></Template>"));
+    EXPECT_EQ("Height ", Children("a name long enough to live in the template alone"));
+
+    node = g_UIManager.FindTemplate("a name long enough to live in the template alone");
+    node->SetAttribute("name", "a name long enough to live in the template alone");
+    g_UIManager.RemoveTemplate(XMLHelper::GetStringAttribute(node, "name", ""));
+    EXPECT_EQ("none", Children("a name long enough to live in the template alone"));
+}
+
+TEST_F(TemplatesTest, OnlyAnElementNamedTemplateIsStored)
+{
+    Load(R"(<Template name="a"><Width>1</Width>text</Template>)");
+    XMLNode* node = g_UIManager.FindTemplate("a");
+    EXPECT_EQ(nullptr, g_UIManager.AddTemplate("b", node->FirstChild));
+    EXPECT_EQ(nullptr, g_UIManager.AddTemplate("b", node->LastChild));
+    EXPECT_EQ("none", Children("b"));
+    EXPECT_EQ("Width 'text' ", Children("a"));
+}
+
+TEST_F(TemplatesTest, ACircleEndsAtTheLimitOfEntries)
+{
+    Load(R"(<Template name="A" Template="B">x<Width/></Template><Template name="B" Template="A">y<Height/></Template>
+        <Template name="A" Template="B">z<Width/></Template><Template name="C" Template="A"/>)");
+    EXPECT_LE(Count("C"), 4 * 4096u);
+    EXPECT_NE(std::string::npos, Children("C").find("Width"));
+}
+
+TEST_F(TemplatesTest, ListsWithTextsThatDoubleAtEachLevelEndBeforeMemoryDoes)
+{
+    std::string markup = "<Template name=\"t0\"> x <Width>7</Width> y </Template>";
+    for (int level = 1; level <= 25; ++level) {
+        const std::string base = "t" + std::to_string(level - 1) + ",";
+        markup +=
+            "<Template name=\"t" + std::to_string(level) + "\" Template=\"" + base + base + "\"> <Height/> </Template>";
+    }
+    const auto start = std::chrono::steady_clock::now();
+    Load(markup);
+    EXPECT_LT(SecondsSince(start), Patience);
+    EXPECT_NE(std::string::npos, Children("t25").find("Height"));
+    EXPECT_LT(Count("t25"), 1000000u);
+}
+
+TEST_F(TemplatesTest, LargeTemplatesAreMergedInOneGo)
+{
+    const auto start = std::chrono::steady_clock::now();
+    Load(Large("A", "", 30000) + Large("B", "A", 30000) + Large("A", "", 10));
+    EXPECT_LT(SecondsSince(start), Patience);
+    EXPECT_EQ(60000u, Count("B"));
+}
+
+TEST_F(TemplatesTest, ManyOfOneTagAreReplacedFromTheFirstOn)
+{
+    std::string same;
+    for (int index = 0; index < 20000; ++index)
+        same += "<Same/>";
+    const auto start = std::chrono::steady_clock::now();
+    Load("<Template name=\"A\">" + same + "<Other/></Template><Template name=\"B\" Template=\"A\">" + same
+        + "</Template>");
+    EXPECT_LT(SecondsSince(start), Patience);
+    EXPECT_EQ(20001u, Count("B"));
+    EXPECT_STREQ("Other", g_UIManager.FindTemplate("B")->FirstChild->Name);
+}
+
+TEST_F(TemplatesTest, CirclesOfLargeTemplatesEndBeforeMemoryDoes)
+{
+    const auto start = std::chrono::steady_clock::now();
+    Load(Large("A", "B", 5000) + Large("B", "A", 5000) + Large("A", "B", 5000)
+        + "<Template name=\"C\" Template=\"A\"/>");
+    Load("<Template name=\"D\" Template=\"E\">" + std::string(1000000, 'x') + "</Template>"
+        + "<Template name=\"E\" Template=\"D\">" + std::string(1000000, 'y') + "</Template>"
+        + "<Template name=\"D\" Template=\"E\">z</Template><Template name=\"F\" Template=\"D\"/>");
+    EXPECT_LT(SecondsSince(start), Patience);
+    EXPECT_EQ(10000u, Count("C"));
+}
+
+// --- Skins
+
+TEST_F(TemplatesTest, ASkinRemovedWhileItsFileIsLocatedIsNotUsed)
+{
+    Load(R"(<Template name="a"><Width>10</Width></Template><Template name="b"><Width>20</Width></Template>
+        <Skin name="dark"><SkinTemplate Base="a" Skin="b"/></Skin>)");
+    Host.OnLocateFile = [] { g_UIManager.RemoveSkin("dark"); };
+    Skin = g_UIManager.FindSkin("dark");
+    Load(R"(<frame name="Panel" Template="a"/>)");
+    Host.OnLocateFile = nullptr;
+    EXPECT_EQ(10u, Element("Panel").Width);
+    EXPECT_EQ(nullptr, g_UIManager.CurrentSkin);
+}
+
+TEST_F(TemplatesTest, ASkinOfTheHostsOwnServesALoadAndIsPutBack)
+{
+    Load(R"(<Template name="a"><Width>10</Width></Template><Template name="b"><Width>20</Width></Template>)");
+    TeskSkin own("own");
+    own.AddTemplate("A", "b");
+    Skin = &own;
+    Load(R"(<frame name="Panel" Template="a"/>)");
+    EXPECT_EQ(20u, Element("Panel").Width);
+    EXPECT_EQ(nullptr, g_UIManager.CurrentSkin);
+}
+
+TEST_F(TemplatesTest, LinesOfASkinCanBeChangedByHand)
+{
+    TeskSkin skin(nullptr);
+    EXPECT_EQ("", skin.Name);
+    skin.AddTemplate(nullptr, "x");
+    skin.AddTemplate("", "x");
+    EXPECT_TRUE(skin.Templates.empty());
+    skin.AddTemplate("Button", "dark");
+    EXPECT_STREQ("dark", skin.FindTemplate("bUTTON"));
+    skin.AddTemplate("button", "light");
+    EXPECT_STREQ("light", skin.FindTemplate("Button"));
+    skin.AddTemplate("button", skin.FindTemplate("button"));
+    EXPECT_STREQ("light", skin.FindTemplate("Button"));
+    skin.RemoveTemplate(nullptr);
+    skin.RemoveTemplate("");
+    skin.RemoveTemplate("unknown");
+    EXPECT_EQ(1u, skin.Templates.size());
+    skin.RemoveTemplate("BUTTON");
+    EXPECT_EQ(nullptr, skin.FindTemplate("button"));
+    EXPECT_TRUE(skin.FromXML(nullptr, nullptr));
+}
+
+TEST_F(TemplatesTest, AnExistingSkinIsFreedAndMadeAnewUnderItsOwnName)
+{
+    g_UIManager.NewSkin("dark")->AddTemplate("a", "b");
+    TeskSkin* skin = g_UIManager.FindSkin("DARK");
+    skin = g_UIManager.NewSkin(skin->Name.c_str());
+    EXPECT_TRUE(skin->Templates.empty());
+    EXPECT_EQ(skin, g_UIManager.FindSkin("Dark"));
+    g_UIManager.RemoveSkin(skin->Name.c_str());
+    EXPECT_EQ(nullptr, g_UIManager.FindSkin("dark"));
+}
