@@ -212,6 +212,7 @@ def main():
     parser.add_argument("--fuzz", action="store_true", help=f"each fuzz target searches for {FUZZ_SECONDS} seconds")
     options = parser.parse_args()
 
+    sys.stdout.reconfigure(line_buffering=True)
     tally, start = Tally(), time.monotonic()
     if options.fuzz:
         fuzz(tally)
