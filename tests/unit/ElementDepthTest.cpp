@@ -108,7 +108,7 @@ TEST_F(ElementDepthTest, TheDeepestTreeOfEachKindFitsOnASmallStack)
     };
     for (const auto& [kind, settings] : kinds) {
         SCOPED_TRACE(kind + settings);
-        OnSmallStack([&] {
+        OnSmallStack([&, &kind = kind, &settings = settings] {
             LoadChain(kind, settings, Limits::ElementDepth);
             EXPECT_EQ(Limits::ElementDepth, CountChain());
             UseTree();

@@ -100,7 +100,7 @@ TEST_F(ElementMemoryTest, AnInterfaceMayRunOutOfMemoryAnywhereInItsLife)
 
 TEST_F(ElementMemoryTest, AnElementMayRunOutOfMemoryInTheHandsOfAScript)
 {
-    const auto work = [this] {
+    const auto work = [] {
         if (!Panel())
             return;
 

@@ -214,7 +214,7 @@ int TestHost::WidthOf(const char* text) const
     float width = 0;
     for (; *text; ++text)
         width += WidthOf(*text);
-    return static_cast<int>(width);
+    return static_cast<int>(static_cast<i64>(width)); // beyond its range an int keeps the low bits
 }
 
 void TestHost::MeasureText(u32 font, const char* text, int& width)

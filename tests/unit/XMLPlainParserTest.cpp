@@ -30,8 +30,8 @@ std::string Fast(const std::string& text)
 constexpr const char* Documents[] = {
     "<?xml version=\"1.0\"?>\n<!DOCTYPE a SYSTEM \"x\">\n<a b='1' c=\"two &amp; 3\">text &lt;<b/><!-- no-te --></a>",
     "<a><b>x<![CDATA[ <raw> & ]]>y</b><c d='&#65;&#x42;'/></a> <e></e >",
-    "<Tesk>\n  <Frame name=\"Main\">\n    <X>10%</X>\n    <Text>A 'b' \"c\" / = ; ? # - ! [ ]</Text>\n  "
-    "</Frame>\n</Tesk>\n",
+    ("<Tesk>\n  <Frame name=\"Main\">\n    <X>10%</X>\n    <Text>A 'b' \"c\" / = ; ? # - ! [ ]</Text>\n  "
+     "</Frame>\n</Tesk>\n"),
     "<!DOCTYPE a PUBLIC \"p\" s.dtd\" NDATA n><a/>",
     "<a \xC3\xA4='\xE2\x82\xAC'>\xF0\x9F\x98\x80\xFF\xC3</a>",
 };

@@ -152,8 +152,9 @@ TEST(XMLStream, ATokenMayFillTheLargestBufferButNotPassIt)
         EXPECT_EQ(token.Units.size(), fits ? length : 0);
         EXPECT_EQ(stream.HasFailed(), !fits);
         EXPECT_STREQ(document.ErrorText, fits ? "Unknown Error" : "Memory allocation failed");
-        if (!fits)
+        if (!fits) {
             EXPECT_FALSE(stream.Next());
+        }
     }
 }
 
