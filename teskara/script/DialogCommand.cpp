@@ -2,7 +2,6 @@
 
 #include "teskara/core/BoundedText.h"
 #include "teskara/core/HostCalls.h"
-#include "teskara/core/Limits.h"
 #include "teskara/element/TeskScreen.h"
 #include "teskara/script/Arguments.h"
 

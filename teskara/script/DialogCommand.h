@@ -1,5 +1,6 @@
 #pragma once
 
+#include "teskara/core/Limits.h"
 #include "teskara/markup/SkinScope.h"
 
 class Arguments;
@@ -32,7 +33,7 @@ public:
     const char* Text() const { return m_Text; }
 
 private:
-    char m_Text[512 + 32];
+    char m_Text[Limits::TextBuffer512 + 32];
 };
 
 // Makes the element of a dialog under the screen. False, with a line: it was not made.

@@ -1,25 +1,9 @@
 #pragma once
 
-#include "teskara/core/CIndex.h"
 #include "teskara/core/Export.h"
-#include "teskara/core/utf8string.h"
+#include "teskara/script/MvTypeMember.h"
 #include "teskara/script/MvTypeVar.h"
-
-#include <functional>
-#include <map>
-#include <string_view>
-
-// Answers a member or carries out a method in place of the type's own operation. result is null for a method.
-using MvTypeHandler = bool (*)(MvTypeDefinition& type, MvValue value, int argc, char** argv, _MvTypeVar* result);
-
-// A name of a type. Several handlers may stand behind one name, the newest first.
-struct _MvTypeMember {
-    u32 ID = 0;
-    utf8string Name;
-    MvTypeHandler Handler = nullptr; // null: the type's GetMember or GetMethod answers
-    _MvTypeMember* Previous = nullptr;
-    _MvTypeMember* Next = nullptr;
-};
+#include "teskara/script/TypeNameTable.h"
 
 // What came of asking a type for a name.
 enum DispatchResult : int {
@@ -101,40 +85,10 @@ public:
     const char* GetName() const { return m_Name; }
 
 private:
-    // Chains of the records that share a name, by position and by name.
-    class NameTable
-    {
-    public:
-        NameTable() = default;
-        ~NameTable();
-        NameTable(const NameTable&) = delete;
-        NameTable& operator=(const NameTable&) = delete;
-
-        // False: the name has this handler already. Throws when there is no memory, and is then as it was.
-        bool Add(u32 id, std::string_view name, MvTypeHandler handler);
-        bool Remove(std::string_view name, MvTypeHandler handler);
-
-        // The newest record behind a name; null if there is none.
-        _MvTypeMember* Find(std::string_view name) const;
-
-        // False, and id as it was: there is none.
-        bool FindID(const char* name, u32& id) const;
-
-        // The id that a further record of that name gets.
-        u32 NextID(std::string_view name) const;
-
-    private:
-        std::size_t PositionOf(std::string_view name) const;
-
-        CIndex<_MvTypeMember> m_Chains{10}; // owns the records
-        std::map<utf8string, std::size_t, std::less<>> m_Positions; // place among the chains plus one; 0 for none
-        u32 m_NextID = 1;
-    };
-
-    static bool AddTo(NameTable& table, u32 id, const char* name, MvTypeHandler handler);
+    static bool AddTo(TypeNameTable& table, u32 id, const char* name, MvTypeHandler handler);
 
     char m_Name[32];
-    NameTable m_Members;
-    NameTable m_Methods;
+    TypeNameTable m_Members;
+    TypeNameTable m_Methods;
     MvTypeDefinition* m_Base = nullptr;
 };
