@@ -2,9 +2,6 @@
 
 #include "teskara/core/HostInterface.h"
 
-#include <string>
-#include <unordered_map>
-
 // A host that does nothing: fonts and textures exist, every byte is 6 pixels wide, drawing is counted and thrown away,
 // files are found where their name says, scripts do not compile.
 class NullHost final : public HostObject

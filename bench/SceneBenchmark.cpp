@@ -130,7 +130,7 @@ void ChangingTexts(benchmark::State& state)
     std::size_t next = 0;
     for (auto _ : state) {
         for (TeskText* text : texts)
-            text->SetText(strings[next++ % strings.size()].data());
+            text->SetText(strings[next++ % strings.size()].c_str());
         g_UIManager.Render();
     }
     state.SetLabel(ElementCount());
@@ -155,6 +155,8 @@ void MemoryOfScene(benchmark::State& state)
     g_UIManager.Reset();
 }
 
+// Named by the numbers under which other toolkits report the same work, so that results lie side by side. Memory comes
+// first: what an earlier scene left in the heap would hide a part of it.
 BENCHMARK(MemoryOfScene)->Name("W8")->Iterations(1);
 BENCHMARK(LoadScene)->Name("W1.element")->Repetitions(9)->Iterations(3);
 BENCHMARK(UnloadScene)->Name("W1.unload")->Repetitions(5)->Iterations(3);

@@ -30,6 +30,18 @@ bool FindPath(FindFile find, const char* name, char* path, std::size_t size) noe
     return true;
 }
 
+// Calls an operation that writes a text: the buffer is empty if it writes nothing, and terminated in any case.
+template <class Operation> bool CallForText(char* buffer, u32 size, Operation&& operation) noexcept
+{
+    if (size == 0)
+        return false;
+
+    buffer[0] = 0;
+    const bool done = Call(false, operation);
+    buffer[size - 1] = 0;
+    return done;
+}
+
 } // namespace
 
 void PrintLine(const char* format, ...) noexcept
@@ -73,9 +85,10 @@ int ExecuteCommand(const char* text) noexcept
 
 void DataParse(const char* text, char* output, u32 size) noexcept
 {
-    output[0] = 0;
-    Call([&](HostObject& host) { host.DataParse(text, output, size); });
-    output[size - 1] = 0;
+    CallForText(output, size, [&](HostObject& host) {
+        host.DataParse(text, output, size);
+        return true;
+    });
 }
 
 u32 PreParseSequence(const char* text, u32 keep) noexcept
@@ -85,24 +98,14 @@ u32 PreParseSequence(const char* text, u32 keep) noexcept
 
 bool RetrieveOriginalText(u32 sequence, char* buffer, u32 size) noexcept
 {
-    if (size == 0)
-        return false;
-
-    buffer[0] = 0;
-    const bool done = Call(false, [&](HostObject& host) { return host.RetrieveOriginalText(sequence, buffer, size); });
-    buffer[size - 1] = 0;
-    return done;
+    return CallForText(
+        buffer, size, [&](HostObject& host) { return host.RetrieveOriginalText(sequence, buffer, size); });
 }
 
 bool RetrieveProcessedText(u32 sequence, char* buffer, u32 size) noexcept
 {
-    if (size == 0)
-        return false;
-
-    buffer[0] = 0;
-    const bool done = Call(false, [&](HostObject& host) { return host.RetrieveProcessedText(sequence, buffer, size); });
-    buffer[size - 1] = 0;
-    return done;
+    return CallForText(
+        buffer, size, [&](HostObject& host) { return host.RetrieveProcessedText(sequence, buffer, size); });
 }
 
 bool RetrieveProcessedResult(u32 sequence, _MvTypeVar& result) noexcept
@@ -123,10 +126,7 @@ bool Calculate(const char* text, double& result) noexcept
 
 bool GetKeyName(u32 key, char* buffer, u32 size) noexcept
 {
-    buffer[0] = 0;
-    const bool done = Call(false, [&](HostObject& host) { return host.GetKeyName(key, buffer, size); });
-    buffer[size - 1] = 0;
-    return done;
+    return CallForText(buffer, size, [&](HostObject& host) { return host.GetKeyName(key, buffer, size); });
 }
 
 bool LocateFile(const char* name, char* path, std::size_t size) noexcept

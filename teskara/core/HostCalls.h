@@ -4,9 +4,7 @@
 #include "teskara/core/Types.h"
 
 #include <cstddef>
-#include <exception>
 #include <string>
-#include <utility>
 
 // Every call to the host goes through here: without a host, and when an operation throws, the result is that
 // operation's failure. Results are preset, so an operation that writes nothing leaves a value that can be used.

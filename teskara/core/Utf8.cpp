@@ -80,43 +80,52 @@ char32_t NextOfUtf16(std::u16string_view units, std::size_t& position)
     return 0x10000 + (static_cast<char32_t>(first - 0xD800) << 10) + (units[position++] - 0xDC00u);
 }
 
-std::size_t UnitsOf(char32_t character)
-{
-    return character < 0x10000 ? 1 : 2;
-}
+// UTF-8 and UTF-16 as a conversion sees them: what a text is, its next character, and the room and form of one.
+struct Utf8Form {
+    using Text = std::string_view;
 
-std::size_t BytesOf(char32_t character)
-{
-    if (character < 0x80)
-        return 1;
-    if (character < 0x800)
-        return 2;
-    return character < 0x10000 ? 3 : 4;
-}
+    static char32_t Next(Text bytes, std::size_t& position) { return NextOfUtf8(bytes, position); }
 
-void WriteUnits(char32_t character, char16_t* to)
-{
-    if (character < 0x10000) {
-        to[0] = static_cast<char16_t>(character);
-        return;
+    static std::size_t SizeOf(char32_t character)
+    {
+        if (character < 0x80)
+            return 1;
+        if (character < 0x800)
+            return 2;
+        return character < 0x10000 ? 3 : 4;
     }
-    to[0] = static_cast<char16_t>(0xD800 + ((character - 0x10000) >> 10));
-    to[1] = static_cast<char16_t>(0xDC00 + ((character - 0x10000) & 0x3FF));
-}
 
-void WriteBytes(char32_t character, char* to)
-{
-    const std::size_t count = BytesOf(character);
-    if (count == 1) {
-        to[0] = static_cast<char>(character);
-        return;
+    static void Write(char32_t character, char* to)
+    {
+        const std::size_t count = SizeOf(character);
+        if (count == 1) {
+            to[0] = static_cast<char>(character);
+            return;
+        }
+        for (std::size_t index = count - 1; index > 0; --index) {
+            to[index] = static_cast<char>(0x80 | (character & 0x3F));
+            character >>= 6;
+        }
+        to[0] = static_cast<char>((0xF00u >> count) | character);
     }
-    for (std::size_t index = count - 1; index > 0; --index) {
-        to[index] = static_cast<char>(0x80 | (character & 0x3F));
-        character >>= 6;
+};
+
+struct Utf16Form {
+    using Text = std::u16string_view;
+
+    static char32_t Next(Text units, std::size_t& position) { return NextOfUtf16(units, position); }
+    static std::size_t SizeOf(char32_t character) { return character < 0x10000 ? 1 : 2; }
+
+    static void Write(char32_t character, char16_t* to)
+    {
+        if (character < 0x10000) {
+            to[0] = static_cast<char16_t>(character);
+            return;
+        }
+        to[0] = static_cast<char16_t>(0xD800 + ((character - 0x10000) >> 10));
+        to[1] = static_cast<char16_t>(0xDC00 + ((character - 0x10000) & 0x3FF));
     }
-    to[0] = static_cast<char>((0xF00u >> count) | character);
-}
+};
 
 bool IsAsciiBlock(const char* bytes)
 {
@@ -167,74 +176,62 @@ template <typename From> std::size_t CountAsciiBlocks(const From* from, std::siz
     return done;
 }
 
+template <class From, class To> std::size_t ConvertedLength(typename From::Text text)
+{
+    std::size_t length = 0;
+    for (std::size_t position = 0; position < text.size();) {
+        const std::size_t ascii = CountAsciiBlocks(text.data() + position, text.size() - position);
+        position += ascii;
+        length += ascii;
+        const std::size_t stop = std::min(text.size(), position + BlockSize);
+        while (position < stop)
+            length += To::SizeOf(From::Next(text, position));
+    }
+    return length;
+}
+
+template <class From, class To>
+std::size_t Convert(typename From::Text text, typename To::Text::value_type* to, std::size_t capacity)
+{
+    std::size_t written = 0;
+    for (std::size_t position = 0; position < text.size();) {
+        const std::size_t room = std::min(text.size() - position, capacity - written);
+        const std::size_t ascii = CopyAsciiBlocks(text.data() + position, to + written, room);
+        position += ascii;
+        written += ascii;
+        const std::size_t stop = std::min(text.size(), position + BlockSize);
+        while (position < stop) {
+            const char32_t character = From::Next(text, position);
+            const std::size_t size = To::SizeOf(character);
+            if (size > capacity - written)
+                return written;
+            To::Write(character, to + written);
+            written += size;
+        }
+    }
+    return written;
+}
+
 } // namespace
 
 std::size_t Utf16Length(std::string_view bytes)
 {
-    std::size_t length = 0;
-    for (std::size_t position = 0; position < bytes.size();) {
-        const std::size_t ascii = CountAsciiBlocks(bytes.data() + position, bytes.size() - position);
-        position += ascii;
-        length += ascii;
-        const std::size_t stop = std::min(bytes.size(), position + BlockSize);
-        while (position < stop)
-            length += UnitsOf(NextOfUtf8(bytes, position));
-    }
-    return length;
+    return ConvertedLength<Utf8Form, Utf16Form>(bytes);
 }
 
 std::size_t Utf8ToUtf16(std::string_view bytes, char16_t* to, std::size_t capacity)
 {
-    std::size_t written = 0;
-    for (std::size_t position = 0; position < bytes.size();) {
-        const std::size_t room = std::min(bytes.size() - position, capacity - written);
-        const std::size_t ascii = CopyAsciiBlocks(bytes.data() + position, to + written, room);
-        position += ascii;
-        written += ascii;
-        const std::size_t stop = std::min(bytes.size(), position + BlockSize);
-        while (position < stop) {
-            const char32_t character = NextOfUtf8(bytes, position);
-            if (UnitsOf(character) > capacity - written)
-                return written;
-            WriteUnits(character, to + written);
-            written += UnitsOf(character);
-        }
-    }
-    return written;
+    return Convert<Utf8Form, Utf16Form>(bytes, to, capacity);
 }
 
 std::size_t Utf8Length(std::u16string_view units)
 {
-    std::size_t length = 0;
-    for (std::size_t position = 0; position < units.size();) {
-        const std::size_t ascii = CountAsciiBlocks(units.data() + position, units.size() - position);
-        position += ascii;
-        length += ascii;
-        const std::size_t stop = std::min(units.size(), position + BlockSize);
-        while (position < stop)
-            length += BytesOf(NextOfUtf16(units, position));
-    }
-    return length;
+    return ConvertedLength<Utf16Form, Utf8Form>(units);
 }
 
 std::size_t Utf16ToUtf8(std::u16string_view units, char* to, std::size_t capacity)
 {
-    std::size_t written = 0;
-    for (std::size_t position = 0; position < units.size();) {
-        const std::size_t room = std::min(units.size() - position, capacity - written);
-        const std::size_t ascii = CopyAsciiBlocks(units.data() + position, to + written, room);
-        position += ascii;
-        written += ascii;
-        const std::size_t stop = std::min(units.size(), position + BlockSize);
-        while (position < stop) {
-            const char32_t character = NextOfUtf16(units, position);
-            if (BytesOf(character) > capacity - written)
-                return written;
-            WriteBytes(character, to + written);
-            written += BytesOf(character);
-        }
-    }
-    return written;
+    return Convert<Utf16Form, Utf8Form>(units, to, capacity);
 }
 
 std::u16string ToUtf16(std::string_view bytes)

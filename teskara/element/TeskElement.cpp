@@ -55,7 +55,7 @@ TeskElement::~TeskElement()
     g_UIManager.ClearElementMetadata(this);
     if (TeskElementFactory* factory = g_UIManager.FindFactory(Type.c_str()))
         factory->RemoveInstance(this);
-    ReleaseEvents();
+    Events = {}; // scripts that are running live on until they return
 }
 
 // The nearest ancestor that is neither screen nor window client gives its full name to what is below it.
@@ -128,16 +128,6 @@ void TeskElement::DeleteAllChildren()
         child->Detach();
         child->Parent = nullptr;
     }
-}
-
-// Scripts that are running live on until they return.
-void TeskElement::ReleaseEvents()
-{
-    for (ScriptPointer* script : {&Events.OnLoad, &Events.OnUnload, &Events.OnLeftClick, &Events.OnRightClick,
-             &Events.OnDoubleLeftClick, &Events.OnDoubleRightClick, &Events.OnMouseEnter, &Events.OnMouseExit,
-             &Events.OnMouseMove, &Events.OnMouseWheel, &Events.OnKeyboardEnter, &Events.OnKeyboardExit,
-             &Events.OnKeyUp, &Events.OnKeyDown, &Events.OnLeftDown, &Events.OnRightDown, &Events.OnRender})
-        script->reset();
 }
 
 bool TeskElement::IsLinked() const

@@ -46,7 +46,7 @@ enum FadeState : u32 {
 // Of a gone element only the base is left.
 enum class LifeStage : u8 { Alive, Going, Gone };
 
-// The event scripts of an element, in the order in which markup is read.
+// The event scripts of an element, in the order in which they are given up when the element ends.
 struct ElementEvents {
     ScriptPointer OnLoad;
     ScriptPointer OnUnload;
@@ -126,6 +126,8 @@ public:
     // Recomputes what follows the parent; with recurse, the children too if anything changed. May run scripts.
     virtual void RecalculateSize(bool recurse);
     virtual void RecalculateChildrenSize();
+
+    // For a control that lays out parts of its own: called by each RecalculateSize. The base does nothing.
     virtual void SizeRecalculated(bool changed);
 
     // --- Drawing
@@ -154,10 +156,17 @@ public:
     // Something happened to source, a child near or far, or null. The base hands it on to its parent.
     virtual void OnNotify(TeskElement* source, unsigned int code, unsigned long long value);
     virtual void OnMouseEnter(_Point2i& point);
+
+    // next: what the mouse or the keyboard goes to; null for nothing.
     virtual void OnMouseExit(TeskElement* next);
     virtual void OnKeyboardEnter();
     virtual void OnKeyboardExit(TeskElement* next);
+
+    // This element has the keyboard, and another took a press; null if that one died of it. The base does nothing.
     virtual void OnLMouseDownOther(TeskElement* taker);
+
+    // After markup and children are read, before OnLoad; and before the destructor. OnDestroy may come twice. Both do
+    // nothing in the base.
     virtual void OnCreate();
     virtual void OnDestroy();
 
@@ -171,6 +180,8 @@ public:
 
     // The first child of that name, without regard to case; null if there is none.
     virtual TeskElement* FindChild(const char* name);
+
+    // Always true in the base. Nothing in the toolkit asks; they keep their places for kinds that are built elsewhere.
     virtual bool SetFocus();
     virtual bool SetMouseOver();
 
@@ -187,6 +198,7 @@ public:
 
     // --- Tree
 
+    // Links a child that names this element as its parent, as the last one. The child's constructor does it.
     void AddChild(TeskElement* child);
 
     // Takes a child out of the list and deletes it. May run scripts. Does nothing if it is no child, or going already.
@@ -202,11 +214,14 @@ public:
     TeskElement* Walk(bool visibleOnly, TeskElement* stop);
     TeskElement* WalkReverse(bool visibleOnly, TeskElement* stop);
 
+    // Moves the ancestor that stands directly under the screen to the top.
     void RaiseTopLevel();
+
+    // Whether a point lies in the element, as its metadata "HitTest" shapes it; children are not asked.
     bool HitTest(_Point2i& point);
     bool IsFocus() const;
     bool IsMouseOver() const;
-    bool IsReallyVisible() const;
+    bool IsReallyVisible() const; // with all its ancestors
     bool IsGoing() const { return Stage != LifeStage::Alive; }
 
     // Sends a notification to the parent, if there is one.
@@ -331,7 +346,6 @@ private:
 
     void BuildFullName();
     void DeleteAllChildren();
-    void ReleaseEvents();
     bool IsLinked() const;
     void LinkAfter(TeskElement* sibling);
     void Unlink();

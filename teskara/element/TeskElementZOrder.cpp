@@ -48,27 +48,18 @@ void TeskElement::MoveZTop(bool includeParents)
     if (!IsLinked())
         return;
 
-    TeskElement* top = Parent->LastChild == this ? Previous : Parent->LastChild;
-    if (!top)
+    TeskElement* below = Parent->LastChild;
+    while (below && (below == this || below->Strata > Strata))
+        below = below->Previous;
+    if (below == Previous)
         return;
 
-    if (Strata >= top->Strata) {
-        if (!Next)
-            return;
-
-        Unlink();
-        LinkAfter(top);
-        return;
-    }
-
-    while (top && (top == this || top->Strata > Strata))
-        top = top->Previous;
-    if (!top) {
+    if (!below) {
         MoveZBottom();
         return;
     }
     Unlink();
-    LinkAfter(top);
+    LinkAfter(below);
 }
 
 void TeskElement::RaiseTopLevel()

@@ -7,8 +7,8 @@
 // How a coordinate or a dimension follows the parent.
 enum : u32 {
     PositionAbsolute = 0, // keeps its value
-    PositionShare = 2,    // a share of the parent's dimension
-    PositionFarEdge = 3,  // the parent's dimension less an offset
+    PositionShare = 2, // a share of the parent's dimension
+    PositionFarEdge = 3, // the parent's dimension less an offset
 };
 
 struct ElementPosition {
