@@ -108,6 +108,14 @@ constexpr MarkupForm<OwnerOf<Field>> Text = {
         control.*Field = source.Text(tag, fallback.Text);
     }};
 
+// A text with data sequences, which the host parses here; an empty one has none.
+template <auto Field>
+constexpr MarkupForm<OwnerOf<Field>> Sequence = {
+    "sequence", [](OwnerOf<Field>& control, const MarkupSource& source, TagName tag, MarkupDefault fallback) {
+        const char* text = source.Text(tag, fallback.Text);
+        (control.*Field).PreParse(*text ? text : nullptr);
+    }};
+
 // One of a few words, in any case. Words is a constant array of MarkupWord; any other text means the default.
 struct MarkupWord {
     std::string_view Word;
