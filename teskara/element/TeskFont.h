@@ -3,6 +3,7 @@
 #include "teskara/core/Export.h"
 #include "teskara/core/Types.h"
 #include "teskara/core/utf8string.h"
+#include "teskara/element/ScriptHold.h"
 
 class TeskElement;
 class XMLNode;
@@ -67,6 +68,7 @@ public:
     bool Bold = false;
     bool Fixed = false;
     TeskElement* Owner = nullptr;
+    ScriptHold<TeskFont> Hold;
 
 protected:
     TeskFont(TeskElement* owner, const char* name, u8 size, bool fixed, bool bold);

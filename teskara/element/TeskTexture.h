@@ -3,6 +3,7 @@
 #include "teskara/core/Export.h"
 #include "teskara/core/Types.h"
 #include "teskara/core/utf8string.h"
+#include "teskara/element/ScriptHold.h"
 
 class XMLNode;
 
@@ -64,6 +65,7 @@ public:
     u32 ColorMask = 0;
     u32 Border = 0; // width of the frame in the image
     u8 Orientation = 0; // quarter turns clockwise
+    ScriptHold<TeskTexture> Hold;
 
 private:
     explicit TeskTexture(const char* filename);

@@ -2,6 +2,8 @@
 
 #include "teskara/core/CUIManager.h"
 #include "teskara/core/HostCalls.h"
+#include "teskara/script/TeskFrameType.h"
+#include "teskara/script/TeskTextType.h"
 #include "teskara/script/ToolkitType.h"
 #include "teskara/script/TypeGlobals.h"
 
@@ -51,6 +53,11 @@ namespace {
 // Makes a type with all its names. Throws when there is no memory.
 using TypeMaker = std::unique_ptr<MvTypeDefinition> (*)(const char* name);
 
+template <class Type> std::unique_ptr<MvTypeDefinition> Make(const char* name)
+{
+    return std::make_unique<Type>(name);
+}
+
 // A type whose members and methods are still to be written: it answers what its base answers.
 std::unique_ptr<MvTypeDefinition> Nameless(const char* name)
 {
@@ -93,7 +100,7 @@ struct TypeRow {
 constexpr TypeRow Types[] = {
     {"teskara", &pTeskaraType, nullptr, Nameless},
     {"teskelement", &pTeskElementType, nullptr, Nameless},
-    {"teskframe", &pTeskFrameType, &pTeskElementType, Nameless},
+    {"teskframe", &pTeskFrameType, &pTeskElementType, Make<TeskFrameType>},
     {"tesklistboxitem", &pTeskListBoxItemType, nullptr, Nameless},
     {"tesklistbox", &pTeskListBoxType, &pTeskElementType, Nameless},
     {"teskbutton", &pTeskButtonType, &pTeskElementType, Nameless},
@@ -110,7 +117,7 @@ constexpr TypeRow Types[] = {
     {"teskslider", &pTeskSliderType, &pTeskElementType, Nameless},
     {"tesktab", &pTeskTabType, &pTeskFrameType, Nameless},
     {"tesktabcontrol", &pTeskTabControlType, &pTeskFrameType, Nameless},
-    {"tesktext", &pTeskTextType, &pTeskElementType, Nameless},
+    {"tesktext", &pTeskTextType, &pTeskElementType, Make<TeskTextType>},
     {"tesktextedit", &pTeskTextEditType, &pTeskElementType, Nameless},
     {"tesktextentry", &pTeskTextEntryType, &pTeskElementType, Nameless},
     {"tesktexture", &pTeskTextureType, nullptr, Nameless},

@@ -19,3 +19,7 @@ int ToolkitType::BaseIndex(MvValue value, int argc, char** argv, _MvTypeVar& res
 {
     return GetBase() ? GetBase()->GetIndex(value, argc, argv, result) : DispatchUnknown;
 }
+
+void ToolkitType::VisitMembers(const RowVisitor&) const { }
+
+void ToolkitType::VisitMethods(const RowVisitor&) const { }

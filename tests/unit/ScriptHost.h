@@ -62,6 +62,7 @@ public:
             OnInvalidateObject();
     }
     void SetTypeObjectClass(MvTypeDefinition* type, u32) override { Classed.push_back(type->GetName()); }
+    bool Calculate(const char* text, double& result) override { return OnCalculate && OnCalculate(text, result); }
     void PrintLine(const char* format, ...) override
     {
         char line[4096];
@@ -99,6 +100,7 @@ public:
     std::function<void(MvTypeDefinition*)> OnRemoveType;
     std::function<void()> OnPrintLine;
     std::function<void()> OnInvalidateObject;
+    std::function<bool(const std::string& expression, double& result)> OnCalculate;
 };
 
 // Runs a body, in a process of its own, with a host that is not started yet.

@@ -1,0 +1,127 @@
+#pragma once
+
+#include "teskara/core/Types.h"
+#include "teskara/script/Arguments.h"
+#include "teskara/script/MvTypeVar.h"
+
+#include <concepts>
+#include <cstddef>
+#include <string_view>
+
+// What a script type answers, as constant tables in the order of the ids. A new type is a class with two of them:
+//
+//     constexpr ScriptMember<TeskGauge> Members[] = {
+//         {0, "Border", Script::Nothing},
+//         {1, "Range",  Script::Float<&TeskGauge::Range>},
+//         {2, "Marker", Script::Element<FindMarker>, 1}, // needs an argument
+//     };
+//     constexpr ScriptMethod<TeskGauge> Methods[] = {
+//         {0, "SetRange", SetRange, 1}, // bool SetRange(TeskGauge& gauge, const Arguments& arguments)
+//         {1, "SetColor", Script::SetColor<&TeskGauge::Color>},
+//         {2, "Reset",    Script::Call<&TeskGauge::Reset>},
+//     };
+//
+//     TeskGaugeType::TeskGaugeType(const char* name) : ElementType(name, Members, Methods) { }
+//
+// declared as class TeskGaugeType : public ElementType<TeskGauge>, and made by its row in ScriptTypes.cpp. What
+// stands for members is in ScriptResults.h, what stands for methods in ScriptActions.h. Two names that share an answer
+// name the same function. The columns are kept by hand, between the marks that keep the formatter away.
+
+// A name of a script type, as tools see it.
+struct ScriptRow {
+    u32 ID;
+    const char* Name;
+    const char* Result; // the type of a member's value; null where there never is one, and for methods
+    int Needs; // with fewer arguments than these nothing is answered
+};
+
+// What stands in a row for a member: how it answers, and the type of the value.
+template <class Form, class Owner>
+concept ScriptResult = requires(Owner& owner, const Arguments& arguments, _MvTypeVar& result)
+{
+    {
+        Form::Result
+        } -> std::convertible_to<const char*>;
+    {
+        Form::Answer(owner, arguments, result)
+        } -> std::same_as<bool>;
+};
+
+// What may stand in a row for a method, in place of a function: what it does, and how many arguments it needs.
+template <class Form, class Owner>
+concept ScriptAction = requires(Owner& owner, const Arguments& arguments)
+{
+    {
+        Form::Needs
+        } -> std::convertible_to<int>;
+    {
+        Form::Act(owner, arguments)
+        } -> std::same_as<bool>;
+};
+
+// False: there is no value, and the result has no type.
+template <class Owner> struct ScriptMember : ScriptRow {
+    using Function = bool (*)(Owner& owner, const Arguments& arguments, _MvTypeVar& result);
+
+    template <ScriptResult<Owner> Form>
+    constexpr ScriptMember(u32 id, const char* name, Form, int needs = 0)
+        : ScriptRow{id, name, Form::Result, needs}, Answer(&Form::template Answer<Owner>)
+    {
+    }
+
+    Function Answer;
+};
+
+// False: nothing was done. Afterwards the owner may be gone.
+template <class Owner> struct ScriptMethod : ScriptRow {
+    using Function = bool (*)(Owner& owner, const Arguments& arguments);
+
+    constexpr ScriptMethod(u32 id, const char* name, Function act, int needs = 0)
+        : ScriptRow{id, name, nullptr, needs}, Act(act)
+    {
+    }
+
+    template <ScriptAction<Owner> Form>
+    constexpr ScriptMethod(u32 id, const char* name, Form)
+        : ScriptRow{id, name, nullptr, Form::Needs}, Act(&Form::template Act<Owner>)
+    {
+    }
+
+    Function Act;
+};
+
+// The rows of one table. They are the caller's constant array; one whose ids do not count up by one, or in which a name
+// comes twice, does not compile.
+template <class Row> class ScriptTable
+{
+public:
+    constexpr ScriptTable() = default;
+
+    template <std::size_t Count>
+    consteval ScriptTable(const Row (&rows)[Count]) : m_Rows(rows), m_Count(Count), m_FirstID(rows[0].ID)
+    {
+        for (std::size_t index = 0; index < Count; ++index) {
+            if (rows[index].ID != m_FirstID + index)
+                throw "ids count up by one";
+            for (std::size_t other = 0; other < index; ++other) {
+                if (std::string_view(rows[index].Name) == rows[other].Name)
+                    throw "a name comes once";
+            }
+        }
+    }
+
+    // Null: there is none.
+    const Row* Find(u32 id) const
+    {
+        const std::size_t index = id - m_FirstID;
+        return index < m_Count ? m_Rows + index : nullptr;
+    }
+
+    const Row* begin() const { return m_Rows; }
+    const Row* end() const { return m_Rows + m_Count; }
+
+private:
+    const Row* m_Rows = nullptr;
+    std::size_t m_Count = 0;
+    u32 m_FirstID = 0;
+};
