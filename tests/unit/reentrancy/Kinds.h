@@ -1,0 +1,37 @@
+#pragma once
+
+#include "teskara/core/Types.h"
+
+#include <iosfwd>
+#include <span>
+
+// What a kind does: the places that only some kinds reach ask for it.
+enum Trait : u64 {
+    FollowsMouse = u64{1} << 20, // runs OnMouseMove as the mouse comes by
+    FollowsHeldMouse = u64{1} << 21, // runs OnMouseMove between press and release
+    IsForeign = u64{1} << 22, // not the toolkit's: its own operations call out
+    ExpandsText = u64{1} << 23, // has a text that is expanded at each use
+    EvaluatesText = u64{1} << 24, // has a text that is parsed once and evaluated at each use
+    Calculates = u64{1} << 25, // has a text that is a number
+    RunsCommand = u64{1} << 26, // runs a command of the host, its output on another console
+    HasFont = u64{1} << 27, // a font of its own, which tells of its changes
+    HasTexture = u64{1} << 28,
+};
+
+// It tells its parent so, of its own accord.
+constexpr u64 Sends(u32 notification)
+{
+    return u64{1} << notification;
+}
+
+// A row of the matrix: a kind of element.
+struct Kind {
+    const char* Name; // its word in markup
+    u64 Traits;
+    const char* Markup; // its own values
+    void (*Prepare)(); // what markup cannot say; null for nothing
+};
+
+std::span<const Kind> AllKinds();
+
+void PrintTo(const Kind& kind, std::ostream* stream);

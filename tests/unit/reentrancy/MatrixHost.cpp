@@ -1,0 +1,131 @@
+#include "tests/unit/reentrancy/MatrixHost.h"
+
+#include "tests/unit/reentrancy/Bomb.h"
+#include "tests/unit/reentrancy/Scene.h"
+
+#include <cstdio>
+#include <cstdlib>
+#include <fstream>
+#include <unistd.h>
+
+MatrixHost::MatrixHost()
+{
+    Recorded = 0;
+    NamesKeys = true;
+    for (const char* event : EventNames)
+        Scripts[event] = [event](TeskElement&) { g_Bomb.Reach(event); };
+}
+
+MatrixHost::~MatrixHost()
+{
+    for (const auto& [name, path] : Located)
+        std::remove(path.c_str());
+}
+
+void MatrixHost::WriteFile(const char* name, const std::string& markup)
+{
+    std::string& path = Located[name];
+    if (path.empty()) {
+        path = "/tmp/teskara-unit-XXXXXX";
+        close(mkstemp(path.data()));
+    }
+    std::ofstream(path) << "<Tesk>" << markup << "</Tesk>";
+}
+
+int MatrixHost::ExecuteCommand(const char*)
+{
+    g_Bomb.Reach("ExecuteCommand");
+    return 0;
+}
+
+int MatrixHost::DataParse(const char*, char* output, u32 size)
+{
+    g_Bomb.Reach("DataParse");
+    std::snprintf(output, size, "words of several lines");
+    return 1;
+}
+
+bool MatrixHost::Calculate(const char*, double& result)
+{
+    g_Bomb.Reach("Calculate");
+    result = 1;
+    return true;
+}
+
+// Keeps no lines: what they say is the affair of other tests.
+void MatrixHost::PrintLine(const char*, ...)
+{
+    g_Bomb.Reach("PrintLine");
+}
+
+u32 MatrixHost::CompileAtom(const char* source, u32 length)
+{
+    return Books.Lend("atom", TestHost::CompileAtom(source, length));
+}
+
+void MatrixHost::ReleaseAtom(u32 atom)
+{
+    Books.TakeBack("atom", atom);
+    TestHost::ReleaseAtom(atom);
+}
+
+int MatrixHost::ExecuteAtom(u32 atom, u32 unused, int argc, char** argv, _MvTypeVar* self)
+{
+    Books.Use("atom", atom);
+    return TestHost::ExecuteAtom(atom, unused, argc, argv, self);
+}
+
+u32 MatrixHost::PreParseSequence(const char*, u32)
+{
+    return Books.Lend("sequence", ++m_LastSequence);
+}
+
+bool MatrixHost::RetrieveProcessedText(u32 sequence, char* buffer, u32 size)
+{
+    Books.Use("sequence", sequence);
+    g_Bomb.Reach("RetrieveProcessedText");
+    std::snprintf(buffer, size, "words");
+    return true;
+}
+
+// Objects that never had a sequence give back the number 0.
+void MatrixHost::FreeSequence(u32 sequence)
+{
+    if (sequence)
+        Books.TakeBack("sequence", sequence);
+}
+
+void MatrixHost::SaveElementPosition(TeskElement*)
+{
+    g_Bomb.Reach("SaveElementPosition");
+}
+
+void MatrixHost::LoadElementPosition(TeskElement*)
+{
+    g_Bomb.Reach("LoadElementPosition");
+}
+
+void MatrixHost::SetOutputConsole(const char*)
+{
+    g_Bomb.Reach("SetOutputConsole");
+}
+
+u32 MatrixHost::CreateFontResource(const char* name, u8 height, bool fixed, bool bold)
+{
+    return Books.Lend("font", TestHost::CreateFontResource(name, height, fixed, bold));
+}
+
+void MatrixHost::ReleaseFontResource(u32 font)
+{
+    Books.TakeBack("font", font);
+}
+
+u32 MatrixHost::LoadTextureResource(const char* path, u32 colorKey)
+{
+    return Books.Lend("texture", TestHost::LoadTextureResource(path, colorKey));
+}
+
+void MatrixHost::ReleaseTextureResource(u32 texture)
+{
+    Books.TakeBack("texture", texture);
+}

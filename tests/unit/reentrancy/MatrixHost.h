@@ -1,0 +1,41 @@
+#pragma once
+
+#include "tests/unit/HostBooks.h"
+#include "tests/unit/TestHost.h"
+
+#include <map>
+#include <string>
+
+// A host that tells the bomb where the toolkit calls out, and keeps books of what it lends.
+class MatrixHost : public TestHost
+{
+public:
+    MatrixHost();
+    ~MatrixHost() override; // removes its files
+
+    // Writes a file that the toolkit can load.
+    void WriteFile(const char* name, const std::string& markup);
+
+    int ExecuteCommand(const char* text) override;
+    int DataParse(const char* text, char* output, u32 size) override;
+    bool Calculate(const char* text, double& result) override;
+    void PrintLine(const char* format, ...) override;
+    u32 CompileAtom(const char* source, u32 length) override;
+    void ReleaseAtom(u32 atom) override;
+    int ExecuteAtom(u32 atom, u32 unused, int argc, char** argv, _MvTypeVar* self) override;
+    u32 PreParseSequence(const char* text, u32 keep) override;
+    bool RetrieveProcessedText(u32 sequence, char* buffer, u32 size) override;
+    void FreeSequence(u32 sequence) override;
+    void SaveElementPosition(TeskElement* element) override;
+    void LoadElementPosition(TeskElement* element) override;
+    void SetOutputConsole(const char* name) override;
+    u32 CreateFontResource(const char* name, u8 height, bool fixed, bool bold) override;
+    void ReleaseFontResource(u32 font) override;
+    u32 LoadTextureResource(const char* path, u32 colorKey) override;
+    void ReleaseTextureResource(u32 texture) override;
+
+    HostBooks Books;
+
+private:
+    u32 m_LastSequence = 0;
+};

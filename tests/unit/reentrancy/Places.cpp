@@ -1,0 +1,260 @@
+#include "tests/unit/reentrancy/Places.h"
+
+#include "teskara/core/CUIManager.h"
+#include "teskara/element/TeskElement.h"
+#include "tests/unit/reentrancy/Kinds.h"
+#include "tests/unit/reentrancy/Scene.h"
+
+namespace {
+
+constexpr u64 EveryKind = 0;
+
+// --- Ways. Each begins on a scene that was drawn once, the mouse far away and no key down.
+
+void Load()
+{
+    LoadScene();
+}
+
+void Frame()
+{
+    g_UIManager.Render();
+}
+
+void FrameUnderTheMouse()
+{
+    g_UIManager.MousePosition = {15, 15};
+    g_UIManager.Render();
+}
+
+void DeleteSelf()
+{
+    Delete(SelfName);
+}
+
+void DeleteGrandparent()
+{
+    Delete("Grand");
+}
+
+void DeleteOwnChild()
+{
+    Delete("Child@Self@Parent@Grand");
+}
+
+void ResetAll()
+{
+    g_UIManager.Reset();
+}
+
+void UnloadFile()
+{
+    g_UIManager.UnloadInterfaceXML(SceneFile);
+}
+
+void ReplaceByLoad()
+{
+    g_UIManager.LoadInterfaceXML(SceneFile, "Grand", "Grand", true, nullptr);
+}
+
+void Enter()
+{
+    MoveTo(15, 15);
+}
+
+void LeaveForNothing()
+{
+    Aim();
+    MoveTo(500, 500);
+}
+
+void LeaveForSibling()
+{
+    Aim();
+    MoveTo(65, 15);
+}
+
+void HideUnderTheMouse()
+{
+    Aim();
+    g_UIManager.ShowElement(SelfName, false);
+    g_UIManager.Render();
+}
+
+void DragMouse()
+{
+    Aim();
+    g_UIManager.OnLMouseDown();
+    MoveTo(20, 20);
+    g_UIManager.OnLMouseUp();
+}
+
+void TurnWheel()
+{
+    Aim();
+    g_UIManager.OnMouseWheel(120);
+}
+
+void ClickLeft()
+{
+    Aim();
+    PressLeft();
+}
+
+void ClickRight()
+{
+    Aim();
+    PressRight();
+}
+
+void ReleaseElsewhere()
+{
+    Aim();
+    g_UIManager.OnLMouseDown();
+    MoveTo(500, 500);
+    g_UIManager.OnLMouseUp();
+}
+
+void DoubleClickLeft()
+{
+    ClickLeft();
+    PressLeft();
+}
+
+void DoubleClickRight()
+{
+    ClickRight();
+    PressRight();
+}
+
+void PressSiblingWithFocus()
+{
+    FocusSelf();
+    MoveTo(85, 15);
+    PressLeft();
+}
+
+void FocusAnother()
+{
+    FocusSelf();
+    FocusYounger();
+}
+
+void FocusNobody()
+{
+    FocusSelf();
+    g_UIManager.SetFocusElement(nullptr);
+}
+
+void HideFocus()
+{
+    FocusSelf();
+    g_UIManager.ShowElement("Grand", false);
+}
+
+void AskForHiddenFocus()
+{
+    FocusSelf();
+    if (Self())
+        Self()->Visible = false;
+    g_UIManager.GetFocusElement();
+}
+
+void PressNothingWithFocus()
+{
+    FocusSelf();
+    MoveTo(500, 500);
+    PressLeft();
+}
+
+void PressKey()
+{
+    FocusSelf();
+    g_UIManager.OnKeyDown('A');
+}
+
+void ReleaseKey()
+{
+    PressKey();
+    g_UIManager.OnKeyUp('A');
+}
+
+// clang-format off
+constexpr Place Places[] = {
+    // what an element says and does as it comes
+    {"FromXML",              "load",                  IsForeign,     Load},
+    {"LoadElementPosition",  "load",                  EveryKind,     Load},
+    {"SizeRecalculated",     "load",                  IsForeign,     Load},
+    {"OnCreate",             "load",                  IsForeign,     Load},
+    {"OnLoad",               "load",                  EveryKind,     Load},
+    {"PrintLine",            "load",                  EveryKind,     Load},
+
+    // and as it goes
+    {"OnUnload",             "delete self",           EveryKind,     DeleteSelf},
+    {"OnUnload",             "delete grandparent",    EveryKind,     DeleteGrandparent},
+    {"OnUnload",             "reset",                 EveryKind,     ResetAll},
+    {"OnUnload",             "unload",                EveryKind,     UnloadFile},
+    {"OnUnload",             "replace",               EveryKind,     ReplaceByLoad},
+    {"SaveElementPosition",  "delete self",           EveryKind,     DeleteSelf},
+    {"SaveElementPosition",  "delete grandparent",    EveryKind,     DeleteGrandparent},
+    {"OnDestroy",            "delete self",           IsForeign,     DeleteSelf},
+    {"OnDestroy",            "delete grandparent",    IsForeign,     DeleteGrandparent},
+    {"notification 51",      "delete self",           EveryKind,     DeleteSelf},
+    {"notification 51",      "delete child",          EveryKind,     DeleteOwnChild},
+
+    // a frame
+    {"OnRender",             "frame",                 EveryKind,     Frame},
+    {"Render",               "frame",                 IsForeign,     Frame},
+    {"DataParse",            "frame",                 ExpandsText,   Frame},
+    {"RetrieveProcessedText", "frame",                EvaluatesText, Frame},
+    {"Calculate",            "frame",                 Calculates,    Frame},
+
+    // the mouse
+    {"OnMouseEnter",         "move",                  EveryKind,     Enter},
+    {"OnMouseEnter",         "frame",                 EveryKind,     FrameUnderTheMouse},
+    {"OnMouseExit",          "to nothing",            EveryKind,     LeaveForNothing},
+    {"OnMouseExit",          "to a sibling",          EveryKind,     LeaveForSibling},
+    {"OnMouseExit",          "hidden",                EveryKind,     HideUnderTheMouse},
+    {"OnMouseMove",          "move",                  FollowsMouse,  Enter},
+    {"OnMouseMove",          "drag",                  FollowsHeldMouse, DragMouse},
+    {"OnMouseWheel",         "wheel",                 EveryKind,     TurnWheel},
+    {"OnLeftDown",           "click",                 EveryKind,     ClickLeft},
+    {"OnLeftClick",          "click",                 EveryKind,     ClickLeft},
+    {"OnLeftClick",          "release elsewhere",     EveryKind,     ReleaseElsewhere},
+    {"OnRightDown",          "click",                 EveryKind,     ClickRight},
+    {"OnRightClick",         "click",                 EveryKind,     ClickRight},
+    {"OnDoubleLeftClick",    "double click",          EveryKind,     DoubleClickLeft},
+    {"OnDoubleRightClick",   "double click",          EveryKind,     DoubleClickRight},
+    {"refused double click", "double click",          IsForeign,     DoubleClickLeft},
+    {"OnLMouseDownOther",    "press a sibling",       IsForeign,     PressSiblingWithFocus},
+    {"ExecuteCommand",       "click",                 RunsCommand,   ClickLeft},
+    {"SetOutputConsole",     "click",                 RunsCommand,   ClickLeft},
+
+    // the keyboard
+    {"OnKeyboardEnter",      "focus",                 EveryKind,     FocusSelf},
+    {"OnKeyboardExit",       "focus another",         EveryKind,     FocusAnother},
+    {"OnKeyboardExit",       "focus nobody",          EveryKind,     FocusNobody},
+    {"OnKeyboardExit",       "hide",                  EveryKind,     HideFocus},
+    {"OnKeyboardExit",       "ask while hidden",      EveryKind,     AskForHiddenFocus},
+    {"OnKeyboardExit",       "press nothing",         EveryKind,     PressNothingWithFocus},
+    {"OnKeyDown",            "key",                   EveryKind,     PressKey},
+    {"OnKeyUp",              "key",                   EveryKind,     ReleaseKey},
+
+    // what the parent hears
+    {"notification 1",       "click",                 Sends(1),      ClickLeft},
+    {"notification 6",       "click",                 Sends(6),      ClickLeft},
+    {"notification 7",       "click",                 Sends(7),      ClickRight},
+    {"notification 8",       "click",                 Sends(8),      ClickRight},
+    {"notification 10",      "double click",          Sends(10),     DoubleClickLeft},
+    {"notification 11",      "double click",          Sends(11),     DoubleClickRight},
+    {"notification 14",      "move",                  Sends(14),     Enter},
+    {"notification 15",      "wheel",                 Sends(15),     TurnWheel},
+};
+// clang-format on
+
+} // namespace
+
+std::span<const Place> AllPlaces()
+{
+    return Places;
+}

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "teskara/core/Types.h"
+
+#include <span>
+
+// A row of the matrix: somewhere the toolkit calls out, and a way that leads there. One place may be reached on several
+// ways, each a row of its own.
+struct Place {
+    const char* Name; // what the bomb is told there
+    const char* Way; // tells the ways to one place apart
+    u64 Needs; // traits of the kinds that reach it: all of these, and no other kind does
+    void (*Drive)();
+};
+
+std::span<const Place> AllPlaces();

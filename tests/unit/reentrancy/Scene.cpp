@@ -1,0 +1,153 @@
+#include "tests/unit/reentrancy/Scene.h"
+
+#include "teskara/core/CUIManager.h"
+#include "teskara/script/MvTypeDefinition.h"
+#include "tests/unit/reentrancy/Bomb.h"
+#include "tests/unit/reentrancy/Kinds.h"
+
+#include <string>
+#include <vector>
+
+Bomb& g_Bomb = *new Bomb;
+
+namespace {
+
+constexpr i32 InsideSelf = 15;
+
+// A sibling that is high enough to be hit where the scene is empty else.
+std::string SiblingMarkup(const char* name, int x)
+{
+    return std::string("<frame name='") + name + "'><X>" + std::to_string(x)
+        + "</X><Y>0</Y><Width>20</Width><Height>90</Height><BackgroundColor>ff000000</BackgroundColor></frame>";
+}
+
+bool Dispatch(_MvTypeVar object, const char* method, std::initializer_list<const char*> arguments)
+{
+    if (!object.Type)
+        return false;
+
+    std::vector<std::string> texts(arguments.begin(), arguments.end());
+    std::vector<char*> argv;
+    for (std::string& text : texts)
+        argv.push_back(text.data());
+    return object.Type->DispatchMethod(object.Value, method, static_cast<int>(argv.size()), argv.data())
+        != DispatchUnknown;
+}
+
+_MvTypeVar AsObject(TeskElement* element)
+{
+    _MvTypeVar object;
+    if (element) {
+        object.Type = element->GetMvType();
+        object.Value.Object = element;
+    }
+    return object;
+}
+
+} // namespace
+
+TeskElement* Self()
+{
+    return g_UIManager.FindElement(SelfName);
+}
+
+// The unknown kind among the children makes the load print lines.
+std::string SceneMarkup(const Kind& kind)
+{
+    std::string look = "<Template name='Look'><Width>50</Width><StorePosition>1</StorePosition>";
+    for (const char* event : EventNames)
+        look += std::string("<") + event + ">" + event + "</" + event + ">";
+    look += "</Template><Template name='Deep'/>";
+
+    const std::string word = kind.Name;
+    const std::string self = "<" + word
+        + " name='Self' Template='Look'><X>10</X><Y>10</Y><Height>r50</Height>"
+          "<BackgroundColor>ff000000</BackgroundColor><AutoTooltip>Hint</AutoTooltip><FadeDelay>5</FadeDelay>"
+        + kind.Markup + "<Children><frame name='Child'><Width>5</Width></frame><unknown name='Nobody'/></Children></"
+        + word + ">";
+    return look
+        + "<frame name='Grand'><Width>100%</Width><Height>100</Height><Children>"
+          "<listening name='Parent'><Width>100</Width><Height>100</Height><Children>"
+        + SiblingMarkup("Elder", 60) + self + SiblingMarkup("Younger", 80)
+        + "</Children></listening></Children></frame>";
+}
+
+std::string PartMarkup()
+{
+    return "<frame name='Part'><Children><text name='Words'><Text>x</Text></text></Children></frame>";
+}
+
+bool LoadScene()
+{
+    return g_UIManager.LoadInterfaceXML(SceneFile, true, g_UIManager.FindSkin("Dark"));
+}
+
+void Delete(const char* name)
+{
+    TeskElement* element = g_UIManager.FindElement(name);
+    if (element && element->Parent)
+        element->Parent->DeleteChild(element);
+}
+
+void DeleteByID(u32 id)
+{
+    TeskElement* element = g_UIManager.FindElementByID(id);
+    if (element && element->Parent)
+        element->Parent->DeleteChild(element);
+}
+
+void MoveTo(i32 x, i32 y)
+{
+    _Point2i point = {x, y};
+    g_UIManager.OnMouseMove(point);
+}
+
+void PressLeft()
+{
+    g_UIManager.OnLMouseDown();
+    g_UIManager.OnLMouseUp();
+}
+
+void PressRight()
+{
+    g_UIManager.OnRMouseDown();
+    g_UIManager.OnRMouseUp();
+}
+
+void Aim()
+{
+    MoveTo(InsideSelf, InsideSelf);
+    ShowSelf();
+}
+
+void ShowSelf()
+{
+    if (Self())
+        Self()->Show(true);
+}
+
+void FocusSelf()
+{
+    ShowSelf();
+    if (Self())
+        g_UIManager.SetFocusElement(Self());
+}
+
+void FocusYounger()
+{
+    if (TeskElement* younger = g_UIManager.FindElement(YoungerName))
+        g_UIManager.SetFocusElement(younger);
+}
+
+bool Tell(TeskElement* element, const char* method, std::initializer_list<const char*> arguments)
+{
+    return Dispatch(AsObject(element), method, arguments);
+}
+
+bool TellPart(const char* member, const char* method, std::initializer_list<const char*> arguments)
+{
+    const _MvTypeVar self = AsObject(Self());
+    _MvTypeVar part;
+    return self.Type && self.Type->DispatchMember(self.Value, member, 0, nullptr, part) == DispatchDone
+        && Dispatch(part, method, arguments);
+}

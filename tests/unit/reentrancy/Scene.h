@@ -1,0 +1,48 @@
+#pragma once
+
+#include "teskara/element/TeskElement.h"
+
+#include <initializer_list>
+
+struct Kind;
+
+// The file that the scene comes from, and another one to be loaded in the middle of everything.
+constexpr char SceneFile[] = "scene.xml";
+constexpr char PartFile[] = "part.xml";
+
+// The element under test stands between two siblings, two levels below the screen, and has a child.
+constexpr char SelfName[] = "Self@Parent@Grand";
+constexpr char ElderName[] = "Elder@Parent@Grand";
+constexpr char YoungerName[] = "Younger@Parent@Grand";
+
+constexpr const char* EventNames[] = {"OnLoad", "OnUnload", "OnLeftClick", "OnRightClick", "OnDoubleLeftClick",
+    "OnDoubleRightClick", "OnMouseEnter", "OnMouseExit", "OnMouseMove", "OnMouseWheel", "OnKeyboardEnter",
+    "OnKeyboardExit", "OnKeyUp", "OnKeyDown", "OnLeftDown", "OnRightDown", "OnRender"};
+
+// Null once it is gone.
+TeskElement* Self();
+
+// The markup of a scene: what stands inside the root of its file.
+std::string SceneMarkup(const Kind& kind);
+std::string PartMarkup();
+
+// --- What drives the scene. All of it stands whatever has become of the scene.
+
+bool LoadScene();
+void Delete(const char* name);
+void DeleteByID(u32 id);
+void MoveTo(i32 x, i32 y);
+void PressLeft();
+void PressRight();
+
+// Brings the mouse over the element under test, which is shown even if it steps aside from the mouse.
+void Aim();
+void ShowSelf();
+void FocusSelf();
+void FocusYounger();
+
+// Calls a method of an element's script type, as a script does. False: the type does not know it, or there is nobody.
+bool Tell(TeskElement* element, const char* method, std::initializer_list<const char*> arguments = {});
+
+// Asks a member of the script type of the element under test for an object and calls a method of that.
+bool TellPart(const char* member, const char* method, std::initializer_list<const char*> arguments);
