@@ -84,6 +84,44 @@ int TestHost::DataParse(const char* text, char* output, u32 size)
     return 1;
 }
 
+u32 TestHost::PreParseSequence(const char* text, u32 keep)
+{
+    const u32 sequence = RefusesSequences ? 0 : ++m_LastSequence;
+    Record(RecordSequences, "PreParseSequence \"%s\" keep=%u -> %u", text, keep, sequence);
+    if (sequence != 0)
+        m_Sequences[sequence] = text;
+    return sequence;
+}
+
+bool TestHost::RetrieveOriginalText(u32 sequence, char* buffer, u32 size)
+{
+    Record(RecordSequences, "RetrieveOriginalText %u", sequence);
+    const auto text = m_Sequences.find(sequence);
+    if (RefusesValues || text == m_Sequences.end())
+        return false;
+
+    CopyText(text->second, buffer, size);
+    return true;
+}
+
+bool TestHost::RetrieveProcessedText(u32 sequence, char* buffer, u32 size)
+{
+    Record(RecordSequences, "RetrieveProcessedText %u size=%u", sequence, size);
+    const auto text = m_Sequences.find(sequence);
+    if (RefusesValues || text == m_Sequences.end())
+        return false;
+
+    const std::string source = text->second; // which may be freed meanwhile
+    CopyText(Expand ? Expand(source) : source, buffer, size);
+    return true;
+}
+
+void TestHost::FreeSequence(u32 sequence)
+{
+    Record(RecordSequences, "FreeSequence %u", sequence);
+    m_Sequences.erase(sequence);
+}
+
 void TestHost::PrintLine(const char* format, ...)
 {
     char line[4096];

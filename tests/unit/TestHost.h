@@ -48,11 +48,11 @@ public:
     int ExecuteAtom(u32 atom, u32 unused, int argc, char** argv, _MvTypeVar* self) override;
     u32 FindAtom(const char*) override { return 0; }
 
-    u32 PreParseSequence(const char*, u32) override { return 0; }
-    bool RetrieveOriginalText(u32, char*, u32) override { return false; }
-    bool RetrieveProcessedText(u32, char*, u32) override { return false; }
+    u32 PreParseSequence(const char* text, u32 keep) override;
+    bool RetrieveOriginalText(u32 sequence, char* buffer, u32 size) override;
+    bool RetrieveProcessedText(u32 sequence, char* buffer, u32 size) override;
     bool RetrieveProcessedResult(u32, _MvTypeVar&) override { return false; }
-    void FreeSequence(u32) override { }
+    void FreeSequence(u32 sequence) override;
 
     u32 RegisterObjectClass(const char*) override { return 1; }
     void InvalidateObject(u32, void*) override { }
@@ -95,6 +95,8 @@ public:
     bool RefusesMeasures = false;
     bool RefusesScripts = false;
     bool RefusesDrawing = false;
+    bool RefusesSequences = false;
+    bool RefusesValues = false; // of sequences that were parsed
 
     // Widths of bytes other than 6.
     std::map<char, float> Widths;
@@ -121,7 +123,9 @@ private:
     int WidthOf(const char* text) const;
 
     std::map<u32, std::string> m_Atoms;
+    std::map<u32, std::string> m_Sequences;
     u32 m_LastAtom = 0;
+    u32 m_LastSequence = 0;
     u32 m_LastFont = 0;
     u32 m_LastTexture = 0;
 };
