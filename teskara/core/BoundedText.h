@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdarg>
 #include <cstddef>
 #include <string_view>
 
@@ -17,6 +18,10 @@ std::size_t CopyBounded(char* to, std::size_t size, std::string_view from);
 // %s, %d, %u and %%; texts that come from outside are arguments, never the format. Returns the number of bytes
 // written, without the terminator.
 std::size_t FormatBounded(char* to, std::size_t size, const char* format, ...) TESKARA_PRINTF_LIKE(3, 4);
+
+// The same for a function that takes such arguments itself.
+std::size_t FormatBoundedList(char* to, std::size_t size, const char* format, std::va_list arguments)
+    TESKARA_PRINTF_LIKE(3, 0);
 
 // For arguments of %s that may be missing.
 constexpr const char* TextOrEmpty(const char* text)
