@@ -154,6 +154,19 @@ void LoadElementPosition(TeskElement* element) noexcept
     Call([&](HostObject& host) { host.LoadElementPosition(element); });
 }
 
+void GetOutputConsole(char* buffer, u32 size) noexcept
+{
+    CallForText(buffer, size, [&](HostObject& host) {
+        host.GetOutputConsole(buffer, size);
+        return true;
+    });
+}
+
+void SetOutputConsole(const char* name) noexcept
+{
+    Call([&](HostObject& host) { host.SetOutputConsole(name); });
+}
+
 u32 CreateFontResource(const char* name, u8 height, bool fixed, bool bold) noexcept
 {
     return Call(u32{0}, [&](HostObject& host) { return host.CreateFontResource(name, height, fixed, bold); });

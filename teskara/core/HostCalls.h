@@ -85,6 +85,11 @@ void InvalidateObject(u32 classID, void* object) noexcept;
 void SaveElementPosition(TeskElement* element) noexcept;
 void LoadElementPosition(TeskElement* element) noexcept;
 
+// --- The console that receives output
+
+void GetOutputConsole(char* buffer, u32 size) noexcept;
+void SetOutputConsole(const char* name) noexcept;
+
 // --- Resources
 
 u32 CreateFontResource(const char* name, u8 height, bool fixed, bool bold) noexcept;
