@@ -1,5 +1,6 @@
 #include "teskara/controls/TeskFrame.h"
 
+#include "teskara/controls/Panel.h"
 #include "teskara/core/AsciiCase.h"
 #include "teskara/core/BoundedText.h"
 #include "teskara/element/MarkupTable.h"
@@ -48,23 +49,8 @@ void TeskFrame::Create(const _CreateFrame& record)
 
 void TeskFrame::Render()
 {
-    DrawPanel();
+    DrawPanel(*this, {Texture.get(), BackgroundColor, Border, BorderColor});
     TeskElement::Render();
-}
-
-// An image with a border of its own replaces the plain border.
-void TeskFrame::DrawPanel()
-{
-    const tagRECT rect = ScreenRect();
-    if (!Texture) {
-        FillRectBordered(rect, BackgroundColor, Border, BorderColor);
-    } else if (Texture->Border != 0) {
-        TexturedRectBordered(rect, Texture.get(), Border);
-    } else {
-        TexturedRect(rect, Texture.get());
-        if (Border != 0)
-            DrawBorder(rect, Border, BorderColor);
-    }
 }
 
 // The base's answer comes first. What it did not take is taken by what can be seen, unless clicks pass through it.

@@ -42,7 +42,6 @@ public:
 
 private:
     bool IsSolid() const { return Texture || BackgroundColor != 0; }
-    void DrawPanel();
 
     template <class Event> bool Take(Event baseEvent, bool passes, u32 code, u64 value);
 };
