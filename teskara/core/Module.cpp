@@ -1,6 +1,10 @@
 // The one place that knows every kind. Objects are made in the order in which they stand here: the manager, then the
 // factories, then the module's entry; they end in the reverse order.
 
+#include "teskara/controls/TeskButton.h"
+#include "teskara/controls/TeskCheckBox.h"
+#include "teskara/controls/TeskCommandButton.h"
+#include "teskara/controls/TeskCommandCheckBox.h"
 #include "teskara/controls/TeskFrame.h"
 #include "teskara/controls/TeskText.h"
 #include "teskara/core/BoundedText.h"
@@ -33,11 +37,11 @@ public:
     TeskElement* Create(TeskElement*, const char*, XMLNode*, const char*) override { return nullptr; }
 };
 
-PendingFactory g_Button("button");
-PendingFactory g_CheckBox("checkbox");
+TeskFactory<TeskButton> g_Button("button");
+TeskFactory<TeskCheckBox> g_CheckBox("checkbox");
 PendingFactory g_ComboBox("combobox");
-PendingFactory g_CommandButton("commandbutton");
-PendingFactory g_CommandCheckBox("commandcheckbox");
+TeskFactory<TeskCommandButton> g_CommandButton("commandbutton");
+TeskFactory<TeskCommandCheckBox> g_CommandCheckBox("commandcheckbox");
 PendingFactory g_CommandEntry("commandentry");
 PendingFactory g_Console("console");
 PendingFactory g_ContextMenu("contextmenu");
