@@ -29,6 +29,22 @@ double Median(const std::vector<double>& sorted)
     return sorted.size() % 2 ? sorted[middle] : (sorted[middle - 1] + sorted[middle]) / 2;
 }
 
+void PrintFailure(const JsonLinesReporter::Run& run)
+{
+    std::printf("{\"peer\":\"teskara\",\"workload\":\"%s\",\"unit\":\"\",\"median\":null,\"min\":null,\"max\":null,"
+                "\"n\":0,\"note\":\"%s\"}\n",
+        run.run_name.function_name.c_str(), run.error_message.c_str());
+}
+
+void PrintSamples(const JsonLinesReporter::Run& run, Samples& samples)
+{
+    std::sort(samples.Values.begin(), samples.Values.end());
+    std::printf("{\"peer\":\"teskara\",\"workload\":\"%s\",\"unit\":\"%s\",\"median\":%.6g,\"min\":%.6g,\"max\":%.6g,"
+                "\"n\":%zu,\"note\":\"%s\"}\n",
+        run.run_name.function_name.c_str(), samples.Unit.c_str(), Median(samples.Values), samples.Values.front(),
+        samples.Values.back(), samples.Values.size(), run.report_label.c_str());
+}
+
 } // namespace
 
 bool JsonLinesReporter::ReportContext(const Context&)
@@ -43,13 +59,9 @@ void JsonLinesReporter::ReportRuns(const std::vector<Run>& runs)
         if (run.run_type == Run::RT_Iteration && !run.error_occurred)
             AddSample(run, samples);
     }
-    if (samples.Values.empty())
-        return;
-
-    std::sort(samples.Values.begin(), samples.Values.end());
-    std::printf("{\"peer\":\"teskara\",\"workload\":\"%s\",\"unit\":\"%s\",\"median\":%.6g,\"min\":%.6g,\"max\":%.6g,"
-                "\"n\":%zu,\"note\":\"%s\"}\n",
-        runs.front().run_name.function_name.c_str(), samples.Unit.c_str(), Median(samples.Values),
-        samples.Values.front(), samples.Values.back(), samples.Values.size(), runs.front().report_label.c_str());
+    if (!samples.Values.empty())
+        PrintSamples(runs.front(), samples);
+    else if (runs.front().error_occurred)
+        PrintFailure(runs.front());
     std::fflush(stdout);
 }

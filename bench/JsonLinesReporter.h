@@ -7,7 +7,8 @@
 
 // Prints one JSON object a line for each benchmark: {"peer":"teskara","workload":...,"unit":...,"median":...,"min":...,
 // "max":...,"n":...,"note":...}. A benchmark says what it measured through its counters: one named after the unit holds
-// the value; without one, the value is milliseconds of CPU time an iteration. The label is the note.
+// the value; without one, the value is milliseconds of CPU time an iteration. The label is the note. One that failed has
+// an n of 0 and its message as the note.
 class JsonLinesReporter : public benchmark::BenchmarkReporter
 {
 public:
