@@ -72,6 +72,16 @@ template <auto Target> struct TextSetter {
     }
 };
 
+// A text with data sequences; without an argument there is none.
+template <auto Field> struct SequenceSetter {
+    static constexpr int Needs = 0;
+    template <class Owner> static bool Act(Owner& owner, const Arguments& arguments)
+    {
+        (owner.*Field).PreParse(arguments.Has(0) ? arguments.Text(0) : nullptr);
+        return true;
+    }
+};
+
 // Markup, and the name of a skin. False: there is no texture now.
 bool ReplaceTexture(TeskElement& owner, const Arguments& arguments, std::unique_ptr<TeskTexture>& texture);
 
@@ -108,6 +118,7 @@ template <auto Target> inline constexpr FloatSetter<Target> SetFloat;
 template <auto Field> inline constexpr ColorSetter<Field> SetColor;
 template <auto Target> inline constexpr FlagSetter<Target> SetFlag;
 template <auto Target> inline constexpr TextSetter<Target> SetText;
+template <auto Field> inline constexpr SequenceSetter<Field> SetSequence;
 template <auto Field> inline constexpr TextureSetter<Field> SetTexture;
 template <auto Target, auto Value> inline constexpr ConstantSetter<Target, Value> SetTo;
 template <auto Operation> inline constexpr Caller<Operation> Call;

@@ -2,6 +2,8 @@
 
 #include "teskara/core/CUIManager.h"
 #include "teskara/core/HostCalls.h"
+#include "teskara/script/TeskButtonType.h"
+#include "teskara/script/TeskCheckBoxType.h"
 #include "teskara/script/TeskFrameType.h"
 #include "teskara/script/TeskTextType.h"
 #include "teskara/script/ToolkitType.h"
@@ -103,8 +105,8 @@ constexpr TypeRow Types[] = {
     {"teskframe", &pTeskFrameType, &pTeskElementType, Make<TeskFrameType>},
     {"tesklistboxitem", &pTeskListBoxItemType, nullptr, Nameless},
     {"tesklistbox", &pTeskListBoxType, &pTeskElementType, Nameless},
-    {"teskbutton", &pTeskButtonType, &pTeskElementType, Nameless},
-    {"teskcheckbox", &pTeskCheckBoxType, &pTeskElementType, Nameless},
+    {"teskbutton", &pTeskButtonType, &pTeskElementType, Make<TeskButtonType>},
+    {"teskcheckbox", &pTeskCheckBoxType, &pTeskElementType, Make<TeskCheckBoxType>},
     {"teskcombobox", &pTeskComboBoxType, &pTeskListBoxType, Nameless},
     {"teskconsole", &pTeskConsoleType, &pTeskFrameType, Nameless},
     {"teskfont", &pTeskFontType, nullptr, Nameless},
