@@ -33,7 +33,7 @@ bool FindPath(FindFile find, const char* name, char* path, std::size_t size) noe
 // Calls an operation that writes a text: the buffer is empty if it writes nothing, and terminated in any case.
 template <class Operation> bool CallForText(char* buffer, u32 size, Operation&& operation) noexcept
 {
-    if (size == 0)
+    if (!buffer || size == 0)
         return false;
 
     buffer[0] = 0;
