@@ -314,8 +314,8 @@ TEST_F(InputRoutingTest, AMoveMayBeGivenThePositionItself)
 
 TEST_F(InputRoutingTest, AWheelIgnoresTheFlagsThatLetClicksThrough)
 {
-    Load(R"(<frame name="A"><Width>100</Width><Height>100</Height><LeftClickThru>1</LeftClickThru>
-        <RightClickThru>1</RightClickThru><OnMouseWheel>wheel</OnMouseWheel></frame>)");
+    Load(R"(<frame name="A"><Width>100</Width><Height>100</Height><OnMouseWheel>wheel</OnMouseWheel></frame>)");
+    Element("A").LeftClickThru = Element("A").RightClickThru = true;
     Note("wheel");
     MoveTo(10, 10);
     System.Ticks = 40000;
