@@ -5,6 +5,7 @@
 #include "teskara/core/BoundedText.h"
 #include "teskara/core/HostCalls.h"
 #include "teskara/core/Numbers.h"
+#include "teskara/element/DataText.h"
 #include "teskara/element/MarkupTable.h"
 #include "teskara/script/TypeGlobals.h"
 
@@ -14,9 +15,6 @@
 #include <new>
 
 namespace {
-
-// What begins a data sequence.
-constexpr char SequenceMark[] = "${";
 
 // Where nothing is known of a character.
 constexpr int UnknownWidth = 12;
@@ -143,7 +141,7 @@ void TeskText::RecalculateSize(bool recurse)
 
 void TeskText::TextChanged()
 {
-    if (Text.find(SequenceMark) != utf8string::npos)
+    if (DataText::HasSequences(Text))
         SplitText.reset();
     else
         SplitStatic();
@@ -206,26 +204,17 @@ bool TeskText::RenderCustom()
     return true;
 }
 
-// The host gets a copy of the text, since a sequence may set the text, or end this element.
 bool TeskText::RenderDynamic()
 {
-    char expanded[TextSplit::BufferSize];
+    static_assert(sizeof(DataText::Buffer) == TextSplit::BufferSize);
+    DataText::Buffer text;
     const ElementWatch self(*this);
-    if (Text.size() < TextSplit::BufferSize) {
-        char source[TextSplit::BufferSize];
-        CopyBounded(source, sizeof(source), Text);
-        Host::DataParse(source, expanded, sizeof(expanded));
-    } else {
-        utf8string source;
-        if (!TryAssign(source, Text.c_str()))
-            return true;
-        Host::DataParse(source.c_str(), expanded, sizeof(expanded));
-    }
+    DataText::Evaluate(Text, text);
     if (!self.Exists())
         return false;
 
-    if (*expanded)
-        RenderAligned(expanded);
+    if (*text)
+        RenderAligned(text);
     return true;
 }
 
