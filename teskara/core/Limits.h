@@ -43,6 +43,8 @@ inline constexpr std::size_t TemplateChainBytes = 16 * 1024 * 1024;
 inline constexpr u32 NestedLoads = 32;
 // Scripts inside scripts. Beyond it a script is not run and gives 0.
 inline constexpr u32 NestedScripts = 64;
+// Texts that are evaluated because the value of another one sets them. Beyond it a text stays without a value.
+inline constexpr u32 NestedTextUpdates = 16;
 // Notifications begun inside notifications, not counting one that is passed up. Beyond it they are dropped.
 inline constexpr u32 NestedNotifications = 256;
 

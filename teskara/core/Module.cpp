@@ -6,6 +6,7 @@
 #include "teskara/controls/TeskCommandButton.h"
 #include "teskara/controls/TeskCommandCheckBox.h"
 #include "teskara/controls/TeskFrame.h"
+#include "teskara/controls/TeskHudElement.h"
 #include "teskara/controls/TeskText.h"
 #include "teskara/core/BoundedText.h"
 #include "teskara/core/CUIManager.h"
@@ -48,7 +49,7 @@ PendingFactory g_ContextMenu("contextmenu");
 TeskFactory<TeskFrame> g_Frame("frame");
 PendingFactory g_Gauge("gauge");
 PendingFactory g_GaugeFiller("gaugefiller");
-PendingFactory g_HudElement("hudelement");
+TeskFactory<TeskHudElement> g_HudElement("hudelement");
 PendingFactory g_ListBox("listbox");
 PendingFactory g_MapBlip("mapblip");
 PendingFactory g_MapBlipView("mapblipview");
