@@ -8,6 +8,7 @@
 #include "teskara/controls/TeskFrame.h"
 #include "teskara/controls/TeskHudElement.h"
 #include "teskara/controls/TeskText.h"
+#include "teskara/controls/TeskTooltip.h"
 #include "teskara/core/BoundedText.h"
 #include "teskara/core/CUIManager.h"
 #include "teskara/core/HostCalls.h"
@@ -66,7 +67,7 @@ PendingFactory g_Table("table");
 TeskFactory<TeskText> g_Text("text");
 PendingFactory g_TextEdit("textedit");
 PendingFactory g_TextEntry("textentry");
-PendingFactory g_Tooltip("tooltip");
+TeskFactory<TeskTooltip> g_Tooltip("tooltip");
 PendingFactory g_Tree("tree");
 PendingFactory g_VariableGauge("variablegauge");
 PendingFactory g_VariableSlider("variableslider");

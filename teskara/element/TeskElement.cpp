@@ -48,6 +48,8 @@ TeskElement::~TeskElement()
         Unlink();
     if (g_UIManager.FocusElementID == ID)
         g_UIManager.FocusElementID = 0;
+    if (g_UIManager.TooltipElementID == ID)
+        HideAutoTooltip(); // nobody else would
     DeleteAllChildren();
     g_UIManager.ForgetParent(*this);
     Host::InvalidateObject(g_UIManager.ObjectClass, this);
