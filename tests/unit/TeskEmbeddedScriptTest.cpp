@@ -199,3 +199,39 @@ TEST_F(TeskEmbeddedScriptTest, CoordinatesAndOffsetsAreWrittenToTheEndsOfTheirRa
     EXPECT_TRUE(panel.OnMouseWheel(-2147483647 - 1));
     EXPECT_EQ((std::vector<std::string>{"-2147483648"}), Atoms.Arguments);
 }
+
+TEST_F(TeskEmbeddedScriptTest, MarkupIsLookedUpInTheNodeAndThenInItsTemplate)
+{
+    XMLNode* node = g_UIManager.AddTemplate("node", "<Template><OnA>a</OnA><OnEmpty/></Template>");
+    XMLNode* base =
+        g_UIManager.AddTemplate("base", "<Template><ona>b</ona><OnB>b</OnB><OnEmpty>b</OnEmpty></Template>");
+    const auto compile = [&](XMLNode* from, const char* tag) {
+        const ScriptPointer script(Element("panel").EmbeddedScriptFromXML(from, tag, base, nullptr));
+        return script ? Atoms.Calls.at(0) : "none";
+    };
+    const auto expect = [&](const char* body, XMLNode* from, const char* tag) {
+        const std::string text = compile(from, tag);
+        EXPECT_EQ(*body ? "CompileAtom \"atom auto()\n{\n" + std::string(body) + "\n}\n\"" : "none", text) << tag;
+        Atoms.TakeCalls();
+    };
+    expect("a", node, "ONA");
+    expect("b", node, "OnB");
+    expect("b", nullptr, "OnA");
+    expect("", node, "OnEmpty");
+    expect("", node, "OnC");
+}
+
+TEST_F(TeskEmbeddedScriptTest, WithoutATagTheNodeItselfIsTheScript)
+{
+    XMLNode* node = g_UIManager.AddTemplate("node", "<Template>body</Template>");
+    TeskElement& panel = Element("panel");
+    const ScriptPointer script(panel.EmbeddedScriptFromXML(node, nullptr, nullptr, "int Row"));
+    EXPECT_EQ("CompileAtom \"atom auto(int Row)\n{\nbody\n}\n\"\n", Atoms.TakeCalls());
+    EXPECT_EQ(nullptr, panel.EmbeddedScriptFromXML(nullptr, nullptr, node, nullptr));
+    EXPECT_EQ("", Atoms.TakeCalls());
+
+    Atoms.RefusesScripts = true;
+    Atoms.Recorded = 0;
+    EXPECT_EQ(nullptr, panel.EmbeddedScriptFromXML(node, nullptr, nullptr, nullptr));
+    EXPECT_EQ("PrintLine \" embedded script failed to load\"\n", Atoms.TakeCalls());
+}
