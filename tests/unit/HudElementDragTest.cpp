@@ -12,6 +12,7 @@ constexpr i32 Most = std::numeric_limits<i32>::max();
 class HudElementDragTest : public ToolkitTest
 {
 protected:
+    HudElementDragTest() { g_UIManager.AltDown = false; }
     ~HudElementDragTest() override { g_UIManager.AltDown = false; }
 
     // A HUD element at 100, 200.
