@@ -1,4 +1,6 @@
+#include "teskara/controls/TeskHudElement.h"
 #include "teskara/controls/TeskText.h"
+#include "teskara/controls/TeskTooltip.h"
 #include "teskara/core/CUIManager.h"
 #include "teskara/element/TeskElement.h"
 #include "tests/unit/Allocations.h"
@@ -49,4 +51,36 @@ TEST_F(FrameAllocationTest, ATextThatChangesInEveryFrameReusesItsMemory)
         g_UIManager.Render();
     }
     EXPECT_EQ(before, Allocations::Count());
+}
+
+TEST_F(FrameAllocationTest, ATooltipThatStaysAllocatesNothing)
+{
+    Load("<tooltip name='T'/>");
+    auto& tooltip = As<TeskTooltip>("T");
+    tooltip.Print("A line that is too long to stand in the object itself\n\n\ay-and a line in colours\n");
+    tooltip.Show(true);
+    AllocationsOfFrames(2);
+    EXPECT_EQ(0u, AllocationsOfFrames(100));
+}
+
+TEST_F(FrameAllocationTest, HudElementsAllocateNothingBetweenUpdates)
+{
+    Load("<hudelement name='H'><Text>${Time} and a text of some length</Text><UpdateInterval>200</UpdateInterval>"
+         "</hudelement>");
+    AllocationsOfFrames(2);
+    EXPECT_EQ(0u, AllocationsOfFrames(100));
+}
+
+TEST_F(FrameAllocationTest, AHudElementThatIsUpdatedReusesItsMemory)
+{
+    Load("<hudelement name='H'/>");
+    auto& hud = As<TeskHudElement>("H");
+    hud.SetText("A text of some length, from the host");
+    const utf8string* value = hud.CurrentText.get();
+    const char* memory = value->data();
+    Host.Expand = [](const std::string&) { return "Another one that is as long, or not"; };
+    hud.UpdateText();
+    EXPECT_EQ(value, hud.CurrentText.get());
+    EXPECT_EQ(memory, hud.CurrentText->data());
+    EXPECT_EQ("Another one that is as long, or not", *hud.CurrentText);
 }
