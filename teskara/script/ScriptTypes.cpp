@@ -5,7 +5,9 @@
 #include "teskara/script/TeskButtonType.h"
 #include "teskara/script/TeskCheckBoxType.h"
 #include "teskara/script/TeskFrameType.h"
+#include "teskara/script/TeskHudElementType.h"
 #include "teskara/script/TeskTextType.h"
+#include "teskara/script/TeskTooltipType.h"
 #include "teskara/script/ToolkitType.h"
 #include "teskara/script/TypeGlobals.h"
 
@@ -111,7 +113,7 @@ constexpr TypeRow Types[] = {
     {"teskconsole", &pTeskConsoleType, &pTeskFrameType, Nameless},
     {"teskfont", &pTeskFontType, nullptr, Nameless},
     {"teskgauge", &pTeskGaugeType, &pTeskFrameType, Nameless},
-    {"teskhudelement", &pTeskHudElementType, &pTeskElementType, Nameless},
+    {"teskhudelement", &pTeskHudElementType, &pTeskElementType, Make<TeskHudElementType>},
     {"teskmapblip", &pTeskMapBlipType, &pTeskFrameType, Nameless},
     {"teskmap", &pTeskMapType, &pTeskElementType, Nameless},
     {"teskmessagebox", &pTeskMessageBoxType, &pTeskElementType, MessageBox},
@@ -123,7 +125,7 @@ constexpr TypeRow Types[] = {
     {"tesktextedit", &pTeskTextEditType, &pTeskElementType, Nameless},
     {"tesktextentry", &pTeskTextEntryType, &pTeskElementType, Nameless},
     {"tesktexture", &pTeskTextureType, nullptr, Nameless},
-    {"tesktooltip", &pTeskTooltipType, &pTeskFrameType, Nameless},
+    {"tesktooltip", &pTeskTooltipType, &pTeskFrameType, Make<TeskTooltipType>},
     {"tesktreenode", &pTeskTreeNodeType, nullptr, Nameless},
     {"tesktree", &pTeskTreeType, &pTeskFrameType, Nameless},
     {"teskwindow", &pTeskWindowType, &pTeskFrameType, Nameless},
