@@ -2,6 +2,7 @@
 
 #include "teskara/core/HostInterface.h"
 #include "teskara/core/platform/Platform.h"
+#include "tests/unit/HostBooks.h"
 
 #include <cstddef>
 #include <string>
@@ -12,6 +13,7 @@ class Decisions
 public:
     void Take(const u8* bytes, std::size_t size);
     u8 Next();
+    bool IsUsedUp() const { return m_Left == 0; }
     bool Refuses() { return Next() % 8 == 7; }
 
 private:
@@ -19,17 +21,32 @@ private:
     std::size_t m_Left = 0;
 };
 
-// A host that refuses operations at random and whose scripts do something hostile to the tree.
-class ChaosHost final : public HostObject
+// Where the toolkit calls out to something that may run scripts.
+enum class CallOut : u8 {
+    Script,
+    DataParse,
+    RetrieveProcessedText,
+    Calculate,
+    ExecuteCommand,
+    SetOutputConsole,
+    SaveElementPosition,
+    LoadElementPosition,
+    PrintLine,
+};
+
+// A host that refuses operations at random and whose scripts do something hostile to the tree: by default, as its
+// choices say at each call. It keeps books of what it lends.
+class ChaosHost : public HostObject
 {
 public:
+    HostBooks Books;
     Decisions Choices;
     std::string File; // what LocateFile finds
 
     HostScript* GetCurrentScript() override { return nullptr; }
     void AddCommand(const char*, CommandHandler, int, int) override { }
     void RemoveCommand(const char*) override { }
-    int ExecuteCommand(const char*) override { return -1; }
+    int ExecuteCommand(const char*) override;
     int DataParse(const char* text, char* output, u32 size) override;
     void AddTopLevelObject(const char*, TopLevelObjectHandler) override { }
     void RemoveTopLevelObject(const char*) override { }
@@ -39,19 +56,19 @@ public:
     void InvalidateTransientObject(u32, void*) override { }
     u32 RegisterTransientClass(const char*) override { return 1; }
     const char* CompleteCommandLine(const char*, bool) override { return nullptr; }
-    bool Calculate(const char*, double&) override { return false; }
+    bool Calculate(const char*, double& result) override;
     void PrintLine(const char* format, ...) override;
     HostScriptInterface* GetScriptInterface() override { return nullptr; }
     u32 CompileAtom(const char*, u32) override;
-    void ReleaseAtom(u32 atom) override;
+    void ReleaseAtom(u32 atom) override { Books.TakeBack("atom", atom); }
     int ExecuteAtomForText(u32, int, char**, _MvTypeVar*, u32, char*, u32) override { return 0; }
-    int ExecuteAtom(u32, u32, int, char**, _MvTypeVar* self) override;
+    int ExecuteAtom(u32 atom, u32, int, char**, _MvTypeVar* self) override;
     u32 FindAtom(const char*) override { return 0; }
-    u32 PreParseSequence(const char*, u32) override { return Id(); }
+    u32 PreParseSequence(const char*, u32) override { return Lend("sequence"); }
     bool RetrieveOriginalText(u32, char*, u32) override { return false; }
-    bool RetrieveProcessedText(u32, char* buffer, u32 size) override;
+    bool RetrieveProcessedText(u32 sequence, char* buffer, u32 size) override;
     bool RetrieveProcessedResult(u32, _MvTypeVar&) override { return false; }
-    void FreeSequence(u32) override { }
+    void FreeSequence(u32 sequence) override;
     u32 RegisterObjectClass(const char*) override { return 1; }
     void InvalidateObject(u32, void*) override { }
     void SetTypeObjectClass(MvTypeDefinition*, u32) override { }
@@ -62,33 +79,37 @@ public:
     void LoadElementPosition(TeskElement* element) override;
     bool GetKeyName(u32, char* buffer, u32 size) override;
     void GetOutputConsole(char*, u32) override { }
-    void SetOutputConsole(const char*) override { }
+    void SetOutputConsole(const char*) override;
 
     void DrawRect(const tagRECT&, u32) override { }
     bool DrawTexturedRect(const TeskDrawRecord&) override { return true; }
     bool DrawTexturedRects(u32 count, const TeskDrawRecord* records) override;
     bool DrawLine(const TeskDrawRecord&, u32) override { return true; }
-    u32 CreateFontResource(const char*, u8, bool, bool) override { return Id(); }
-    void ReleaseFontResource(u32 font) override { Release(font); }
+    u32 CreateFontResource(const char*, u8, bool, bool) override { return Lend("font"); }
+    void ReleaseFontResource(u32 font) override { Books.TakeBack("font", font); }
     u32 DrawText(u32, const char* text, const tagRECT&, u32, u32) override;
     void MeasureText(u32, const char* text, int& width) override;
     bool GetGlyphMetrics(u32, u32, u32, float* before, float* glyph, float* after) override;
     bool GetDisplaySize(int& width, int& height) override;
-    u32 LoadTextureResource(const char*, u32) override { return Id(); }
+    u32 LoadTextureResource(const char*, u32) override { return Lend("texture"); }
     bool GetTextureResourceSize(u32, _Point2i& size) override;
-    void ReleaseTextureResource(u32 texture) override { Release(texture); }
+    void ReleaseTextureResource(u32 texture) override { Books.TakeBack("texture", texture); }
 
-    // Fonts, textures and atoms that were made and not given back.
-    int LiveResources() const { return m_LiveResources; }
+protected:
+    // Whether the operation that is being called fails this time.
+    virtual bool Refuses();
+
+    // A script runs, of that element if it is not null.
+    virtual void CalledOut(CallOut place, TeskElement* self);
+
+    void DoHarm(u8 act, TeskElement& self, u8 argument);
+
+    // A new number; 0 if the host refuses.
+    u32 Lend(const char* sort);
 
 private:
-    u32 Id();
-    void Release(u32 id);
-    void DoHarm(TeskElement* self);
-
     u32 m_LastID = 0;
-    int m_LiveResources = 0;
-    int m_HarmDepth = 0;
+    u32 m_HarmDepth = 0;
 };
 
 // A platform whose clock the fuzzer moves, and that says nothing.

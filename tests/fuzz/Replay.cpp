@@ -20,7 +20,7 @@ int main(int count, char** arguments)
 
         std::printf("%s\n", arguments[index]);
         std::fflush(stdout);
-        const std::vector<char> bytes {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+        const std::vector<char> bytes{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
         LLVMFuzzerTestOneInput(reinterpret_cast<const std::uint8_t*>(bytes.data()), bytes.size());
     }
     return 0;

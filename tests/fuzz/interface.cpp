@@ -4,39 +4,15 @@
 #include "host/probe/TreeChecker.h"
 #include "teskara/core/CUIManager.h"
 #include "tests/fuzz/ChaosHost.h"
+#include "tests/fuzz/MemoryFile.h"
 
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <optional>
 #include <string>
-#include <sys/mman.h>
-#include <unistd.h>
 
 namespace {
-
-// A file in memory that is written anew for each input.
-class MemoryFile
-{
-public:
-    MemoryFile()
-        : m_File(memfd_create("interface", 0))
-    {
-        if (m_File < 0)
-            std::abort();
-    }
-
-    std::string Path() const { return "/proc/self/fd/" + std::to_string(m_File); }
-
-    void Write(const u8* bytes, std::size_t size) const
-    {
-        if (ftruncate(m_File, 0) != 0 || pwrite(m_File, bytes, size, 0) != static_cast<ssize_t>(size))
-            std::abort();
-    }
-
-private:
-    int m_File;
-};
 
 ChaosHost& StartedHost()
 {
@@ -51,14 +27,18 @@ ChaosHost& StartedHost()
     return *host;
 }
 
-void CheckTree()
+void Require(const std::string& fault)
 {
-    const std::optional<std::string> fault = FindTreeFault();
-    if (!fault)
+    if (fault.empty())
         return;
 
-    std::fprintf(stderr, "%s\n", fault->c_str());
+    std::fprintf(stderr, "%s\n", fault.c_str());
     std::abort();
+}
+
+void CheckTree()
+{
+    Require(FindTreeFault().value_or(""));
 }
 
 void DriveInput(Decisions& choices)
@@ -101,7 +81,6 @@ extern "C" int LLVMFuzzerTestOneInput(const u8* data, std::size_t size)
     g_UIManager.Reset();
     g_UIManager.ClearTemplates();
     CheckTree();
-    if (host.LiveResources() != 0)
-        std::abort();
+    Require(host.Books.Imbalance());
     return 0;
 }

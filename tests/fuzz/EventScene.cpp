@@ -1,0 +1,95 @@
+#include "tests/fuzz/EventScene.h"
+
+#include "teskara/core/CUIManager.h"
+#include "teskara/element/TeskElement.h"
+#include "teskara/element/TeskScreen.h"
+
+#include <set>
+
+namespace {
+
+// What any kind may read; kinds pass over what is not theirs.
+constexpr char Values[] =
+    "<BackgroundColor>ff101010</BackgroundColor><Border>2</Border><BorderColor>ffffffff</BorderColor>"
+    "<Text>a ${x} b</Text><Wrap>1</Wrap><AutoTooltip>${hint}</AutoTooltip><Command>c</Command>"
+    "<CommandChecked>d</CommandChecked><Console>e</Console><Data>${n}</Data><Group>g</Group>"
+    "<StorePosition>1</StorePosition><FadeDuration>40</FadeDuration><FadeAlpha>0.5</FadeAlpha>";
+
+std::string Tag(const char* name, const std::string& value)
+{
+    return std::string("<") + name + ">" + value + "</" + name + ">";
+}
+
+std::string Place(int x, int y, int width, int height)
+{
+    return Tag("X", std::to_string(x)) + Tag("Y", std::to_string(y)) + Tag("Width", std::to_string(width))
+        + Tag("Height", std::to_string(height));
+}
+
+std::string TemplateMarkup()
+{
+    std::string events;
+    int number = 0;
+    for (const char* event : EventNames)
+        events += Tag(event, std::to_string(number++));
+    return std::string("<Template name='all'>") + Values + events + "</Template>";
+}
+
+// Bits of the seed make some of the elements hidden, thin, textured, fading or always on top.
+std::string Variation(u8 bits)
+{
+    std::string text;
+    if (bits % 8 == 3)
+        text += Tag("Visible", "0");
+    if (bits % 4 == 1)
+        text += "<Texture Filename='#camera'/><TexturePressed Filename='#fill'/>";
+    if (bits % 5 == 2)
+        text += Tag("FadeDelay", "30");
+    if (bits % 7 == 4)
+        text += Tag("AlwaysOnTop", "1");
+    if (bits % 3 == 2)
+        text += Tag("UpdateInterval", "2");
+    return text;
+}
+
+std::string ElementMarkup(const std::string& kind, const std::string& name, const std::string& inside)
+{
+    return "<" + kind + " name='" + name + "' Template='all'>" + inside + "</" + kind + ">";
+}
+
+// The kinds of which elements can be made, in the order of their names.
+std::set<std::string> StandingKinds()
+{
+    std::set<std::string> kinds;
+    for (const auto& [name, factory] : g_UIManager.Factories) {
+        const std::string kind(name.Text());
+        TeskElement* element = g_UIManager.LoadElement(g_UIManager.Screen, kind.c_str(), "trial");
+        if (!element)
+            continue;
+        kinds.insert(kind);
+        g_UIManager.Screen->DeleteChild(element);
+    }
+    return kinds;
+}
+
+} // namespace
+
+std::string EventSceneMarkup(u8 seed)
+{
+    static const std::set<std::string> kinds = StandingKinds();
+    std::string outer;
+    std::string inner;
+    int count = 0;
+    for (const std::string& kind : kinds) {
+        const u8 bits = static_cast<u8>(seed * (2 * count + 1));
+        const std::string place = Place(count % 8 * 90 + 5, count / 8 * 90 + 5, 80, 80);
+        const std::string child = ElementMarkup("frame", "in", Place(10, 10, 30, 30) + Variation(bits));
+        outer += ElementMarkup(kind, kind, place + Variation(bits) + "<Children>" + child + "</Children>");
+        if ((bits >> 4) % 4 == 0)
+            inner += ElementMarkup(kind, kind, place + Variation(static_cast<u8>(bits / 3)));
+        ++count;
+    }
+    return "<Tesk><Skin name='a'><SkinTemplate Base='frame' Skin='all'/></Skin>" + TemplateMarkup() + outer
+        + ElementMarkup("frame", "box", Place(0, 200, 800, 400) + "<Children>" + inner + "</Children>")
+        + "<tooltip name='Auto Tooltip'/></Tesk>";
+}
