@@ -79,12 +79,12 @@ protected:
     }
 
     // True if the place was reached. The act runs there, and the scene is whole afterwards.
-    bool TryCell(const Place& place, const std::string& actName, std::function<void()> act)
+    bool TryCell(const Place& place, Bomb::Fuse fuse, const std::string& actName, std::function<void()> act)
     {
         const CellWatch watch(std::string(GetParam().Name) + ", " + place.Name + " by " + place.Way + ", " + actName);
         const testing::ScopedTrace trace(__FILE__, __LINE__, CellWatch::Cell());
         BuildScene();
-        g_Bomb.Arm(place.Name, std::move(act));
+        g_Bomb.Arm(place.Name, fuse, std::move(act));
         place.Drive();
         const bool reached = g_Bomb.WentOff();
         EXPECT_EQ(std::nullopt, FindTreeFault());
@@ -96,12 +96,13 @@ protected:
     }
 
     // A cell whose place is not reached says nothing, so the table is wrong there.
-    void RunPlace(const Place& place)
+    void RunPlace(const Place& place, Bomb::Fuse fuse)
     {
         for (const Act& act : AllActs())
-            ASSERT_TRUE(TryCell(place, act.Name, act.Run)) << place.Name << " by " << place.Way;
+            ASSERT_TRUE(TryCell(place, fuse, act.Name, act.Run)) << place.Name << " by " << place.Way;
         for (const ScriptAct& act : AllScriptActs())
-            ASSERT_TRUE(TryCell(place, act.Method, [&act] { Perform(act); })) << place.Name << " by " << place.Way;
+            ASSERT_TRUE(TryCell(place, fuse, act.Method, [&act] { Perform(act); }))
+                << place.Name << " by " << place.Way;
     }
 
     void ExpectNothingLeft()
@@ -115,7 +116,7 @@ protected:
         const CellWatch watch(std::string(GetParam().Name) + ", " + place.Name + " by " + place.Way + ", shutdown");
         const testing::ScopedTrace trace(__FILE__, __LINE__, CellWatch::Cell());
         BuildScene();
-        g_Bomb.Arm(place.Name, [] { g_UIManager.Shutdown(); });
+        g_Bomb.Arm(place.Name, Bomb::Fuse::Once, [] { g_UIManager.Shutdown(); });
         place.Drive();
         EXPECT_TRUE(g_Bomb.WentOff());
         GoOn();
@@ -149,8 +150,10 @@ std::string KindName(const testing::TestParamInfo<Kind>& info)
 TEST_P(ReentrancyMatrix, EveryActIsSurvivedAtEveryPlace)
 {
     for (const Place& place : AllPlaces()) {
-        if (Reaches(GetParam(), place))
-            RunPlace(place);
+        if (!Reaches(GetParam(), place))
+            continue;
+        RunPlace(place, Bomb::Fuse::Once);
+        RunPlace(place, Bomb::Fuse::EachTime);
     }
 }
 
@@ -159,7 +162,7 @@ TEST_P(ReentrancyMatrix, OtherPlacesAreNotReached)
     for (const Place& place : AllPlaces()) {
         if (Reaches(GetParam(), place))
             continue;
-        EXPECT_FALSE(TryCell(place, "nothing", [] {})) << place.Name << " by " << place.Way;
+        EXPECT_FALSE(TryCell(place, Bomb::Fuse::Once, "nothing", [] {})) << place.Name << " by " << place.Way;
     }
 }
 
