@@ -148,6 +148,9 @@ TeskElement* CUIManager::FindElement(const char* name)
 
 TeskElement* CUIManager::FindElementByID(u32 id) const
 {
+    if (id == 0)
+        return nullptr;
+
     const auto entry = ElementsByID.find(id);
     return entry == ElementsByID.end() ? nullptr : entry->second;
 }

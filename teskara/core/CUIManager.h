@@ -9,6 +9,7 @@
 #include <unordered_map>
 #include <vector>
 
+class ElementWatch;
 class HostObject;
 class TeskElement;
 class TeskElementFactory;
@@ -236,7 +237,7 @@ private:
     void DestroyScreen();
     void CreateScreen();
     bool ExitFocus(TeskElement& element, TeskElement* next);
-    TeskElement* EnterMouseOver(u32 id);
+    TeskElement* EnterMouseOver(const ElementWatch& watch);
 
     // Input routing
     static MouseButton LeftButton();
@@ -247,7 +248,7 @@ private:
     bool IsDoubleClick(const MouseButton& button, u32 id) const;
     void AcceptPress(const MouseButton& button, u32 id);
     bool ReleaseButton(const MouseButton& button);
-    TeskElement* ElementBelow(u32 candidateID);
+    TeskElement* ElementBelow(TeskElement& candidate);
     void SetModifier(u32 key, bool down);
     void SetKeyFlags(u32 key, u32 flags);
     u32 GetKeyFlags(u32 key) const;

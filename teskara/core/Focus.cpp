@@ -111,7 +111,7 @@ try {
     if (TeskElement* capture = FindElementByID(MouseCaptureElementID)) {
         if (TeskElement* found = capture->FindMouseOver(MousePosition, nullptr)) {
             MouseOverElementID = found->ID;
-            return EnterMouseOver(found->ID);
+            return EnterMouseOver(ElementWatch(*found));
         }
     }
 
@@ -126,25 +126,26 @@ try {
         return nullptr;
     }
 
-    const u32 id = found->ID;
-    MouseOverElementID = id;
+    MouseOverElementID = found->ID;
     if (found == old)
         return found;
 
+    const ElementWatch watch(*found);
     if (old)
         old->OnMouseExit(found);
-    return EnterMouseOver(id);
+    return EnterMouseOver(watch);
 } catch (...) {
     return nullptr;
 }
 
-TeskElement* CUIManager::EnterMouseOver(u32 id)
+// Null: the element died, by this or before.
+TeskElement* CUIManager::EnterMouseOver(const ElementWatch& watch)
 {
     MouseEnterTick = CurrentPlatform().GetTickCount();
     TooltipElementID = 0;
-    if (TeskElement* element = FindElementByID(id)) {
+    if (TeskElement* element = watch.Get()) {
         _Point2i point = MousePosition;
         element->OnMouseEnter(point);
     }
-    return FindElementByID(id);
+    return watch.Get();
 }

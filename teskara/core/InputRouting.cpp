@@ -70,15 +70,11 @@ CUIManager::MouseButton CUIManager::RightButton()
         &TeskElement::OnRMouseUp, &TeskElement::OnRMouseDoubleClick, false};
 }
 
-// What lies under a candidate that refused an event; null if it died of it.
-TeskElement* CUIManager::ElementBelow(u32 candidateID)
+// What lies under a candidate that refused an event.
+TeskElement* CUIManager::ElementBelow(TeskElement& candidate)
 {
-    TeskElement* candidate = FindElementByID(candidateID);
-    if (!candidate || !candidate->Parent)
-        return nullptr;
-
     _Point2i point = MousePosition;
-    return candidate->Parent->FindMouseOver(point, candidate);
+    return candidate.Parent ? candidate.Parent->FindMouseOver(point, &candidate) : nullptr;
 }
 
 // Offers an event to the element under the mouse and then to what lies below it, until one takes it. offer gets the
@@ -87,10 +83,10 @@ TeskElement* CUIManager::ElementBelow(u32 candidateID)
 template <class Offer> bool CUIManager::OfferDown(TeskElement* candidate, Offer&& offer)
 {
     for (std::size_t steps = ElementsByID.size(); candidate && steps > 0; --steps) {
-        const u32 id = candidate->ID;
+        const ElementWatch watch(*candidate);
         if (offer(*candidate))
             return true;
-        candidate = ElementBelow(id);
+        candidate = watch.Exists() ? ElementBelow(*candidate) : nullptr;
     }
     return false;
 }
