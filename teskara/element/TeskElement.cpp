@@ -6,6 +6,7 @@
 #include "teskara/core/HostCalls.h"
 #include "teskara/core/Limits.h"
 #include "teskara/core/platform/Platform.h"
+#include "teskara/element/ChildIndex.h"
 #include "teskara/element/ElementWatch.h"
 #include "teskara/element/TeskElementFactory.h"
 #include "teskara/script/TypeGlobals.h"
@@ -26,7 +27,7 @@ bool HasName(const TeskElement& element, const utf8string& name)
 } // namespace
 
 TeskElement::TeskElement(const char* type, TeskElement* parent, const char* name)
-    : Type(TextOrEmpty(type)), Name(TextOrEmpty(name)), Parent(parent), FadeStart(g_UIManager.FrameTick)
+    : Parent(parent), Type(TextOrEmpty(type)), Name(TextOrEmpty(name)), FadeStart(g_UIManager.FrameTick)
 {
     BuildFullName();
     FoldAscii(Name);
@@ -78,6 +79,7 @@ void TeskElement::BuildFullName()
 
 void TeskElement::AddChild(TeskElement* child)
 {
+    ChildrenChange(m_ChildCount + 1);
     child->Previous = LastChild;
     if (LastChild)
         LastChild->Next = child;
@@ -137,8 +139,17 @@ bool TeskElement::IsLinked() const
     return Parent && (Previous || Next || Parent->FirstChild == this);
 }
 
+// The list of children is about to become another one, of so many.
+void TeskElement::ChildrenChange(u32 count)
+{
+    m_ChildCount = count;
+    if (m_ChildIndex)
+        m_ChildIndex->Forget();
+}
+
 void TeskElement::Unlink()
 {
+    Parent->ChildrenChange(Parent->m_ChildCount - 1);
     (Previous ? Previous->Next : Parent->FirstChild) = Next;
     (Next ? Next->Previous : Parent->LastChild) = Previous;
     Previous = nullptr;
@@ -149,6 +160,7 @@ void TeskElement::Unlink()
 void TeskElement::LinkAfter(TeskElement* sibling)
 {
     ++s_Relinks;
+    Parent->ChildrenChange(Parent->m_ChildCount + 1);
     Previous = sibling;
     Next = sibling ? sibling->Next : Parent->FirstChild;
     (Previous ? Previous->Next : Parent->FirstChild) = this;

@@ -1,13 +1,16 @@
 #pragma once
 
 #include "teskara/core/Export.h"
+#include "teskara/core/Numbers.h"
 #include "teskara/core/Types.h"
 #include "teskara/core/utf8string.h"
 #include "teskara/element/TeskEmbeddedScript.h"
 #include "teskara/markup/ElementPosition.h"
 
 #include <memory>
+#include <span>
 
+class ChildIndex;
 class MvTypeDefinition;
 class TeskFixedFont;
 class TeskFont;
@@ -186,7 +189,8 @@ public:
     virtual bool SetMouseOver();
 
     // The topmost visible element under the point, this one or one below it in the tree. With skip, only what lies
-    // underneath that child.
+    // underneath that child. The base asks its children from the top, and spares the question where a child that is
+    // found as the base finds it is hidden or lies elsewhere.
     virtual TeskElement* FindMouseOver(_Point2i& point, TeskElement* skip);
 
     // --- Order among the siblings; higher strata stay above lower ones
@@ -222,6 +226,13 @@ public:
     bool IsFocus() const;
     bool IsMouseOver() const;
     bool IsReallyVisible() const; // with all its ancestors
+
+    // Whether a point lies in the element's rectangle. Both far edges count as inside.
+    bool Covers(const _Point2i& point) const
+    {
+        return point.x >= AbsoluteX && point.y >= AbsoluteY && point.x <= WrapAdd(AbsoluteX, Width)
+            && point.y <= WrapAdd(AbsoluteY, Height);
+    }
     bool IsGoing() const { return Stage != LifeStage::Alive; }
 
     // Sends a notification to the parent, if there is one.
@@ -283,12 +294,15 @@ public:
     bool TextureFromArgs(int argc, char** argv, TeskTexture** texture);
     bool TextureFromArgs(int argc, char** argv, std::unique_ptr<TeskTexture>& texture);
 
-    // --- Identity
+    // --- What a search under the mouse reads of each element that it passes; first, so that it shares a cache line
 
-    utf8string Type; // kind word
-    u32 ID = 0; // never used twice
-    utf8string Name; // lower case
-    utf8string FullName; // name@parent@..., in the case it was given
+    i32 AbsoluteX = 0; // of this frame
+    i32 AbsoluteY = 0; // of this frame
+    u32 Width = 0;
+    u32 Height = 0;
+    bool Visible = true;
+    bool FoundInsideOnly = false; // FindMouseOver finds nothing for points beyond the rectangle; set by the factory
+    u32 Place = 0; // in the parent's ChildIndex
 
     // --- Family; pointers belong to the tree
 
@@ -298,17 +312,22 @@ public:
     TeskElement* FirstChild = nullptr;
     TeskElement* LastChild = nullptr;
 
+    // --- Identity
+
+    utf8string Type; // kind word
+    u32 ID = 0; // never used twice
+    utf8string Name; // lower case
+    utf8string FullName; // name@parent@..., in the case it was given
+
     ElementEvents Events;
 
-    // --- Geometry
+    // --- Geometry, the dimensions apart
 
     i32 X = 0;
     ElementPosition PositionX;
     i32 Y = 0;
     ElementPosition PositionY;
-    u32 Height = 0;
     ElementPosition PositionHeight;
-    u32 Width = 0;
     ElementPosition PositionWidth;
 
     // What markup said, to go back to.
@@ -324,7 +343,6 @@ public:
     // --- Looks
 
     bool StorePosition = false;
-    bool Visible = true;
     i8 Strata = 0;
     bool LeftClickThru = false;
     bool RightClickThru = false;
@@ -338,8 +356,6 @@ public:
     u32 FadeState = FadeDelaying;
     std::unique_ptr<utf8string> AutoTooltip;
     float AbsoluteAlpha = 1.0f; // of this frame, the parents' applied
-    i32 AbsoluteX = 0; // of this frame
-    i32 AbsoluteY = 0;
 
 private:
     friend class TeskElementDeleter;
@@ -354,9 +370,16 @@ private:
     static void HideAutoTooltip();
     void KeepStart();
     void UpdateAutoFade();
+    void ChildrenChange(u32 count);
+    std::span<TeskElement* const> ChildrenUpTo(const TeskElement& child);
+    TeskElement* CandidateFrom(TeskElement* child, const _Point2i& point);
+    bool MayBeFoundAt(const _Point2i& point) const { return !FoundInsideOnly || (Visible && Covers(point)); }
     bool RenderChild(TeskElement& child);
     bool IsOffScreen(const tagRECT& rect) const;
     bool DescribeTexture(TeskDrawRecord& record, const TeskTexture* texture) const;
+
+    u32 m_ChildCount = 0;
+    std::unique_ptr<ChildIndex> m_ChildIndex; // null until it is wanted
 
     static u32 s_Relinks; // how often any element has moved among its siblings
 };

@@ -5,6 +5,7 @@
 #include "teskara/core/Types.h"
 #include "teskara/core/utf8string.h"
 
+#include <concepts>
 #include <new>
 #include <unordered_set>
 
@@ -74,6 +75,11 @@ private:
     std::unique_ptr<utf8string> m_Name;
 };
 
+// An element class that searches under the mouse just as its base does.
+template <class T>
+concept SearchesAsTheBase =
+    std::same_as<decltype(&T::FindMouseOver), TeskElement* (TeskElement::*)(_Point2i&, TeskElement*)>;
+
 // The factory of one element class, which is made from (kind word, parent, name).
 template <class T> class TeskFactory : public TeskElementFactory
 {
@@ -95,7 +101,9 @@ private:
             return nullptr;
 
         try {
-            return new T(GetName(), parent, name);
+            T* element = new T(GetName(), parent, name);
+            element->FoundInsideOnly = SearchesAsTheBase<T>;
+            return element;
         } catch (...) {
             return nullptr;
         }

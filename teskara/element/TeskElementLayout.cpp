@@ -1,11 +1,7 @@
-#include "teskara/core/AsciiCase.h"
-#include "teskara/core/CUIManager.h"
 #include "teskara/core/Numbers.h"
 #include "teskara/element/ChildWalkBound.h"
 #include "teskara/element/ElementWatch.h"
 #include "teskara/element/TeskElement.h"
-
-#include <cmath>
 
 namespace {
 
@@ -45,14 +41,6 @@ bool FollowDimension(u32& value, const ElementPosition& position, u32 parentDime
     const u32 old = value;
     value = Resolve(value, position, parentDimension, TruncateDimension);
     return value != old;
-}
-
-// Distance of a point from an element's centre, in single precision.
-float CenterDistance(const TeskElement& element, const _Point2i& point)
-{
-    const float dx = static_cast<float>(WrapSub(WrapAdd(element.Width >> 1, element.AbsoluteX), point.x));
-    const float dy = static_cast<float>(WrapSub(WrapAdd(element.Height >> 1, element.AbsoluteY), point.y));
-    return std::sqrt(dy * dy + dx * dx);
 }
 
 } // namespace
@@ -99,36 +87,6 @@ void TeskElement::Center()
 
     X = static_cast<i32>((Parent->Width - Width) >> 1);
     Y = static_cast<i32>((Parent->Height - Height) >> 1);
-}
-
-// Both far edges count as inside. A circle has the whole width or height as its radius, so only its far corners are
-// cut.
-bool TeskElement::HitTest(_Point2i& point)
-{
-    if (point.x < AbsoluteX || point.y < AbsoluteY || point.x > WrapAdd(AbsoluteX, Width)
-        || point.y > WrapAdd(AbsoluteY, Height))
-        return false;
-
-    const char* shape = g_UIManager.GetElementMetadata(ID, "HitTest");
-    if (!shape || !*shape)
-        return true;
-    if (EqualsNoCase(shape, "widthCircle"))
-        return static_cast<double>(CenterDistance(*this, point)) <= static_cast<double>(Width);
-    if (EqualsNoCase(shape, "heightCircle"))
-        return static_cast<double>(CenterDistance(*this, point)) <= static_cast<double>(Height);
-    return true;
-}
-
-TeskElement* TeskElement::FindMouseOver(_Point2i& point, TeskElement* skip)
-{
-    if (skip == this || !Visible || !HitTest(point))
-        return nullptr;
-
-    for (TeskElement* child = skip ? skip->Previous : LastChild; child; child = child->Previous) {
-        if (TeskElement* found = child->FindMouseOver(point, nullptr))
-            return found;
-    }
-    return this;
 }
 
 tagRECT TeskElement::ScreenRect() const
