@@ -277,4 +277,15 @@ const char* GetUserInput(const HostScript& script) noexcept
     return Call<const char*>(nullptr, [&](HostObject&) { return script.GetUserInput(); });
 }
 
+bool ParseTypedValue(const char* text, _MvTypeVar& result) noexcept
+{
+    constexpr u32 flag = 0;
+    return CallScripts(false, [&](HostScriptInterface& host) { return host.ParseTypedValue(text, result, flag); });
+}
+
+char* MakeTempBuffer(std::size_t size, const char* text) noexcept
+{
+    return CallScripts<char*>(nullptr, [&](HostScriptInterface& host) { return host.MakeTempBuffer(size, text); });
+}
+
 } // namespace Host

@@ -153,4 +153,10 @@ const char* GetScriptName(const HostScript& script) noexcept; // never null
 bool IsInsideAtom(const HostScript& script) noexcept;
 const char* GetUserInput(const HostScript& script) noexcept; // null: no answer
 
+// --- Values
+
+// What a script would call a reference. May run scripts. False: there is no value.
+bool ParseTypedValue(const char* text, _MvTypeVar& result) noexcept;
+char* MakeTempBuffer(std::size_t size, const char* text) noexcept;
+
 } // namespace Host

@@ -62,9 +62,9 @@ template <auto Target> struct FlagSetter {
     }
 };
 
-// Without an argument the text becomes empty.
-template <auto Target> struct TextSetter {
-    static constexpr int Needs = 0;
+// If no argument is needed, the text becomes empty without one.
+template <auto Target, int Needed> struct TextSetter {
+    static constexpr int Needs = Needed;
     template <class Owner> static bool Act(Owner& owner, const Arguments& arguments)
     {
         Give<Target>(owner, arguments.Text(0));
@@ -117,7 +117,7 @@ template <auto Target> inline constexpr IntegerSetter<Target> SetInteger;
 template <auto Target> inline constexpr FloatSetter<Target> SetFloat;
 template <auto Field> inline constexpr ColorSetter<Field> SetColor;
 template <auto Target> inline constexpr FlagSetter<Target> SetFlag;
-template <auto Target> inline constexpr TextSetter<Target> SetText;
+template <auto Target, int Needs = 0> inline constexpr TextSetter<Target, Needs> SetText;
 template <auto Field> inline constexpr SequenceSetter<Field> SetSequence;
 template <auto Field> inline constexpr TextureSetter<Field> SetTexture;
 template <auto Target, auto Value> inline constexpr ConstantSetter<Target, Value> SetTo;

@@ -11,6 +11,7 @@
 #include <functional>
 #include <memory>
 #include <type_traits>
+#include <utility>
 
 // What stands for the members in a script type's table. Each takes where the value comes from: a field, an operation,
 // or a function of the object, or of the object and the arguments.
@@ -19,7 +20,7 @@
 //     {13, "MouseOver", Script::Bool<&TeskElement::IsMouseOver>},
 //     {28, "FindChild", Script::Element<FindChild>, 1},
 //
-// A null text or object is no value, and neither is one of a type that the host does not have.
+// A null text or object is no value, nor is an empty std::optional or one of a type that the host does not have.
 namespace Script {
 
 // The kinds of value. Put writes one into the 16 bytes and returns its type; null: there is no value.
@@ -114,7 +115,7 @@ template <class Value, auto Source> struct ResultOf {
 
     template <class Owner> static bool Answer(Owner& owner, const Arguments& arguments, _MvTypeVar& result)
     {
-        MvTypeDefinition* type = Value::Put(result.Value, Read(owner, arguments));
+        MvTypeDefinition* type = Put(result.Value, Read(owner, arguments));
         if (!type)
             return false;
 
@@ -123,6 +124,14 @@ template <class Value, auto Source> struct ResultOf {
     }
 
 private:
+    template <class Found> static MvTypeDefinition* Put(MvValue& value, Found&& found)
+    {
+        if constexpr (requires { found.has_value(); })
+            return found ? Value::Put(value, *found) : nullptr;
+        else
+            return Value::Put(value, std::forward<Found>(found));
+    }
+
     template <class Owner> static decltype(auto) Read(Owner& owner, const Arguments& arguments)
     {
         if constexpr (std::is_invocable_v<decltype(Source), Owner&, const Arguments&>)

@@ -4,9 +4,9 @@
 #include "teskara/script/Arguments.h"
 #include "teskara/script/MvTypeVar.h"
 
-#include <concepts>
 #include <cstddef>
 #include <string_view>
+#include <type_traits>
 
 // What a script type answers, as constant tables in the order of the ids. A new type is a class with two of them:
 //
@@ -35,44 +35,24 @@ struct ScriptRow {
     int Needs; // with fewer arguments than these nothing is answered
 };
 
-// What stands in a row for a member: how it answers, and the type of the value.
-template <class Form, class Owner>
-concept ScriptResult = requires(Owner& owner, const Arguments& arguments, _MvTypeVar& result)
-{
-    {
-        Form::Result
-        } -> std::convertible_to<const char*>;
-    {
-        Form::Answer(owner, arguments, result)
-        } -> std::same_as<bool>;
-};
-
-// What may stand in a row for a method, in place of a function: what it does, and how many arguments it needs.
-template <class Form, class Owner>
-concept ScriptAction = requires(Owner& owner, const Arguments& arguments)
-{
-    {
-        Form::Needs
-        } -> std::convertible_to<int>;
-    {
-        Form::Act(owner, arguments)
-        } -> std::same_as<bool>;
-};
-
-// False: there is no value, and the result has no type.
+// A member. False: there is no value, and the result has no type.
 template <class Owner> struct ScriptMember : ScriptRow {
     using Function = bool (*)(Owner& owner, const Arguments& arguments, _MvTypeVar& result);
 
-    template <ScriptResult<Owner> Form>
+    // Form: one of ScriptResults.h, or of its shape.
+    template <class Form>
     constexpr ScriptMember(u32 id, const char* name, Form, int needs = 0)
-        : ScriptRow{id, name, Form::Result, needs}, Answer(&Form::template Answer<Owner>)
+        : ScriptRow{id, name, Form::Result, needs},
+          Answer([](Owner& owner, const Arguments& arguments, _MvTypeVar& result) {
+              return Form::Answer(owner, arguments, result);
+          })
     {
     }
 
     Function Answer;
 };
 
-// False: nothing was done. Afterwards the owner may be gone.
+// A method. False: nothing was done. Afterwards the owner may be gone.
 template <class Owner> struct ScriptMethod : ScriptRow {
     using Function = bool (*)(Owner& owner, const Arguments& arguments);
 
@@ -81,9 +61,12 @@ template <class Owner> struct ScriptMethod : ScriptRow {
     {
     }
 
-    template <ScriptAction<Owner> Form>
+    // Form: one of ScriptActions.h. It tells how many arguments it needs.
+    template <class Form>
+    requires std::is_class_v<Form>
     constexpr ScriptMethod(u32 id, const char* name, Form)
-        : ScriptRow{id, name, nullptr, Form::Needs}, Act(&Form::template Act<Owner>)
+        : ScriptRow{id, name, nullptr, Form::Needs},
+          Act([](Owner& owner, const Arguments& arguments) { return Form::Act(owner, arguments); })
     {
     }
 

@@ -4,10 +4,15 @@
 #include "teskara/core/HostCalls.h"
 #include "teskara/script/TeskButtonType.h"
 #include "teskara/script/TeskCheckBoxType.h"
+#include "teskara/script/TeskElementType.h"
+#include "teskara/script/TeskFontType.h"
 #include "teskara/script/TeskFrameType.h"
 #include "teskara/script/TeskHudElementType.h"
+#include "teskara/script/TeskMessageBoxType.h"
 #include "teskara/script/TeskTextType.h"
+#include "teskara/script/TeskTextureType.h"
 #include "teskara/script/TeskTooltipType.h"
+#include "teskara/script/TeskaraType.h"
 #include "teskara/script/ToolkitType.h"
 #include "teskara/script/TypeGlobals.h"
 
@@ -68,15 +73,6 @@ std::unique_ptr<MvTypeDefinition> Nameless(const char* name)
     return std::make_unique<ToolkitType>(name);
 }
 
-// Its one member is known and never has a value.
-std::unique_ptr<MvTypeDefinition> MessageBox(const char* name)
-{
-    auto type = std::make_unique<ToolkitType>(name);
-    if (!type->AddMember(0, "Type", nullptr))
-        throw std::bad_alloc();
-    return type;
-}
-
 struct HostTypeRow {
     const char* Name;
     MvTypeDefinition** Type;
@@ -102,8 +98,8 @@ struct TypeRow {
 
 // In the order in which hosts see them come and go. The bases are what scripts see; they are not those of the classes.
 constexpr TypeRow Types[] = {
-    {"teskara", &pTeskaraType, nullptr, Nameless},
-    {"teskelement", &pTeskElementType, nullptr, Nameless},
+    {"teskara", &pTeskaraType, nullptr, Make<TeskaraType>},
+    {"teskelement", &pTeskElementType, nullptr, Make<TeskElementType>},
     {"teskframe", &pTeskFrameType, &pTeskElementType, Make<TeskFrameType>},
     {"tesklistboxitem", &pTeskListBoxItemType, nullptr, Nameless},
     {"tesklistbox", &pTeskListBoxType, &pTeskElementType, Nameless},
@@ -111,12 +107,12 @@ constexpr TypeRow Types[] = {
     {"teskcheckbox", &pTeskCheckBoxType, &pTeskElementType, Make<TeskCheckBoxType>},
     {"teskcombobox", &pTeskComboBoxType, &pTeskListBoxType, Nameless},
     {"teskconsole", &pTeskConsoleType, &pTeskFrameType, Nameless},
-    {"teskfont", &pTeskFontType, nullptr, Nameless},
+    {"teskfont", &pTeskFontType, nullptr, Make<TeskFontType>},
     {"teskgauge", &pTeskGaugeType, &pTeskFrameType, Nameless},
     {"teskhudelement", &pTeskHudElementType, &pTeskElementType, Make<TeskHudElementType>},
     {"teskmapblip", &pTeskMapBlipType, &pTeskFrameType, Nameless},
     {"teskmap", &pTeskMapType, &pTeskElementType, Nameless},
-    {"teskmessagebox", &pTeskMessageBoxType, &pTeskElementType, MessageBox},
+    {"teskmessagebox", &pTeskMessageBoxType, &pTeskElementType, Make<TeskMessageBoxType>},
     {"teskscrollbar", &pTeskScrollBarType, &pTeskElementType, Nameless},
     {"teskslider", &pTeskSliderType, &pTeskElementType, Nameless},
     {"tesktab", &pTeskTabType, &pTeskFrameType, Nameless},
@@ -124,7 +120,7 @@ constexpr TypeRow Types[] = {
     {"tesktext", &pTeskTextType, &pTeskElementType, Make<TeskTextType>},
     {"tesktextedit", &pTeskTextEditType, &pTeskElementType, Nameless},
     {"tesktextentry", &pTeskTextEntryType, &pTeskElementType, Nameless},
-    {"tesktexture", &pTeskTextureType, nullptr, Nameless},
+    {"tesktexture", &pTeskTextureType, nullptr, Make<TeskTextureType>},
     {"tesktooltip", &pTeskTooltipType, &pTeskFrameType, Make<TeskTooltipType>},
     {"tesktreenode", &pTeskTreeNodeType, nullptr, Nameless},
     {"tesktree", &pTeskTreeType, &pTeskFrameType, Nameless},

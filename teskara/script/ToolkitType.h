@@ -8,7 +8,7 @@ struct ScriptRow;
 
 // A script type of the toolkit. What it has no name for goes to its base, on the same value. Its values stand for
 // objects of the toolkit's and cannot be made from text.
-class ToolkitType : public MvTypeDefinition
+class TESKARA_EXPORT ToolkitType : public MvTypeDefinition
 {
 public:
     using MvTypeDefinition::MvTypeDefinition;

@@ -36,12 +36,15 @@ class ScriptHost : public TestHost
 {
 public:
     HostScript* GetCurrentScript() override { return Script; }
+    HostScriptInterface* GetScriptInterface() override { return Interface; }
     void AddCommand(const char* name, CommandHandler handler, int, int) override { Commands[name] = handler; }
     void RemoveCommand(const char* name) override { Commands.erase(name); }
     void AddTopLevelObject(const char* name, TopLevelObjectHandler handler) override { Objects[name] = handler; }
     void RemoveTopLevelObject(const char* name) override { Objects.erase(name); }
     MvTypeDefinition* FindType(const char* name) override
     {
+        if (OtherTypes.count(name) != 0)
+            return OtherTypes[name];
         return HasTypes ? (HostTypes[name] = std::make_unique<MvTypeDefinition>(name)).get() : nullptr;
     }
     void AddType(MvTypeDefinition* type) override
@@ -90,7 +93,9 @@ public:
 
     bool HasTypes = true;
     HostScript* Script = nullptr;
+    HostScriptInterface* Interface = nullptr;
     std::map<std::string, std::unique_ptr<MvTypeDefinition>> HostTypes;
+    std::map<std::string, MvTypeDefinition*> OtherTypes; // found in place of those
     std::map<std::string, MvTypeDefinition*> Types;
     std::map<std::string, CommandHandler> Commands;
     std::map<std::string, TopLevelObjectHandler> Objects;

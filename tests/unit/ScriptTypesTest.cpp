@@ -180,7 +180,7 @@ TEST(ScriptTypesDeathTest, ATypeMayBeAskedWhenItsBaseHasGone)
 TEST(ScriptTypesDeathTest, ATypeWithoutMemoryIsLeftOutAndTheRestWorks)
 {
     for (const auto failing : {Allocations::Failing::Once, Allocations::Failing::FromThenOn}) {
-        for (std::size_t failure = 0; failure < 200; ++failure) {
+        for (std::size_t failure = 0; failure < 800; ++failure) {
             WithHost([&](ScriptHost& host) {
                 Allocations::FailAfter(failure, failing);
                 g_UIManager.Initialize();
