@@ -16,6 +16,12 @@ int NullHost::DataParse(const char* text, char* output, u32 size)
     return 0;
 }
 
+bool NullHost::RetrieveProcessedText(u32, char* buffer, u32 size)
+{
+    std::snprintf(buffer, size, "value");
+    return true;
+}
+
 // A line means that a benchmark does not measure what it should.
 void NullHost::PrintLine(const char* format, ...)
 {

@@ -3,7 +3,7 @@
 #include "teskara/core/HostInterface.h"
 
 // A host that does nothing: fonts and textures exist, every byte is 6 pixels wide, drawing is counted and thrown away,
-// files are found where their name says, scripts do not compile.
+// files are found where their name says, scripts do not compile, and the value of a sequence that was parsed is a word.
 class NullHost final : public HostObject
 {
 public:
@@ -32,9 +32,9 @@ public:
     int ExecuteAtomForText(u32, int, char**, _MvTypeVar*, u32, char*, u32) override { return 0; }
     int ExecuteAtom(u32, u32, int, char**, _MvTypeVar*) override { return 0; }
     u32 FindAtom(const char*) override { return 0; }
-    u32 PreParseSequence(const char*, u32) override { return 0; }
+    u32 PreParseSequence(const char*, u32) override { return 1; }
     bool RetrieveOriginalText(u32, char*, u32) override { return false; }
-    bool RetrieveProcessedText(u32, char*, u32) override { return false; }
+    bool RetrieveProcessedText(u32, char* buffer, u32 size) override;
     bool RetrieveProcessedResult(u32, _MvTypeVar&) override { return false; }
     void FreeSequence(u32) override { }
     u32 RegisterObjectClass(const char*) override { return 1; }
