@@ -2,7 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdio>
 #include <cstdlib>
+#include <exception>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -13,7 +15,11 @@ template <class Body> void InFreshProcess(Body&& body)
     std::fflush(nullptr);
     const pid_t child = fork();
     if (child == 0) {
-        body();
+        try {
+            body();
+        } catch (const std::exception& exception) {
+            ADD_FAILURE() << exception.what(); // this process must not go on with the other tests
+        }
         std::fflush(nullptr);
         std::exit(testing::Test::HasFailure() ? 1 : 0);
     }
