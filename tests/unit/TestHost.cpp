@@ -122,6 +122,43 @@ void TestHost::FreeSequence(u32 sequence)
     m_Sequences.erase(sequence);
 }
 
+int TestHost::ExecuteCommand(const char* text)
+{
+    Record(RecordCommands, "ExecuteCommand \"%s\"", text);
+    const auto command = Commands.find(text);
+    if (command == Commands.end())
+        return -1;
+
+    command->second();
+    return 0;
+}
+
+bool TestHost::Calculate(const char* text, double& result)
+{
+    Record(RecordSequences, "Calculate \"%s\"", text);
+    const auto value = Values.find(text);
+    const bool hasValue = value != Values.end();
+    if (hasValue)
+        result = value->second;
+    if (OnCalculate)
+        OnCalculate();
+    return hasValue;
+}
+
+void TestHost::GetOutputConsole(char* buffer, u32 size)
+{
+    Record(RecordCommands, "GetOutputConsole size=%u", size);
+    CopyText(Console, buffer, size);
+}
+
+void TestHost::SetOutputConsole(const char* name)
+{
+    Record(RecordCommands, "SetOutputConsole \"%s\"", name);
+    Console = name;
+    if (OnConsole)
+        OnConsole(Console);
+}
+
 void TestHost::PrintLine(const char* format, ...)
 {
     char line[4096];

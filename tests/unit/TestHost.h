@@ -18,6 +18,7 @@ enum : unsigned {
     RecordMeasures = 4,
     RecordSequences = 8,
     RecordScripts = 16,
+    RecordCommands = 32, // and where output goes
 };
 
 // A host that works: every byte of text is 6 pixels wide, fonts and images can be made and count from 1, images are 64 by
@@ -28,7 +29,7 @@ public:
     HostScript* GetCurrentScript() override { return nullptr; }
     void AddCommand(const char*, CommandHandler, int, int) override { }
     void RemoveCommand(const char*) override { }
-    int ExecuteCommand(const char*) override { return -1; }
+    int ExecuteCommand(const char* text) override;
     int DataParse(const char* text, char* output, u32 size) override;
     void AddTopLevelObject(const char*, TopLevelObjectHandler) override { }
     void RemoveTopLevelObject(const char*) override { }
@@ -38,7 +39,7 @@ public:
     void InvalidateTransientObject(u32, void*) override { }
     u32 RegisterTransientClass(const char*) override { return 1; }
     const char* CompleteCommandLine(const char*, bool) override { return nullptr; }
-    bool Calculate(const char*, double&) override { return false; }
+    bool Calculate(const char* text, double& result) override;
     void PrintLine(const char* format, ...) override;
     HostScriptInterface* GetScriptInterface() override { return nullptr; }
 
@@ -65,8 +66,8 @@ public:
     void SaveElementPosition(TeskElement* element) override;
     void LoadElementPosition(TeskElement* element) override;
     bool GetKeyName(u32 key, char* name, u32 size) override;
-    void GetOutputConsole(char* buffer, u32) override { *buffer = 0; }
-    void SetOutputConsole(const char*) override { }
+    void GetOutputConsole(char* buffer, u32 size) override;
+    void SetOutputConsole(const char* name) override;
 
     void DrawRect(const tagRECT& rect, u32 color) override;
     bool DrawTexturedRect(const TeskDrawRecord& record) override;
@@ -106,6 +107,17 @@ public:
 
     // What the body of a script does. A body that is not here does nothing.
     std::map<std::string, std::function<void(TeskElement& self)>> Scripts;
+
+    // What a command line does. One that is not here is unknown.
+    std::map<std::string, std::function<void()>> Commands;
+
+    // What a text calculates to. One that is not here has no value.
+    std::map<std::string, double> Values;
+    std::function<void()> OnCalculate;
+
+    // Where output goes, and what happens as it is turned.
+    std::string Console;
+    std::function<void(const std::string& name)> OnConsole;
 
     // Where the host finds files, and what it does to an element whose position was kept.
     std::map<std::string, std::string> Located;
