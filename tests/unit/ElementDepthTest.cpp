@@ -105,6 +105,8 @@ TEST_F(ElementDepthTest, TheDeepestTreeOfEachKindFitsOnASmallStack)
         {"frame", std::string("<Border>2</Border><Texture Filename='#fill'><Border>3</Border></Texture>") + Scripts},
         {"text", std::string("<Wrap>1</Wrap><Text>some words to be wrapped</Text>") + Scripts},
         {"text", std::string("<Wrap>1</Wrap><Text>${some} words to be wrapped</Text>") + Scripts},
+        {"button", std::string("<Text>${some} words</Text>") + Scripts},
+        {"commandcheckbox", std::string("<Text>${some} words</Text><Data>1</Data>") + Scripts},
     };
     for (const auto& [kind, settings] : kinds) {
         SCOPED_TRACE(kind + settings);

@@ -26,15 +26,21 @@ protected:
 
 TEST_F(FrameAllocationTest, AFrameInWhichNothingChangesAllocatesNothing)
 {
-    Load("<frame name='Panel'><Width>100</Width><Height>100</Height><Border>2</Border>"
-         "<BackgroundColor>ff000000</BackgroundColor><FadeDelay>10</FadeDelay><FadeDuration>10</FadeDuration>"
-         "<OnRender>nothing</OnRender><AutoTooltip>Hint</AutoTooltip><Children>"
-         "<frame name='Image'><Width>50</Width><Height>50</Height><Border>4</Border>"
-         "<Texture Filename='#fill'><Border>4</Border></Texture></frame>"
-         "<text name='Static'><Width>50</Width><Height>50</Height><Wrap>1</Wrap><Text>one two three</Text></text>"
-         "<text name='Live'><Width>50</Width><Height>50</Height><Wrap>1</Wrap><Text>${Time} and more</Text></text>"
-         "<frame name='Hidden'><Visible>0</Visible><Children><frame name='Below'/></Children></frame>"
-         "</Children></frame>");
+    Load(
+        "<frame name='Panel'><Width>100</Width><Height>100</Height><Border>2</Border>"
+        "<BackgroundColor>ff000000</BackgroundColor><FadeDelay>10</FadeDelay><FadeDuration>10</FadeDuration>"
+        "<OnRender>nothing</OnRender><AutoTooltip>Hint</AutoTooltip><Children>"
+        "<frame name='Image'><Width>50</Width><Height>50</Height><Border>4</Border>"
+        "<Texture Filename='#fill'><Border>4</Border></Texture></frame>"
+        "<text name='Static'><Width>50</Width><Height>50</Height><Wrap>1</Wrap><Text>one two three</Text></text>"
+        "<text name='Live'><Width>50</Width><Height>50</Height><Wrap>1</Wrap><Text>${Time} and more</Text></text>"
+        "<button name='Plain'><Width>50</Width><Height>20</Height><Border>1</Border><Text>Go</Text></button>"
+        "<commandbutton name='Image'><Width>50</Width><Height>20</Height><Text>${Go}</Text>"
+        "<Texture Filename='#fill'/></commandbutton>"
+        "<checkbox name='Box'><Width>50</Width><Height>20</Height><Text>On</Text><Texture Filename='#fill'/></checkbox>"
+        "<commandcheckbox name='Live box'><Width>50</Width><Height>20</Height><Data>1</Data></commandcheckbox>"
+        "<frame name='Hidden'><Visible>0</Visible><Children><frame name='Below'/></Children></frame>"
+        "</Children></frame>");
     AllocationsOfFrames(2);
     EXPECT_EQ(0u, AllocationsOfFrames(100));
 }

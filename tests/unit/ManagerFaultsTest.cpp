@@ -32,6 +32,10 @@ constexpr char Interface[] = R"(<Tesk>
     <text Name="Label"><Width>100</Width><Height>20</Height><Text>${Time} of day</Text>
       <Font><Name>Sans</Name><Size>12</Size></Font><OnLoad>load</OnLoad><OnUnload>unload</OnUnload></text>
     <frame Name="Label"/><nonsense Name="Other"/>
+    <commandbutton Name="Run"><X>100</X><Width>50</Width><Height>20</Height><Text>Run ${Name}</Text>
+      <Command>run</Command><Console>Log</Console></commandbutton>
+    <commandcheckbox Name="Switch"><X>150</X><Width>50</Width><Height>20</Height><Text>Switch</Text><Data>${On}</Data>
+      <Command>switch</Command></commandcheckbox>
   </Children>
 </frame>
 </Tesk>)";
@@ -74,6 +78,11 @@ void DriveTheToolkit()
     g_UIManager.OnRMouseDown();
     g_UIManager.OnRMouseUp();
     g_UIManager.OnMouseWheel(1);
+    for (_Point2i point : {_Point2i{120, 10}, _Point2i{170, 10}}) {
+        g_UIManager.OnMouseMove(point);
+        g_UIManager.OnLMouseDown();
+        g_UIManager.OnLMouseUp();
+    }
     g_UIManager.Render();
     g_UIManager.ToggleElement("Panel");
     g_UIManager.ToggleElement("Panel");
@@ -140,6 +149,7 @@ public:
     bool RetrieveOriginalText(u32, char* buffer, u32 size) override { return Fill(buffer, size); }
     bool RetrieveProcessedText(u32, char* buffer, u32 size) override { return Fill(buffer, size); }
     bool GetKeyName(u32, char* buffer, u32 size) override { return Fill(buffer, size); }
+    void GetOutputConsole(char* buffer, u32 size) override { Fill(buffer, size); }
     bool FindResourceFile(const char*, char* path) override { return Fill(path, 512); }
     bool Calculate(const char*, double& result) override
     {
