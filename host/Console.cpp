@@ -42,7 +42,8 @@ void Console::PrintArguments(const char* format, std::va_list arguments)
 
 void Console::PrintText(const std::string& text)
 {
-    const std::string line = m_Subject.empty() ? text : m_Subject + ": " + text;
+    const std::string& where = m_Trail.Where();
+    const std::string line = where.empty() ? text : where + ": " + text;
     std::fprintf(stderr, "teskara: %s\n", Printable(line).c_str());
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "host/script/CallTrail.h"
+
 #include <cstdarg>
 #include <string>
 
@@ -9,8 +11,8 @@ namespace host {
 class Console
 {
 public:
-    // What the lines that follow are about, such as a file; empty for nothing in particular.
-    void SetSubject(const std::string& subject) { m_Subject = subject; }
+    // What lines are about: each begins with it.
+    CallTrail& Trail() { return m_Trail; }
 
     // Writes one line, printf style.
     void Print(const char* format, ...);
@@ -20,7 +22,7 @@ public:
     void PrintText(const std::string& text);
 
 private:
-    std::string m_Subject;
+    CallTrail m_Trail;
 };
 
 } // namespace host

@@ -9,6 +9,7 @@ namespace host {
 // What is known of the present frame. Sizes and positions are in pixels of the interface.
 struct FrameState {
     u32 Number = 0; // counts from 1
+    u32 Ticks = 0; // milliseconds
     u32 FramesPerSecond = 0;
     int Width = 0;
     int Height = 0;

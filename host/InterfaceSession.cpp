@@ -12,7 +12,7 @@ constexpr const char* FirstSkin = "slate";
 } // namespace
 
 InterfaceSession::InterfaceSession(SDL_Renderer* renderer, const Settings& settings)
-    : m_Platform(m_Clock), m_Host(renderer, settings.Positions)
+    : m_Platform(m_Clock), m_Host(renderer, settings.Positions, settings.Trust)
 {
     if (settings.ClockStandsStill)
         m_Clock.HoldStill();
@@ -24,6 +24,7 @@ InterfaceSession::InterfaceSession(SDL_Renderer* renderer, const Settings& setti
     m_SecondStart = m_Clock.Ticks();
     m_Frame.Width = settings.Width;
     m_Frame.Height = settings.Height;
+    m_Frame.Ticks = m_Clock.Ticks();
     m_Host.BeginFrame(m_Frame, 1);
     g_UIManager.Render();
 }
@@ -67,10 +68,8 @@ void InterfaceSession::SkipFrame()
 
 bool InterfaceSession::OpenFile(const std::string& subject, const std::string& file, TeskSkin* skin)
 {
-    m_Host.Output().SetSubject(subject);
-    const bool opened = g_UIManager.LoadInterfaceXML(file.c_str(), true, skin);
-    m_Host.Output().SetSubject({});
-    return opened;
+    const TrailStep step(m_Host.Output().Trail(), subject);
+    return g_UIManager.LoadInterfaceXML(file.c_str(), true, skin);
 }
 
 bool InterfaceSession::OpenSkin(const std::string& name)
@@ -90,6 +89,7 @@ void InterfaceSession::CountFrame()
     }
     ++m_Frame.Number;
     ++m_FramesInSecond;
+    m_Frame.Ticks = now;
     m_Frame.Time = m_Clock.LocalTime();
     m_Frame.Mouse = g_UIManager.MousePosition;
 }

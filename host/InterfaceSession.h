@@ -19,6 +19,7 @@ public:
     struct Settings {
         bool ClockStandsStill = false; // time moves by Advance alone
         std::filesystem::path Positions; // the file of stored positions; empty to store none
+        ScriptTrust Trust = ScriptTrust::None;
         int Width = 0; // of the display at the start
         int Height = 0;
     };

@@ -1,11 +1,15 @@
 #include "host/ReferenceHost.h"
 
 #include "host/display/KeyCodes.h"
+#include "teskara/core/CUIManager.h"
 #include "teskara/element/TeskElement.h"
 
 #include <cstdarg>
 #include <cstdio>
 #include <cstring>
+#include <fstream>
+#include <iterator>
+#include <string_view>
 
 namespace host {
 
@@ -13,6 +17,9 @@ namespace {
 
 // What the toolkit gives for a path, with its end.
 constexpr std::size_t PathSize = 4096;
+
+// The end of the toolkit's line about a script that does not compile. The name of the event stands before it.
+constexpr std::string_view NotCompiled = " embedded script failed to load";
 
 bool WritePath(const std::optional<std::string>& found, char* path)
 {
@@ -25,58 +32,74 @@ bool WritePath(const std::optional<std::string>& found, char* path)
 
 } // namespace
 
-ReferenceHost::ReferenceHost(SDL_Renderer* renderer, const std::filesystem::path& positions)
-    : m_Canvas(renderer), m_Positions(positions), m_StoresPositions(!positions.empty()), m_Variables(m_Frame),
-      m_Sequences(m_Variables)
+ReferenceHost::ReferenceHost(SDL_Renderer* renderer, const std::filesystem::path& positions, ScriptTrust trust)
+    : m_Canvas(renderer), m_Positions(positions), m_StoresPositions(!positions.empty()), m_Scripts(m_Console, trust)
 {
+    m_Scripts.Commands.Add("run", [this](int argc, char** argv) { return RunScriptFile(argc, argv); });
 }
 
 void ReferenceHost::BeginFrame(const FrameState& state, float scale)
 {
     m_Frame = state;
+    m_Scripts.BeginFrame(state);
     m_Canvas.BeginFrame(state.Width, state.Height, scale);
 }
 
 HostScript* ReferenceHost::GetCurrentScript()
 {
-    return nullptr;
+    return m_Scripts.Tasks.Current();
 }
 
 void ReferenceHost::AddCommand(const char* name, CommandHandler handler, int, int)
 {
-    m_Commands.Add(name, handler);
+    m_Scripts.Commands.Add(name, handler);
 }
 
 void ReferenceHost::RemoveCommand(const char* name)
 {
-    m_Commands.Remove(name);
+    m_Scripts.Commands.Remove(name);
 }
 
 int ReferenceHost::ExecuteCommand(const char* text)
 {
-    return m_Commands.Execute(text);
+    return m_Scripts.ExecuteCommand(text);
 }
 
 int ReferenceHost::DataParse(const char* text, char* output, u32 size)
 {
-    m_Sequences.Expand(text, output, size);
+    m_Scripts.Sequences.Expand(text, output, size);
     return 0;
 }
 
-void ReferenceHost::AddTopLevelObject(const char*, TopLevelObjectHandler) { }
-
-void ReferenceHost::RemoveTopLevelObject(const char*) { }
-
-void ReferenceHost::AddType(MvTypeDefinition*) { }
-
-void ReferenceHost::RemoveType(MvTypeDefinition*) { }
-
-MvTypeDefinition* ReferenceHost::FindType(const char*)
+void ReferenceHost::AddTopLevelObject(const char* name, TopLevelObjectHandler handler)
 {
-    return nullptr;
+    m_Scripts.AddTopLevelObject(name, handler);
 }
 
-void ReferenceHost::InvalidateTransientObject(u32, void*) { }
+void ReferenceHost::RemoveTopLevelObject(const char* name)
+{
+    m_Scripts.RemoveTopLevelObject(name);
+}
+
+void ReferenceHost::AddType(MvTypeDefinition* type)
+{
+    m_Scripts.Types.Add(type);
+}
+
+void ReferenceHost::RemoveType(MvTypeDefinition* type)
+{
+    m_Scripts.RemoveType(type);
+}
+
+MvTypeDefinition* ReferenceHost::FindType(const char* name)
+{
+    return m_Scripts.Types.FindOwn(name);
+}
+
+void ReferenceHost::InvalidateTransientObject(u32, void* object)
+{
+    m_Scripts.Invalidate(object);
+}
 
 u32 ReferenceHost::RegisterTransientClass(const char*)
 {
@@ -95,10 +118,18 @@ bool ReferenceHost::Calculate(const char* text, double& result)
 
 void ReferenceHost::PrintLine(const char* format, ...)
 {
+    char line[8192];
     std::va_list arguments;
     va_start(arguments, format);
-    m_Console.PrintArguments(format, arguments);
+    std::vsnprintf(line, sizeof line, format, arguments);
     va_end(arguments);
+
+    // What does not compile is told of in one line, of which the toolkit knows the event.
+    const std::string_view text = line;
+    const bool isRefusal =
+        text.ends_with(NotCompiled) && m_Scripts.Scripts.SayRefusal(text.substr(0, text.size() - NotCompiled.size()));
+    if (!isRefusal)
+        m_Console.PrintText(line);
 }
 
 HostScriptInterface* ReferenceHost::GetScriptInterface()
@@ -108,51 +139,56 @@ HostScriptInterface* ReferenceHost::GetScriptInterface()
 
 u32 ReferenceHost::CompileAtom(const char* source, u32 length)
 {
-    return m_Scripts.Compile(source, length);
+    return m_Scripts.Scripts.Compile({source, length});
 }
 
-void ReferenceHost::ReleaseAtom(u32) { }
+void ReferenceHost::ReleaseAtom(u32 atom)
+{
+    m_Scripts.Scripts.Release(atom);
+}
 
 int ReferenceHost::ExecuteAtomForText(u32 atom, int argc, char** argv, _MvTypeVar* self, u32, char* output, u32 size)
 {
-    if (size > 0)
-        output[0] = '\0';
-    return m_Scripts.Execute(atom, argc, argv, self);
+    std::string text;
+    const bool ran = m_Scripts.Scripts.Run(atom, argc, argv, self, nullptr, &text);
+    std::snprintf(output, size, "%s", text.c_str());
+    return ran ? 0 : -1;
 }
 
 int ReferenceHost::ExecuteAtom(u32 atom, u32, int argc, char** argv, _MvTypeVar* self)
 {
-    return m_Scripts.Execute(atom, argc, argv, self);
+    const auto* element = self ? static_cast<const TeskElement*>(self->Value.Object) : nullptr;
+    return m_Scripts.Scripts.Run(atom, argc, argv, self, element, nullptr) ? 0 : -1;
 }
 
-u32 ReferenceHost::FindAtom(const char*)
+u32 ReferenceHost::FindAtom(const char* name)
 {
-    return 0;
+    return m_Scripts.Scripts.Find(name);
 }
 
 u32 ReferenceHost::PreParseSequence(const char* text, u32)
 {
-    return m_Sequences.Keep(text);
+    return m_Scripts.Sequences.Keep(text, std::filesystem::path(g_UIManager.CurrentFile).filename().string());
 }
 
 bool ReferenceHost::RetrieveOriginalText(u32 sequence, char* buffer, u32 size)
 {
-    return m_Sequences.WriteOriginal(sequence, buffer, size);
+    return m_Scripts.Sequences.WriteOriginal(sequence, buffer, size);
 }
 
 bool ReferenceHost::RetrieveProcessedText(u32 sequence, char* buffer, u32 size)
 {
-    return m_Sequences.WriteProcessed(sequence, buffer, size);
+    return m_Scripts.Sequences.WriteProcessed(sequence, buffer, size);
 }
 
-bool ReferenceHost::RetrieveProcessedResult(u32, _MvTypeVar&)
+bool ReferenceHost::RetrieveProcessedResult(u32 sequence, _MvTypeVar& result)
 {
-    return false;
+    return m_Scripts.RetrieveResult(sequence, result);
 }
 
 void ReferenceHost::FreeSequence(u32 sequence)
 {
-    m_Sequences.Free(sequence);
+    m_Scripts.Sequences.Free(sequence);
 }
 
 u32 ReferenceHost::RegisterObjectClass(const char*)
@@ -160,7 +196,10 @@ u32 ReferenceHost::RegisterObjectClass(const char*)
     return ++m_LastClass;
 }
 
-void ReferenceHost::InvalidateObject(u32, void*) { }
+void ReferenceHost::InvalidateObject(u32, void* object)
+{
+    m_Scripts.Invalidate(object);
+}
 
 void ReferenceHost::SetTypeObjectClass(MvTypeDefinition*, u32) { }
 
@@ -175,7 +214,11 @@ bool ReferenceHost::FindResourceFile(const char* name, char* path)
 
 bool ReferenceHost::LocateFile(const char* name, char* path)
 {
-    return WritePath(m_Paths.FindInterface(name), path);
+    if (!WritePath(m_Paths.FindInterface(name), path))
+        return false;
+
+    m_Console.Trail().NoteFile(name);
+    return true;
 }
 
 bool ReferenceHost::OpenClipboard()
@@ -221,6 +264,24 @@ void ReferenceHost::GetOutputConsole(char* buffer, u32 size)
 void ReferenceHost::SetOutputConsole(const char* name)
 {
     m_OutputConsole = name ? name : "";
+}
+
+// run FILE
+int ReferenceHost::RunScriptFile(int argc, char** argv)
+{
+    if (argc < 2) {
+        m_Console.Print("Syntax: %s <file>", argv[0]);
+        return 0;
+    }
+    const std::filesystem::path name = argv[1];
+    const auto path = name.extension() == ".lua" ? m_Paths.FindInterface(argv[1]) : std::nullopt;
+    std::ifstream file(path ? *path : std::string(), std::ios::binary);
+    if (!file) {
+        m_Console.Print("Could not run script '%s'", argv[1]);
+        return -1;
+    }
+    const std::string text(std::istreambuf_iterator<char>(file), {});
+    return m_Scripts.Tasks.Start(name.filename().string(), text) ? 0 : -1;
 }
 
 void ReferenceHost::DrawRect(const tagRECT& rect, u32 color)

@@ -5,10 +5,7 @@
 #include "host/display/Canvas.h"
 #include "host/files/SearchPaths.h"
 #include "host/files/StoredPositions.h"
-#include "host/script/CommandTable.h"
-#include "host/script/DataSequences.h"
 #include "host/script/ScriptEngine.h"
-#include "host/script/Variables.h"
 #include "teskara/core/HostInterface.h"
 
 #include <filesystem>
@@ -21,10 +18,11 @@ class ReferenceHost : public HostObject
 {
 public:
     // The renderer is borrowed. positions: the file of stored positions; empty to store none.
-    ReferenceHost(SDL_Renderer* renderer, const std::filesystem::path& positions);
+    ReferenceHost(SDL_Renderer* renderer, const std::filesystem::path& positions, ScriptTrust trust);
 
     Console& Output() { return m_Console; }
     SearchPaths& Paths() { return m_Paths; }
+    ScriptEngine& Scripts() { return m_Scripts; }
 
     // Begins a frame of a size in pixels of the interface, each scale pixels of the target.
     void BeginFrame(const FrameState& state, float scale);
@@ -95,15 +93,14 @@ public:
     void ReleaseTextureResource(u32 texture) override;
 
 private:
+    int RunScriptFile(int argc, char** argv);
+
     Console m_Console;
     FrameState m_Frame;
     Canvas m_Canvas;
     SearchPaths m_Paths;
     StoredPositions m_Positions;
     bool m_StoresPositions;
-    Variables m_Variables;
-    DataSequences m_Sequences;
-    CommandTable m_Commands;
     ScriptEngine m_Scripts;
     std::string m_OutputConsole;
     u32 m_LastClass = 0;

@@ -15,4 +15,5 @@ void InterfaceOptions::AddTo(CLI::App& command)
             "Size of the display (960x640)")
         ->type_name("WxH");
     command.add_option("--skin", Skin, "A skin from the folder interfaces/skins")->type_name("NAME");
+    command.add_flag("--trust", Trust, "Give scripts the whole standard library of Lua, with files and processes");
 }

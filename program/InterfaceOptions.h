@@ -14,6 +14,7 @@ struct InterfaceOptions {
     std::vector<std::string> Files;
     DisplaySize Size;
     std::string Skin; // empty for the first one
+    bool Trust = false; // scripts may use all of Lua
 
     void AddTo(CLI::App& command);
 };

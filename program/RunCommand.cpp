@@ -81,6 +81,7 @@ int Run(const InterfaceOptions& options)
     }
     host::InterfaceSession::Settings settings;
     settings.Positions = host::StoredPositions::DefaultFile();
+    settings.Trust = options.Trust ? host::ScriptTrust::Full : host::ScriptTrust::None;
     settings.Width = options.Size.Width;
     settings.Height = options.Size.Height;
     host::InterfaceSession session(window.Target(), settings);

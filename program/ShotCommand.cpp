@@ -67,6 +67,7 @@ int Shoot(const ShotOptions& options)
     }
     host::InterfaceSession::Settings settings;
     settings.ClockStandsStill = true;
+    settings.Trust = options.Trust ? host::ScriptTrust::Full : host::ScriptTrust::None;
     settings.Width = options.Size.Width;
     settings.Height = options.Size.Height;
     host::InterfaceSession session(picture.Target(), settings);

@@ -2,13 +2,10 @@
 
 #include <algorithm>
 #include <string_view>
-#include <vector>
 
 namespace host {
 
 namespace {
-
-constexpr int NoSuchCommand = -1;
 
 std::string ToLower(std::string_view text)
 {
@@ -18,53 +15,33 @@ std::string ToLower(std::string_view text)
     return lower;
 }
 
-std::vector<std::string> SplitLine(std::string_view line)
-{
-    std::vector<std::string> words;
-    bool inWord = false;
-    bool quoted = false;
-    for (const char character : line) {
-        if (!quoted && (character == ' ' || character == '\t')) {
-            inWord = false;
-            continue;
-        }
-        if (!inWord)
-            words.emplace_back();
-        inWord = true;
-        if (character == '"')
-            quoted = !quoted;
-        else
-            words.back() += character;
-    }
-    return words;
-}
-
 } // namespace
 
-void CommandTable::Add(const char* name, CommandHandler handler)
+void CommandTable::Add(const char* name, Command command)
 {
-    m_Handlers[ToLower(name)] = handler;
+    m_Commands[ToLower(name)] = std::move(command);
 }
 
 void CommandTable::Remove(const char* name)
 {
-    m_Handlers.erase(ToLower(name));
+    m_Commands.erase(ToLower(name));
 }
 
-int CommandTable::Execute(const char* line)
+int CommandTable::Execute(std::vector<std::string> words) const
 {
-    std::vector<std::string> words = SplitLine(line);
     if (words.empty())
         return NoSuchCommand;
 
-    const auto found = m_Handlers.find(ToLower(words[0]));
-    if (found == m_Handlers.end())
+    const auto found = m_Commands.find(ToLower(words[0]));
+    if (found == m_Commands.end())
         return NoSuchCommand;
 
     std::vector<char*> arguments;
     for (std::string& word : words)
         arguments.push_back(word.data());
-    return found->second(static_cast<int>(arguments.size()), arguments.data());
+    arguments.push_back(nullptr);
+    const Command command = found->second; // which may take itself out of the table
+    return command(static_cast<int>(words.size()), arguments.data());
 }
 
 } // namespace host

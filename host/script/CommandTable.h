@@ -1,9 +1,9 @@
 #pragma once
 
-#include "teskara/core/HostInterface.h"
-
+#include <functional>
 #include <map>
 #include <string>
+#include <vector>
 
 namespace host {
 
@@ -11,14 +11,19 @@ namespace host {
 class CommandTable
 {
 public:
-    void Add(const char* name, CommandHandler handler);
+    // argv[0] is the command's name as it was written.
+    using Command = std::function<int(int argc, char** argv)>;
+
+    static constexpr int NoSuchCommand = -1;
+
+    void Add(const char* name, Command command);
     void Remove(const char* name);
 
-    // Splits a line at its blanks, but not inside double quotes, and runs its command. -1 if there is no such command.
-    int Execute(const char* line);
+    // Runs the command that the first word names.
+    int Execute(std::vector<std::string> words) const;
 
 private:
-    std::map<std::string, CommandHandler> m_Handlers; // by name in lower case
+    std::map<std::string, Command> m_Commands; // by name in lower case
 };
 
 } // namespace host

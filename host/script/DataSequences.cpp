@@ -1,5 +1,7 @@
 #include "host/script/DataSequences.h"
 
+#include "host/script/SequenceParser.h"
+
 #include <algorithm>
 #include <cstring>
 
@@ -8,8 +10,7 @@ namespace host {
 namespace {
 
 constexpr std::string_view Opening = "${";
-constexpr char Closing = '}';
-constexpr std::size_t LongestValue = 256;
+constexpr std::size_t MostRecent = 4096; // texts
 
 // Cuts where a character begins, so that no broken one is shown.
 void WriteText(std::string_view text, char* output, u32 size)
@@ -20,64 +21,90 @@ void WriteText(std::string_view text, char* output, u32 size)
     std::size_t length = std::min<std::size_t>(text.size(), size - 1);
     while (length > 0 && length < text.size() && (static_cast<u8>(text[length]) & 0xC0) == 0x80)
         --length;
-    std::memcpy(output, text.data(), length);
+    std::memmove(output, text.data(), length);
     output[length] = '\0';
 }
 
 } // namespace
 
-DataSequences::DataSequences(const Variables& variables) : m_Variables(variables) { }
-
 void DataSequences::Expand(std::string_view text, char* output, u32 size)
 {
-    m_Expanded.clear();
-    while (!text.empty()) {
-        const std::size_t opening = text.find(Opening);
-        const std::size_t closing = opening == text.npos ? text.npos : text.find(Closing, opening);
-        if (closing == text.npos) {
-            m_Expanded += text;
-            break;
-        }
-        char value[LongestValue];
-        const std::size_t start = opening + Opening.size();
-        m_Expanded += text.substr(0, opening);
-        m_Expanded.append(value, m_Variables.Write(text.substr(start, closing - start), value, sizeof value));
-        text.remove_prefix(closing + 1);
-    }
-    WriteText(m_Expanded, output, size);
+    if (text.find(Opening) == text.npos)
+        WriteText(text, output, size);
+    else
+        Write(*Parse(text), output, size);
 }
 
-u32 DataSequences::Keep(const char* text)
+std::string DataSequences::Expand(std::string_view text)
 {
-    const u32 id = ++m_LastID;
-    if (id != 0 && text)
-        m_Texts[id] = text;
-    return text ? id : 0;
+    std::string expanded;
+    m_Evaluator.Append(*Parse(text), expanded);
+    return expanded;
 }
 
-void DataSequences::Free(u32 sequence)
+u32 DataSequences::Keep(std::string_view text, const std::string& where)
 {
-    m_Texts.erase(sequence);
+    if (m_LastID + 1 == 0)
+        return 0;
+
+    m_Kept[++m_LastID] = Read(text, where);
+    return m_LastID;
 }
 
 bool DataSequences::WriteOriginal(u32 sequence, char* buffer, u32 size) const
 {
-    const auto found = m_Texts.find(sequence);
-    if (found == m_Texts.end())
-        return false;
-
-    WriteText(found->second, buffer, size);
-    return true;
+    const Shared kept = Find(sequence);
+    if (kept)
+        WriteText(kept->Original, buffer, size);
+    return kept != nullptr;
 }
 
 bool DataSequences::WriteProcessed(u32 sequence, char* buffer, u32 size)
 {
-    const auto found = m_Texts.find(sequence);
-    if (found == m_Texts.end())
-        return false;
+    const Shared kept = Find(sequence);
+    if (kept)
+        Write(*kept, buffer, size);
+    return kept != nullptr;
+}
 
-    Expand(found->second, buffer, size);
-    return true;
+DataSequences::Shared DataSequences::Parse(std::string_view text)
+{
+    if (const auto recent = m_Recent.find(text); recent != m_Recent.end())
+        return recent->second;
+
+    const auto older = m_Older.find(text);
+    Shared sequence = older == m_Older.end() ? Read(text, {}) : older->second;
+    if (m_Recent.size() >= MostRecent) {
+        m_Older = std::move(m_Recent);
+        m_Recent.clear();
+    }
+    m_Recent.emplace(sequence->Original, sequence);
+    return sequence;
+}
+
+std::shared_ptr<const Sequence> DataSequences::Find(u32 sequence) const
+{
+    const auto found = m_Kept.find(sequence);
+    return found == m_Kept.end() ? nullptr : found->second;
+}
+
+DataSequences::Shared DataSequences::Read(std::string_view text, const std::string& where)
+{
+    const auto sequence = std::make_shared<Sequence>(SequenceParser::Read(text));
+    sequence->Original = text;
+    sequence->Where = where;
+    m_Evaluator.Prepare(*sequence);
+    return sequence;
+}
+
+// An evaluation inside this one finds no memory to reuse, and makes its own.
+void DataSequences::Write(const Sequence& sequence, char* buffer, u32 size)
+{
+    std::string expanded = std::move(m_Expanded);
+    expanded.clear();
+    m_Evaluator.Append(sequence, expanded);
+    WriteText(expanded, buffer, size);
+    m_Expanded = std::move(expanded);
 }
 
 } // namespace host

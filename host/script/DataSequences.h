@@ -1,35 +1,52 @@
 #pragma once
 
-#include "host/script/Variables.h"
+#include "host/script/SequenceEvaluator.h"
 #include "teskara/core/Types.h"
 
+#include <memory>
 #include <string>
 #include <string_view>
 #include <unordered_map>
 
 namespace host {
 
-// Texts with parts of the form ${Name}, which are replaced by a variable's value at each use.
+// The texts with data sequences. Each is parsed once: those that are kept by their id, the others as long as they are in
+// use.
 class DataSequences
 {
 public:
-    // The variables are borrowed.
-    explicit DataSequences(const Variables& variables);
+    // The evaluator is borrowed.
+    explicit DataSequences(SequenceEvaluator& evaluator) : m_Evaluator(evaluator) { }
 
-    // Writes a text with its parts replaced, at most size bytes with the end. The output may be the text itself.
+    // Writes a text with its parts evaluated, at most size bytes with the end. The output may be the text itself.
     void Expand(std::string_view text, char* output, u32 size);
+    std::string Expand(std::string_view text);
 
-    // Keeps a text for later. 0 if there are no more ids.
-    u32 Keep(const char* text);
-    void Free(u32 sequence);
+    // Keeps a text for later. 0 if there are no more ids. where: the file that it stands in, for messages.
+    u32 Keep(std::string_view text, const std::string& where);
+    void Free(u32 sequence) { m_Kept.erase(sequence); }
 
-    // The kept text, as it was or with its parts replaced. False: there is no such sequence.
+    // The kept text, as it was or with its parts evaluated. False: there is no such sequence.
     bool WriteOriginal(u32 sequence, char* buffer, u32 size) const;
     bool WriteProcessed(u32 sequence, char* buffer, u32 size);
 
+    // The kept text; null if there is no such sequence.
+    std::shared_ptr<const Sequence> Find(u32 sequence) const;
+
+    // Parses a text once while it is in use.
+    std::shared_ptr<const Sequence> Parse(std::string_view text);
+
 private:
-    const Variables& m_Variables;
-    std::unordered_map<u32, std::string> m_Texts;
+    using Shared = std::shared_ptr<const Sequence>; // an evaluation may free what it evaluates
+    using ByText = std::unordered_map<std::string_view, Shared>; // the text is the sequence's
+
+    Shared Read(std::string_view text, const std::string& where);
+    void Write(const Sequence& sequence, char* buffer, u32 size);
+
+    SequenceEvaluator& m_Evaluator;
+    std::unordered_map<u32, Shared> m_Kept;
+    ByText m_Recent;
+    ByText m_Older; // those of Recent before it was full
     std::string m_Expanded; // keeps its memory between uses
     u32 m_LastID = 0;
 };

@@ -1,5 +1,10 @@
 #include "host/script/ScriptEngine.h"
 
+#include "host/Console.h"
+#include "host/script/CommandLineWords.h"
+#include "host/script/SequenceParser.h"
+#include "teskara/script/MvTypeDefinition.h"
+
 #include <algorithm>
 #include <charconv>
 #include <cstring>
@@ -11,33 +16,151 @@ namespace {
 // Temporary texts live at least until so many others were made.
 constexpr std::size_t TempTextsKept = 256;
 
-} // namespace
-
-u32 ScriptEngine::Compile(const char*, u32)
+bool IsWord(std::string_view text, std::string_view lowerWord)
 {
-    return 0;
+    return text.size() == lowerWord.size()
+        && std::equal(text.begin(), text.end(), lowerWord.begin(),
+            [](char left, char right) { return (left >= 'A' && left <= 'Z' ? left - 'A' + 'a' : left) == right; });
 }
 
-int ScriptEngine::Execute(u32, int, char**, _MvTypeVar*)
+// A number of Lua's, a truth value as one.
+bool ReadNumber(const _MvTypeVar& value, const HostTypes& types, double& number)
 {
-    return 0;
+    const HostValueType* own = types.AsOwn(value.Type);
+    if (!own)
+        return false;
+
+    switch (own->Kind()) {
+    case HostValueKind::Int:
+        number = value.Value.Integer;
+        return true;
+    case HostValueKind::Int64:
+        number = static_cast<double>(value.Value.Integer64);
+        return true;
+    case HostValueKind::Uint:
+        number = value.Value.Unsigned;
+        return true;
+    case HostValueKind::Bool:
+        number = value.Value.Bool;
+        return true;
+    case HostValueKind::Float:
+        number = static_cast<double>(value.Value.Float);
+        return true;
+    default:
+        return false;
+    }
+}
+
+} // namespace
+
+ScriptEngine::ScriptEngine(Console& console, ScriptTrust trust, const ScriptLimits& limits)
+    : m_Console(console),
+      m_Objects(m_State, [this](lua_State* thread, MvTypeDefinition& type) { m_Access.FillMetatable(thread, type); }),
+      m_State(limits), Values(Types, m_Objects), Globals(m_State, trust), Scripts(m_State, Values, console, m_Frame),
+      Tasks(m_State, console, Scripts.Depth()), m_Evaluator({m_State, Globals, Values, TopLevel, Scripts, console}),
+      Sequences(m_Evaluator), m_Access(Values), m_FrameVariables(m_State, Globals)
+{
+    Globals.Add([this](lua_State* thread) {
+        AddFunctions(thread);
+        m_Access.AddFunctions(thread);
+        Tasks.AddFunctions(thread);
+    });
+}
+
+void ScriptEngine::BeginFrame(const FrameState& frame)
+{
+    Scripts.SayRefusal({});
+    m_Frame = frame;
+    m_FrameVariables.Set(frame);
+    Tasks.Advance(frame.Ticks);
+}
+
+int ScriptEngine::ExecuteCommand(const char* line)
+{
+    const CommandStep step(m_Console.Trail(), line);
+    std::vector<std::string> words;
+    for (CommandWord& word : SplitCommandLine(line))
+        words.push_back(word.IsQuoted ? std::move(word.Text) : Sequences.Expand(word.Text));
+    return Commands.Execute(std::move(words));
 }
 
 bool ScriptEngine::Calculate(const char* text, double& result)
 {
-    const char* end = text + std::strlen(text);
-    const auto [stop, error] = std::from_chars(text, end, result);
-    return error == std::errc() && stop == end;
+    const std::string_view given = text;
+    const auto [stop, error] = std::from_chars(given.data(), given.data() + given.size(), result);
+    if (error == std::errc() && stop == given.data() + given.size())
+        return true;
+    if (IsWord(given, "true") || IsWord(given, "false")) {
+        result = IsWord(given, "true");
+        return true;
+    }
+
+    const std::string expanded = Sequences.Expand(given);
+    const auto sequence = Sequences.Parse("${=" + expanded + '}');
+    const bool isExpression =
+        sequence->Parts.size() == 1 && sequence->Parts[0].PartKind == SequencePart::Kind::Expression;
+    bool isNumber = false;
+    if (isExpression)
+        m_Evaluator.Evaluate(*sequence, [&](const _MvTypeVar& value) { isNumber = ReadNumber(value, Types, result); });
+    return isNumber;
 }
 
-bool ScriptEngine::ParseTypedValue(const char*, _MvTypeVar&, u32)
+bool ScriptEngine::RetrieveResult(u32 sequence, _MvTypeVar& result)
 {
-    return false;
+    const std::shared_ptr<const Sequence> kept = Sequences.Find(sequence);
+    return kept && ReadValue(*kept, result);
 }
 
-MvTypeDefinition* ScriptEngine::FindTypeByName(const char*, u32, u32)
+// What has a value without an index is that value for scripts; anything else is a function of its index.
+void ScriptEngine::AddTopLevelObject(const char* name, TopLevelObjectHandler handler)
 {
-    return nullptr;
+    TopLevel.Add(name, handler);
+    Globals.Add([&](lua_State* thread) {
+        char* noArguments[] = {nullptr};
+        _MvTypeVar value;
+        if (handler(0, noArguments, value) && value.Type && !Types.AsOwn(value.Type)) {
+            Values.Push(thread, value);
+        } else {
+            lua_pushlightuserdata(thread, this);
+            lua_pushstring(thread, name);
+            lua_pushcclosure(thread, GetObject, 2);
+        }
+        lua_setfield(thread, -2, name);
+    });
+}
+
+void ScriptEngine::RemoveTopLevelObject(const char* name)
+{
+    TopLevel.Remove(name);
+    Globals.Add([&](lua_State* thread) {
+        lua_pushnil(thread);
+        lua_setfield(thread, -2, name);
+    });
+}
+
+void ScriptEngine::RemoveType(MvTypeDefinition* type)
+{
+    Types.Remove(type);
+    m_Objects.ForgetType(type);
+}
+
+void ScriptEngine::Invalidate(void* object)
+{
+    m_Objects.Invalidate(object);
+    Scripts.Invalidate(object);
+    m_Evaluator.Invalidate(object);
+}
+
+bool ScriptEngine::ParseTypedValue(const char* text, _MvTypeVar& result, u32)
+{
+    const auto sequence = Sequences.Parse("${" + std::string(text) + '}');
+    const bool isPath = sequence->Parts.size() == 1 && sequence->Parts[0].PartKind == SequencePart::Kind::Path;
+    return isPath && ReadValue(*sequence, result);
+}
+
+MvTypeDefinition* ScriptEngine::FindTypeByName(const char* name, u32, u32)
+{
+    return Types.Find(name);
 }
 
 char* ScriptEngine::MakeTempBuffer(std::size_t size, const char* text)
@@ -54,18 +177,135 @@ u32 ScriptEngine::RegisterTransientClass2(const char*)
     return ++m_LastClass;
 }
 
-void ScriptEngine::InvalidateTransientObject2(u32, void*) { }
-
-u32 ScriptEngine::CreateQuery(MvTypeDefinition*, const char*, u32)
+void ScriptEngine::InvalidateTransientObject2(u32, void* object)
 {
+    Invalidate(object);
+}
+
+// A query is an expression in which the object is this.
+u32 ScriptEngine::CreateQuery(MvTypeDefinition*, const char* text, u32)
+{
+    const ScriptCall call(m_State);
+    auto query = std::make_shared<Query>();
+    query->Function = LuaReference(m_State, m_State.Compile("local this = ...; return ", text, "=query"));
+    if (query->Function.Number() == LUA_NOREF) {
+        SayError("query");
+        return 0;
+    }
+    m_Queries[++m_LastQuery] = query;
+    return m_LastQuery;
+}
+
+bool ScriptEngine::EvaluateQuery(u32 id, _MvTypeVar& object, bool& result)
+{
+    const auto found = m_Queries.find(id);
+    if (found == m_Queries.end())
+        return false;
+
+    const std::shared_ptr<Query> query = found->second;
+    const ScriptCall call(m_State);
+    const bool isReady = m_State.Protect([&](lua_State* thread) {
+        query->Function.Push(thread);
+        Values.Push(thread, object);
+    });
+    if (!isReady || !m_State.Call(1, 1)) {
+        if (!std::exchange(query->IsErrorSaid, true))
+            SayError("query");
+        return false;
+    }
+    lua_State* thread = m_State.Thread();
+    result = lua_toboolean(thread, -1) && !(lua_isnumber(thread, -1) && lua_tonumber(thread, -1) == 0);
+    lua_pop(thread, 1);
+    return true;
+}
+
+void ScriptEngine::FreeQuery(u32 query)
+{
+    m_Queries.erase(query);
+}
+
+void ScriptEngine::AddFunctions(lua_State* thread)
+{
+    LuaState::AddFunction(thread, "print", Print, this);
+    LuaState::AddFunction(thread, "command", RunCommand, this);
+    LuaState::AddFunction(thread, "expand", ExpandText, this);
+}
+
+bool ScriptEngine::ReadValue(const Sequence& sequence, _MvTypeVar& result)
+{
+    return m_Evaluator.Evaluate(sequence, [&](const _MvTypeVar& value) {
+        result = value;
+        if (value.Type == &Types.Own(HostValueKind::String))
+            result.Value.Text = MakeTempBuffer(0, value.Value.Text);
+    });
+}
+
+// "query:1: why" is "query: why".
+void ScriptEngine::SayError(const std::string& subject)
+{
+    const std::string chunk = subject + ":1: ";
+    const std::string& why = m_State.Error();
+    m_Console.PrintText(subject + ": " + (why.starts_with(chunk) ? why.substr(chunk.size()) : why));
+}
+
+// print(value, ...) writes a line, with a blank between values.
+int ScriptEngine::Print(lua_State* thread)
+{
+    auto& engine = LuaState::OwnerOf<ScriptEngine>(thread);
+    std::string line;
+    const int count = lua_gettop(thread);
+    for (int index = 1; index <= count; ++index) {
+        if (index > 1)
+            line += ' ';
+        if (engine.Values.AppendText(thread, index, line))
+            continue;
+        line += luaL_tolstring(thread, index, nullptr);
+        lua_pop(thread, 1);
+    }
+    engine.m_Console.PrintText(line);
     return 0;
 }
 
-bool ScriptEngine::EvaluateQuery(u32, _MvTypeVar&, bool&)
+// command(line), or command(name, argument, ...) with arguments as they are. The result is the command's number.
+int ScriptEngine::RunCommand(lua_State* thread)
 {
-    return false;
+    auto& engine = LuaState::OwnerOf<ScriptEngine>(thread);
+    luaL_checkstring(thread, 1);
+    ArgumentTexts words(thread, engine.Values, 1);
+    const RunningThread running(thread);
+    if (words.Count() == 1) {
+        lua_pushinteger(thread, engine.ExecuteCommand(words.Texts()[0]));
+        return 1;
+    }
+    const CommandStep step(engine.m_Console.Trail(), words.Texts()[0]);
+    lua_pushinteger(
+        thread, engine.Commands.Execute(std::vector<std::string>(words.Texts(), words.Texts() + words.Count())));
+    return 1;
 }
 
-void ScriptEngine::FreeQuery(u32) { }
+// expand(text) evaluates the data sequences in a text.
+int ScriptEngine::ExpandText(lua_State* thread)
+{
+    auto& engine = LuaState::OwnerOf<ScriptEngine>(thread);
+    const char* text = luaL_checkstring(thread, 1);
+    const RunningThread running(thread);
+    const std::string expanded = engine.Sequences.Expand(text);
+    lua_pushlstring(thread, expanded.data(), expanded.size());
+    return 1;
+}
+
+// UIElement(name) and its like; nil if there is none.
+int ScriptEngine::GetObject(lua_State* thread)
+{
+    auto& engine = LuaState::OwnerOf<ScriptEngine>(thread);
+    ArgumentTexts index(thread, engine.Values, 1);
+    const RunningThread running(thread);
+    const TopLevelObjectHandler handler = engine.TopLevel.Find(lua_tostring(thread, lua_upvalueindex(2)));
+    _MvTypeVar value;
+    if (!handler || !handler(index.Count(), index.Texts(), value))
+        value = {};
+    engine.Values.Push(thread, value);
+    return 1;
+}
 
 } // namespace host

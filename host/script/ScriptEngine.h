@@ -1,23 +1,52 @@
 #pragma once
 
+#include "host/FrameState.h"
+#include "host/probe/HostTypes.h"
+#include "host/script/Atoms.h"
+#include "host/script/CommandTable.h"
+#include "host/script/DataSequences.h"
+#include "host/script/FrameVariables.h"
+#include "host/script/ObjectAccess.h"
+#include "host/script/ScriptGlobals.h"
+#include "host/script/ScriptObjects.h"
+#include "host/script/ScriptTasks.h"
+#include "host/script/ScriptValues.h"
+#include "host/script/TopLevelObjects.h"
 #include "teskara/core/HostInterface.h"
 
 #include <deque>
 #include <string>
+#include <unordered_map>
 
 namespace host {
 
-// The place of the script engine. There is none yet: no atom compiles, no reference has a value and no query is made,
-// so interfaces work without the scripts of their events. What doesn't need an engine works.
+class Console;
+
+// Everything that has to do with scripts, in Lua: its parts are public, since the host hands on to them what the toolkit
+// asks.
 class ScriptEngine : public HostScriptInterface
 {
 public:
-    // --- Atoms. Id 0, and nothing runs.
-    u32 Compile(const char* source, u32 length);
-    int Execute(u32 atom, int argc, char** argv, _MvTypeVar* self);
+    // The console is borrowed.
+    ScriptEngine(Console& console, ScriptTrust trust, const ScriptLimits& limits = {});
 
-    // Reads a plain number. False: the text is anything else.
+    // A frame begins: its values can be seen, and scripts that wait go on. now: milliseconds.
+    void BeginFrame(const FrameState& frame);
+
+    // Runs a command line: its words without quotes are evaluated first. -1: there is no such command.
+    int ExecuteCommand(const char* line);
+
+    // Evaluates an arithmetic expression of Lua's. False: it gives no number.
     bool Calculate(const char* text, double& result);
+
+    bool RetrieveResult(u32 sequence, _MvTypeVar& result);
+
+    void AddTopLevelObject(const char* name, TopLevelObjectHandler handler);
+    void RemoveTopLevelObject(const char* name);
+    void RemoveType(MvTypeDefinition* type);
+
+    // An object is going away: nothing refers to it any longer.
+    void Invalidate(void* object);
 
     bool ParseTypedValue(const char* text, _MvTypeVar& result, u32 flag) override;
     MvTypeDefinition* FindTypeByName(const char* name, u32 unused1, u32 unused2) override;
@@ -29,7 +58,45 @@ public:
     void FreeQuery(u32 query) override;
 
 private:
+    struct Query {
+        LuaReference Function;
+        bool IsErrorSaid = false;
+    };
+
+    void AddFunctions(lua_State* thread);
+    bool ReadValue(const Sequence& sequence, _MvTypeVar& result);
+    void SayError(const std::string& subject);
+    static int Print(lua_State* thread);
+    static int RunCommand(lua_State* thread);
+    static int ExpandText(lua_State* thread);
+    static int GetObject(lua_State* thread);
+
+    Console& m_Console;
+    FrameState m_Frame;
+    ScriptObjects m_Objects; // stays until the state has collected them all
+    LuaState m_State;
+
+public:
+    HostTypes Types;
+    TopLevelObjects TopLevel;
+    CommandTable Commands;
+    ScriptValues Values;
+    ScriptGlobals Globals;
+    Atoms Scripts;
+    ScriptTasks Tasks;
+
+private:
+    SequenceEvaluator m_Evaluator;
+
+public:
+    DataSequences Sequences;
+
+private:
+    ObjectAccess m_Access;
+    FrameVariables m_FrameVariables;
+    std::unordered_map<u32, std::shared_ptr<Query>> m_Queries;
     std::deque<std::string> m_TempTexts; // the latest ones
+    u32 m_LastQuery = 0;
     u32 m_LastClass = 0;
 };
 

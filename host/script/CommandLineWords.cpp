@@ -1,0 +1,41 @@
+#include "host/script/CommandLineWords.h"
+
+#include "host/script/SequenceParser.h"
+
+namespace host {
+
+std::vector<CommandWord> SplitCommandLine(std::string_view line)
+{
+    std::vector<CommandWord> words;
+    bool inWord = false;
+    bool quoted = false;
+    for (std::size_t at = 0; at < line.size();) {
+        const char character = line[at];
+        if (!quoted && (character == ' ' || character == '\t')) {
+            inWord = false;
+            ++at;
+            continue;
+        }
+        if (!inWord)
+            words.emplace_back();
+        inWord = true;
+        CommandWord& word = words.back();
+        const std::size_t end =
+            !quoted && line.substr(at).starts_with("${") ? SequenceParser::FindEnd(line, at) : line.npos;
+        if (end != line.npos) {
+            word.Text += line.substr(at, end - at);
+            at = end;
+            continue;
+        }
+        if (character == '"') {
+            quoted = !quoted;
+            word.IsQuoted = true;
+        } else {
+            word.Text += character;
+        }
+        ++at;
+    }
+    return words;
+}
+
+} // namespace host

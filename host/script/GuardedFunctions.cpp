@@ -1,0 +1,291 @@
+#include "host/script/GuardedFunctions.h"
+
+#include "host/script/LuaState.h"
+
+#include <string_view>
+
+namespace host {
+
+namespace {
+
+constexpr lua_Integer MostMoved = 1'000'000; // fields that one call may move
+
+bool HasFailed(int status)
+{
+    return status != LUA_OK && status != LUA_YIELD;
+}
+
+// An error was caught, and lies on top of the stack. If it ends the whole call it is raised again.
+void LetLimitsPass(lua_State* thread, int status)
+{
+    ScriptBudget& budget = LuaState::Of(thread).Budget();
+    if (status == LUA_ERRMEM) {
+        budget.RunOutOfMemory();
+        luaL_error(thread, "%s", budget.WhySpent());
+    }
+    if (budget.WhySpent())
+        lua_error(thread);
+}
+
+// --- Protected calls
+
+int FinishCall(lua_State* thread, int status, lua_KContext below)
+{
+    if (!HasFailed(status))
+        return lua_gettop(thread) - static_cast<int>(below);
+
+    LetLimitsPass(thread, status);
+    lua_pushboolean(thread, false);
+    lua_pushvalue(thread, -2);
+    return 2;
+}
+
+int ProtectedCall(lua_State* thread)
+{
+    luaL_checkany(thread, 1);
+    lua_pushboolean(thread, true);
+    lua_insert(thread, 1);
+    return FinishCall(thread, lua_pcallk(thread, lua_gettop(thread) - 2, LUA_MULTRET, 0, 0, FinishCall), 0);
+}
+
+int ProtectedCallWithHandler(lua_State* thread)
+{
+    const int arguments = lua_gettop(thread) - 2;
+    luaL_checktype(thread, 2, LUA_TFUNCTION);
+    lua_pushboolean(thread, true);
+    lua_pushvalue(thread, 1);
+    lua_rotate(thread, 3, 2);
+    return FinishCall(thread, lua_pcallk(thread, arguments, LUA_MULTRET, 2, 2, FinishCall), 2);
+}
+
+// --- Coroutines
+
+lua_State* ThreadArgument(lua_State* thread, int index)
+{
+    lua_State* other = lua_tothread(thread, index);
+    luaL_argexpected(thread, other, index, "coroutine");
+    return other;
+}
+
+// Resumes with what lies on top of the stack. The number of results, or -1: it failed, and the error lies on top.
+int ResumeThread(lua_State* thread, lua_State* other, int arguments)
+{
+    if (!lua_checkstack(other, arguments)) {
+        lua_pushliteral(thread, "too many arguments to resume");
+        return -1;
+    }
+    lua_xmove(thread, other, arguments);
+    int results = 0;
+    const int status = lua_resume(other, thread, arguments, &results);
+    if (HasFailed(status)) {
+        lua_xmove(other, thread, 1);
+        LetLimitsPass(thread, status);
+        return -1;
+    }
+    if (!lua_checkstack(thread, results + 1)) {
+        lua_pop(other, results);
+        lua_pushliteral(thread, "too many results to resume");
+        return -1;
+    }
+    lua_xmove(other, thread, results);
+    return results;
+}
+
+int Resume(lua_State* thread)
+{
+    lua_State* other = ThreadArgument(thread, 1);
+    const int results = ResumeThread(thread, other, lua_gettop(thread) - 1);
+    lua_pushboolean(thread, results >= 0);
+    lua_insert(thread, results < 0 ? -2 : -(results + 1));
+    return results < 0 ? 2 : results + 1;
+}
+
+// There is no way to close a coroutine from outside: what closes another while it is closed itself would go as deep
+// as it likes, since Lua doesn't count that.
+int ResumeWrapped(lua_State* thread)
+{
+    lua_State* other = lua_tothread(thread, lua_upvalueindex(1));
+    const int results = ResumeThread(thread, other, lua_gettop(thread));
+    return results < 0 ? lua_error(thread) : results;
+}
+
+int Wrap(lua_State* thread)
+{
+    luaL_checktype(thread, 1, LUA_TFUNCTION);
+    lua_State* other = lua_newthread(thread);
+    lua_pushvalue(thread, 1);
+    lua_xmove(thread, other, 1);
+    lua_pushcclosure(thread, ResumeWrapped, 1);
+    return 1;
+}
+
+// --- Tables
+
+void RefuseProtected(lua_State* thread)
+{
+    if (luaL_getmetafield(thread, 1, "__metatable") != LUA_TNIL)
+        luaL_error(thread, "this is protected and cannot be changed");
+}
+
+// What Lua calls when it collects a table, it calls without counting.
+int SetMetatable(lua_State* thread)
+{
+    luaL_checktype(thread, 1, LUA_TTABLE);
+    luaL_argexpected(thread, lua_isnil(thread, 2) || lua_istable(thread, 2), 2, "nil or table");
+    lua_settop(thread, 2);
+    RefuseProtected(thread);
+    if (lua_istable(thread, 2)) {
+        lua_pushliteral(thread, "__gc");
+        if (lua_rawget(thread, 2) != LUA_TNIL)
+            return luaL_error(thread, "__gc is not available");
+    }
+    lua_settop(thread, 2);
+    lua_setmetatable(thread, 1);
+    return 1;
+}
+
+int RawSet(lua_State* thread)
+{
+    luaL_checktype(thread, 1, LUA_TTABLE);
+    luaL_checkany(thread, 2);
+    luaL_checkany(thread, 3);
+    RefuseProtected(thread);
+    lua_settop(thread, 3);
+    lua_rawset(thread, 1);
+    return 1;
+}
+
+// The library's functions loop as often as a length says; one that a script computes could say anything.
+int CallWithPlainTable(lua_State* thread)
+{
+    luaL_checktype(thread, 1, LUA_TTABLE);
+    if (luaL_getmetafield(thread, 1, "__len") != LUA_TNIL)
+        return luaL_error(thread, "a table with __len cannot be used here");
+
+    lua_pushvalue(thread, lua_upvalueindex(1));
+    lua_insert(thread, 1);
+    lua_call(thread, lua_gettop(thread) - 1, LUA_MULTRET);
+    return lua_gettop(thread);
+}
+
+int MoveFields(lua_State* thread)
+{
+    const lua_Integer first = luaL_checkinteger(thread, 2);
+    const lua_Integer last = luaL_checkinteger(thread, 3);
+    if (last >= first && static_cast<u64>(last) - static_cast<u64>(first) >= MostMoved)
+        return luaL_error(thread, "too many fields to move");
+
+    lua_pushvalue(thread, lua_upvalueindex(1));
+    lua_insert(thread, 1);
+    lua_call(thread, lua_gettop(thread) - 1, LUA_MULTRET);
+    return lua_gettop(thread);
+}
+
+void AddGuardedTable(lua_State* thread)
+{
+    luaL_requiref(thread, "table", luaopen_table, false);
+    for (const char* name : {"concat", "insert", "remove", "sort"}) {
+        lua_getfield(thread, -1, name);
+        lua_pushcclosure(thread, CallWithPlainTable, 1);
+        lua_setfield(thread, -3, name);
+    }
+    lua_getfield(thread, -1, "move");
+    lua_pushcclosure(thread, MoveFields, 1);
+    lua_setfield(thread, -3, "move");
+    lua_pop(thread, 1);
+}
+
+// --- Texts
+
+// Compiles a text. A compiled chunk could do anything.
+int Load(lua_State* thread)
+{
+    std::size_t length = 0;
+    const char* text = luaL_checklstring(thread, 1, &length);
+    const char* name = luaL_optstring(thread, 2, "=load");
+    const bool hasVariables = !lua_isnone(thread, 3);
+    const int status = luaL_loadbufferx(thread, text, length, name, "t");
+    if (HasFailed(status)) {
+        LetLimitsPass(thread, status);
+        lua_pushnil(thread);
+        lua_insert(thread, -2);
+        return 2;
+    }
+    if (hasVariables) {
+        lua_pushvalue(thread, 3);
+        lua_setupvalue(thread, -2, 1);
+    }
+    return 1;
+}
+
+// The library's runs through each repetition of nothing.
+int Repeat(lua_State* thread)
+{
+    std::size_t length = 0;
+    std::size_t separatorLength = 0;
+    luaL_checklstring(thread, 1, &length);
+    luaL_checkinteger(thread, 2);
+    luaL_optlstring(thread, 3, "", &separatorLength);
+    if (length + separatorLength == 0) {
+        lua_pushliteral(thread, "");
+        return 1;
+    }
+    lua_pushvalue(thread, lua_upvalueindex(1));
+    lua_insert(thread, 1);
+    lua_call(thread, lua_gettop(thread) - 1, 1);
+    return 1;
+}
+
+void AddGuardedString(lua_State* thread)
+{
+    luaL_requiref(thread, "string", luaopen_string, false);
+    lua_getfield(thread, -1, "rep");
+    lua_pushcclosure(thread, Repeat, 1);
+    lua_setfield(thread, -3, "rep");
+    lua_pop(thread, 1);
+}
+
+constexpr luaL_Reg CallFunctions[] = {
+    {"pcall", ProtectedCall},
+    {"xpcall", ProtectedCallWithHandler},
+    {nullptr, nullptr},
+};
+
+constexpr luaL_Reg BaseFunctions[] = {
+    {"load", Load},
+    {"rawset", RawSet},
+    {"setmetatable", SetMetatable},
+    {nullptr, nullptr},
+};
+
+constexpr luaL_Reg CoroutineFunctions[] = {
+    {"resume", Resume},
+    {"wrap", Wrap},
+    {nullptr, nullptr},
+};
+
+} // namespace
+
+void AddGuardedCalls(lua_State* thread)
+{
+    luaL_setfuncs(thread, CallFunctions, 0);
+}
+
+void AddGuardedBase(lua_State* thread)
+{
+    AddGuardedCalls(thread);
+    luaL_setfuncs(thread, BaseFunctions, 0);
+}
+
+void AddGuarded(lua_State* thread, const char* library)
+{
+    const std::string_view name = library;
+    if (name == "coroutine")
+        luaL_setfuncs(thread, CoroutineFunctions, 0);
+    else if (name == "table")
+        AddGuardedTable(thread);
+    else if (name == "string")
+        AddGuardedString(thread);
+}
+
+} // namespace host

@@ -1,0 +1,72 @@
+#include "host/script/ScriptBudget.h"
+
+#include <algorithm>
+#include <cstdlib>
+
+namespace host {
+
+void ScriptBudget::Begin()
+{
+    if (m_Depth++ > 0)
+        return;
+
+    m_Instructions = 0;
+    m_End = {};
+    m_MostBytes = std::min(m_Bytes + m_Limits.CallBytes, m_Limits.AllBytes);
+    m_WhySpent = nullptr;
+    m_IsTold = false;
+}
+
+const char* ScriptBudget::Spend(u32 instructions)
+{
+    if (m_WhySpent || m_Depth == 0)
+        return m_WhySpent;
+
+    // The clock is first asked for here: most calls are over before that.
+    const auto now = std::chrono::steady_clock::now();
+    if (m_Instructions == 0)
+        m_End = now + m_Limits.Time;
+    m_Instructions += instructions;
+    if (m_Instructions > m_Limits.Instructions)
+        m_WhySpent = "stopped, since it ran too many instructions";
+    else if (now > m_End)
+        m_WhySpent = "stopped, since it ran too long";
+    return m_WhySpent;
+}
+
+void ScriptBudget::RunOutOfMemory()
+{
+    if (!m_WhySpent)
+        m_WhySpent = "stopped, since it took too much memory";
+}
+
+bool ScriptBudget::TakeNews()
+{
+    const bool isNews = !m_IsTold;
+    m_IsTold = true;
+    return isNews;
+}
+
+void* ScriptBudget::Reallocate(void* block, std::size_t oldSize, std::size_t size)
+{
+    if (!block)
+        oldSize = 0; // it then says what the block is for
+    if (size == 0) {
+        std::free(block);
+        m_Bytes -= oldSize;
+        return nullptr;
+    }
+
+    const std::size_t most = m_Depth > 0 ? m_MostBytes : m_Limits.AllBytes;
+    if (size > oldSize && m_Bytes - oldSize + size > most)
+        return nullptr;
+
+    void* moved = std::realloc(block, size);
+    if (!moved)
+        return size > oldSize ? nullptr : block;
+
+    m_Bytes += size - oldSize;
+    return moved;
+}
+
+} // namespace host

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "teskara/core/Types.h"
+
+#include <chrono>
+#include <cstddef>
+
+namespace host {
+
+// What a call of scripts may take. Calls inside it, such as an event that a script causes, take of the same.
+struct ScriptLimits {
+    u64 Instructions = 10'000'000;
+    std::chrono::milliseconds Time{2000}; // for what takes long in few instructions
+    std::size_t CallBytes = 16 * 1024 * 1024; // more than there was before the call
+    std::size_t AllBytes = 256 * 1024 * 1024; // what scripts may keep between calls
+};
+
+// Counts what scripts take, and says when it is too much.
+class ScriptBudget
+{
+public:
+    explicit ScriptBudget(const ScriptLimits& limits) : m_Limits(limits) { }
+
+    // Calls may lie inside each other; the outermost begins anew.
+    void Begin();
+    void End() { --m_Depth; }
+
+    // Counts instructions. Null, or why the script has to stop; from then on, until the outermost call ends.
+    const char* Spend(u32 instructions);
+
+    // Memory ran out.
+    void RunOutOfMemory();
+
+    // Why the outermost call has to stop; null if it goes on.
+    const char* WhySpent() const { return m_WhySpent; }
+
+    // A person has to be told of it once, however many scripts end by it. True: that has not happened yet.
+    bool TakeNews();
+
+    // Memory by the rules of realloc; size 0 frees. Null: it would be too much.
+    void* Reallocate(void* block, std::size_t oldSize, std::size_t size);
+
+private:
+    ScriptLimits m_Limits;
+    u32 m_Depth = 0;
+    u64 m_Instructions = 0;
+    std::chrono::steady_clock::time_point m_End;
+    std::size_t m_Bytes = 0;
+    std::size_t m_MostBytes = 0; // in this call
+    const char* m_WhySpent = nullptr;
+    bool m_IsTold = false;
+};
+
+} // namespace host

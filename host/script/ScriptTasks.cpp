@@ -1,0 +1,132 @@
+#include "host/script/ScriptTasks.h"
+
+#include "host/Console.h"
+
+#include <algorithm>
+
+namespace host {
+
+namespace {
+
+constexpr std::size_t MostTasks = 64;
+constexpr lua_Number LongestWait = 1'000'000; // seconds
+
+} // namespace
+
+ScriptTasks::~ScriptTasks()
+{
+    for (const auto& task : m_Tasks)
+        task->MessageBoxID = task->InputBoxID = 0;
+}
+
+void ScriptTasks::AddFunctions(lua_State* thread)
+{
+    LuaState::AddFunction(thread, "wait", Wait, this);
+    LuaState::AddFunction(thread, "answer", Answer, this);
+}
+
+bool ScriptTasks::Start(const std::string& name, std::string_view text)
+{
+    const TrailStep step(m_Console.Trail(), name);
+    if (m_Tasks.size() >= MostTasks) {
+        m_Console.PrintText("too many scripts are running");
+        return false;
+    }
+
+    const ScriptCall call(m_State);
+    const LuaReference function(m_State, m_State.Compile({}, text, ('=' + name).c_str()));
+    std::unique_ptr<ScriptTask> task;
+    const bool isReady = function.Number() != LUA_NOREF && m_State.Protect([&](lua_State* thread) {
+        lua_State* coroutine = lua_newthread(thread);
+        LuaReference reference(m_State, luaL_ref(thread, LUA_REGISTRYINDEX));
+        function.Push(coroutine);
+        task = std::make_unique<ScriptTask>(name, std::move(reference), coroutine, m_Atoms);
+    });
+    if (!isReady) {
+        m_Console.PrintText(m_State.Error());
+        return false;
+    }
+    ScriptTask& started = *m_Tasks.emplace_back(std::move(task));
+    if (!Resume(started))
+        std::erase_if(m_Tasks, [&](const auto& other) { return other.get() == &started; });
+    return true;
+}
+
+void ScriptTasks::Advance(u32 now)
+{
+    m_Now = now;
+    std::vector<ScriptTask*> due; // a script may start others
+    for (const auto& task : m_Tasks)
+        if (task.get() != m_Current && task->IsDue(now))
+            due.push_back(task.get());
+    for (ScriptTask* task : due)
+        if (!Resume(*task))
+            std::erase_if(m_Tasks, [&](const auto& other) { return other.get() == task; });
+}
+
+// False: the task has ended.
+bool ScriptTasks::Resume(ScriptTask& task)
+{
+    const ScriptCall call(m_State);
+    const TrailStep step(m_Console.Trail(), task.Name());
+    ScriptTask* outer = std::exchange(m_Current, &task);
+    task.GoOn();
+    int status = LUA_OK;
+    int results = 0;
+    {
+        lua_State* from = m_State.Thread();
+        const RunningThread running(task.Thread());
+        status = lua_resume(task.Thread(), from, 0, &results);
+    }
+    m_Current = outer;
+    if (status == LUA_YIELD || status == LUA_OK) {
+        lua_pop(task.Thread(), results);
+        return status == LUA_YIELD;
+    }
+    m_State.TakeError(task.Thread(), status);
+    SayWhyFailed(task);
+    return false;
+}
+
+void ScriptTasks::SayWhyFailed(const ScriptTask& task)
+{
+    if (m_State.Budget().WhySpent() && !m_State.Budget().TakeNews())
+        return;
+
+    const std::string chunk = task.Name() + ':';
+    const std::string& why = m_State.Error();
+    m_Console.PrintText(why.starts_with(chunk) ? why.substr(chunk.size()) : why);
+}
+
+ScriptTask& ScriptTasks::WaitingTask(lua_State* thread, const char* function)
+{
+    ScriptTask* task = LuaState::OwnerOf<ScriptTasks>(thread).m_Current;
+    if (!task || task->Thread() != thread || !lua_isyieldable(thread))
+        luaL_error(thread, "%s can only be called by a script that was started by the command run", function);
+    return *task;
+}
+
+int ScriptTasks::Wait(lua_State* thread)
+{
+    const lua_Number seconds = luaL_checknumber(thread, 1);
+    ScriptTask& task = WaitingTask(thread, "wait");
+    const lua_Number waited = seconds > 0 ? std::min(seconds, LongestWait) : 0;
+    task.WaitUntil(LuaState::OwnerOf<ScriptTasks>(thread).m_Now + static_cast<u32>(waited * 1000));
+    return lua_yield(thread, 0);
+}
+
+int ScriptTasks::Answer(lua_State* thread)
+{
+    const auto give = [](lua_State* resumed, int, lua_KContext) {
+        lua_pushstring(resumed, LuaState::OwnerOf<ScriptTasks>(resumed).m_Current->GetUserInput());
+        return 1;
+    };
+    ScriptTask& task = WaitingTask(thread, "answer");
+    if (!task.HasDialog())
+        return give(thread, LUA_OK, 0);
+
+    task.WaitForAnswer();
+    return lua_yieldk(thread, 0, 0, give);
+}
+
+} // namespace host

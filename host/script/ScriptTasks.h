@@ -1,0 +1,57 @@
+#pragma once
+
+#include "host/script/ScriptTask.h"
+
+#include <memory>
+#include <string_view>
+#include <vector>
+
+namespace host {
+
+class Console;
+
+// The script files that run. Each goes on at the start of a frame until it waits or ends.
+class ScriptTasks
+{
+public:
+    // Everything is borrowed. atoms: how many atoms run at present.
+    ScriptTasks(LuaState& state, Console& console, const int& atoms)
+        : m_State(state), m_Console(console), m_Atoms(atoms)
+    {
+    }
+    ~ScriptTasks();
+    ScriptTasks(const ScriptTasks&) = delete;
+    ScriptTasks& operator=(const ScriptTasks&) = delete;
+
+    // Adds functions for scripts to the table on top of the stack: wait(seconds), and answer(), which waits until no
+    // dialog of the script is open and gives what the user answered to the last one.
+    void AddFunctions(lua_State* thread);
+
+    // Starts a script; it runs at once, as far as it goes. False, with a line: it does not compile, or there are too
+    // many.
+    bool Start(const std::string& name, std::string_view text);
+
+    // Lets go on what has waited long enough. now: milliseconds.
+    void Advance(u32 now);
+
+    // The script that runs now; null if none does.
+    ScriptTask* Current() const { return m_Current; }
+
+    std::size_t Count() const { return m_Tasks.size(); }
+
+private:
+    bool Resume(ScriptTask& task);
+    void SayWhyFailed(const ScriptTask& task);
+    static ScriptTask& WaitingTask(lua_State* thread, const char* function);
+    static int Wait(lua_State* thread);
+    static int Answer(lua_State* thread);
+
+    LuaState& m_State;
+    Console& m_Console;
+    const int& m_Atoms;
+    std::vector<std::unique_ptr<ScriptTask>> m_Tasks;
+    ScriptTask* m_Current = nullptr;
+    u32 m_Now = 0;
+};
+
+} // namespace host
