@@ -4,6 +4,7 @@
 #include "teskara/element/TeskElement.h"
 #include "teskara/element/TeskScreen.h"
 #include "teskara/markup/TeskSkin.h"
+#include "tests/unit/reentrancy/Kinds.h"
 #include "tests/unit/reentrancy/Scene.h"
 
 namespace {
@@ -51,6 +52,7 @@ constexpr Act Acts[] = {
     {"delete elder sibling",  [] { Delete(ElderName); }},
     {"delete younger sibling", [] { Delete(YoungerName); }},
     {"delete both siblings",  [] { Delete(ElderName); Delete(YoungerName); }},
+    {"delete tooltip",        [] { Delete(TooltipName); }},
     {"delete own child",      [] { Delete("Child@Self@Parent@Grand"); }},
     {"delete focus",          [] { DeleteByID(g_UIManager.FocusElementID); }},
     {"delete mouse over",     [] { DeleteByID(g_UIManager.MouseOverElementID); }},
@@ -84,26 +86,40 @@ constexpr Act Acts[] = {
 
 constexpr char Markup[] = "<frame><OnLoad>OnLoad</OnLoad></frame>";
 
+constexpr u64 EveryKind = 0;
+
 constexpr ScriptAct ScriptActs[] = {
-    {ScriptAct::This,   "Destroy",         {}},
-    {ScriptAct::Parent, "Destroy",         {}},
-    {ScriptAct::Elder,  "Destroy",         {}},
-    {ScriptAct::This,   "AddChild",        {"frame", "New", Markup}},
-    {ScriptAct::Parent, "AddChild",        {"frame", "New", Markup}},
-    {ScriptAct::This,   "SetZOrder",       {"top"}},
-    {ScriptAct::This,   "SetZOrder",       {"movedown"}},
-    {ScriptAct::Elder,  "SetZOrder",       {"alwaysontop"}},
-    {ScriptAct::This,   "SetStrata",       {"5"}},
-    {ScriptAct::Parent, "SetWidth",        {"300"}},
-    {ScriptAct::This,   "Hide",            {}},
-    {ScriptAct::Parent, "ToggleVisible",   {}},
-    {ScriptAct::This,   "SetFocus",        {}},
-    {ScriptAct::This,   "LeftClick",       {}},
-    {ScriptAct::This,   "RightClick",      {}},
-    {ScriptAct::This,   "BeginFade",       {}},
-    {ScriptAct::This,   "SetMetadata",     {"HitTest", "widthCircle"}},
-    {ScriptAct::This,   "SetText",         {"other words"}},
-    {ScriptAct::This,   "SetText",         {"${other}"}},
+    {ScriptAct::This,   nullptr,   "Destroy",       {},                           EveryKind},
+    {ScriptAct::Parent, nullptr,   "Destroy",       {},                           EveryKind},
+    {ScriptAct::Elder,  nullptr,   "Destroy",       {},                           EveryKind},
+    {ScriptAct::This,   "Parent",  "Destroy",       {},                           EveryKind},
+    {ScriptAct::This,   "Next",    "Destroy",       {},                           EveryKind},
+    {ScriptAct::This,   nullptr,   "AddChild",      {"frame", "New", Markup},     EveryKind},
+    {ScriptAct::Parent, nullptr,   "AddChild",      {"frame", "New", Markup},     EveryKind},
+    {ScriptAct::This,   nullptr,   "SetZOrder",     {"top"},                      EveryKind},
+    {ScriptAct::This,   nullptr,   "SetZOrder",     {"movedown"},                 EveryKind},
+    {ScriptAct::Elder,  nullptr,   "SetZOrder",     {"alwaysontop"},              EveryKind},
+    {ScriptAct::This,   nullptr,   "SetStrata",     {"5"},                        EveryKind},
+    {ScriptAct::Parent, nullptr,   "SetWidth",      {"300"},                      EveryKind},
+    {ScriptAct::This,   nullptr,   "Hide",          {},                           EveryKind},
+    {ScriptAct::Parent, nullptr,   "ToggleVisible", {},                           EveryKind},
+    {ScriptAct::This,   nullptr,   "SetFocus",      {},                           EveryKind},
+    {ScriptAct::This,   nullptr,   "LeftClick",     {},                           EveryKind},
+    {ScriptAct::This,   nullptr,   "RightClick",    {},                           EveryKind},
+    {ScriptAct::This,   nullptr,   "BeginFade",     {},                           EveryKind},
+    {ScriptAct::This,   nullptr,   "SetMetadata",   {"HitTest", "widthCircle"},   EveryKind},
+    {ScriptAct::This,   nullptr,   "SetText",       {"other words"},              SetsText},
+    {ScriptAct::This,   nullptr,   "SetText",       {"${other}"},                 SetsText},
+    {ScriptAct::This,   nullptr,   "SetText",       {},                           SetsText},
+    {ScriptAct::This,   "Font",    "SetHeight",     {"30"},                       HasFont},
+    {ScriptAct::This,   "Font",    "SetName",       {"Other"},                    HasFont},
+    {ScriptAct::This,   "Texture", "Set",           {"#other"},                   HasTexture},
+    {ScriptAct::This,   nullptr,   "SetTexture",    {},                           SetsTexture},
+    {ScriptAct::This,   nullptr,   "SetTexture",    {"<T Filename='#other'/>"},   SetsTexture},
+    {ScriptAct::This,   nullptr,   "SetChecked",    {},                           SetsCheck},
+    {ScriptAct::This,   nullptr,   "Print",         {"${more}"},                  SetsLines},
+    {ScriptAct::This,   nullptr,   "SetLine",       {"0", "${more}"},             SetsLines},
+    {ScriptAct::This,   nullptr,   "Reset",         {},                           SetsLines},
 };
 // clang-format on
 
@@ -117,6 +133,12 @@ TeskElement* Find(ScriptAct::Object object)
     default:
         return Self();
     }
+}
+
+bool Tell(const ScriptAct& act, std::initializer_list<const char*> arguments)
+{
+    TeskElement* object = Find(act.On);
+    return act.Part ? TellPart(object, act.Part, act.Method, arguments) : Tell(object, act.Method, arguments);
 }
 
 } // namespace
@@ -134,12 +156,11 @@ std::span<const ScriptAct> AllScriptActs()
 bool Perform(const ScriptAct& act)
 {
     const auto& [first, second, third] = act.Arguments;
-    TeskElement* object = Find(act.On);
     if (third)
-        return Tell(object, act.Method, {first, second, third});
+        return Tell(act, {first, second, third});
     if (second)
-        return Tell(object, act.Method, {first, second});
+        return Tell(act, {first, second});
     if (first)
-        return Tell(object, act.Method, {first});
-    return Tell(object, act.Method);
+        return Tell(act, {first});
+    return Tell(act, {});
 }

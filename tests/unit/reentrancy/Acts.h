@@ -1,5 +1,7 @@
 #pragma once
 
+#include "teskara/core/Types.h"
+
 #include <array>
 #include <span>
 
@@ -9,13 +11,15 @@ struct Act {
     void (*Run)();
 };
 
-// What a script does through the script types, as this.Parent.METHOD[ARGUMENTS].
+// What a script does through the script types, as this.PART.METHOD[ARGUMENTS].
 struct ScriptAct {
     enum Object { This, Parent, Elder };
 
     Object On;
+    const char* Part; // of the object; null if the method is the object's own
     const char* Method;
     std::array<const char*, 3> Arguments; // as many as are not null
+    u64 Needs; // traits of the kinds that know it: all of these, and no other kind does
 };
 
 std::span<const Act> AllActs();

@@ -1,13 +1,18 @@
 #include "tests/unit/reentrancy/Kinds.h"
 
+#include "tests/unit/reentrancy/Scene.h"
+
 #include <ostream>
 
 namespace {
 
-constexpr u64 SendsAllOfTheMouse =
-    Sends(1) | Sends(6) | Sends(7) | Sends(8) | Sends(10) | Sends(11) | Sends(14) | Sends(15);
+constexpr u64 SendsPresses = Sends(1) | Sends(6) | Sends(7) | Sends(8) | Sends(10) | Sends(11) | Sends(15);
 constexpr u64 Follows = FollowsMouse | FollowsHeldMouse;
-constexpr u64 IsPressed = Sends(1) | Sends(6) | Follows | EvaluatesText | HasFont;
+constexpr u64 IsFrame = Follows | SendsPresses | Sends(14) | HasTexture | SetsTexture;
+constexpr u64 IsPressed = Follows | Sends(1) | Sends(6) | EvaluatesText | SetsText | HasFont | HasTexture;
+constexpr u64 IsButton = IsPressed | SetsTexture;
+constexpr u64 IsCheckBox = IsPressed | SetsCheck;
+constexpr u64 IsTooltip = SendsPresses | ExpandsText | SetsLines | HasFont | HasTexture | SetsTexture;
 
 constexpr char FrameMarkup[] = "<Texture Filename='#camera'/><Border>1</Border>";
 constexpr char TextMarkup[] = "<Wrap>1</Wrap><Text>${words}</Text>";
@@ -15,18 +20,29 @@ constexpr char ButtonMarkup[] = "<Text>${words}</Text><Texture Filename='#a'/><T
                                 "<TextureHover Filename='#c'/><Border>1</Border>";
 constexpr char CheckBoxMarkup[] = "<Text>${words}</Text><Texture Filename='#a'/><TextureChecked Filename='#b'/>"
                                   "<TextureCheckedHover Filename='#c'/>";
-constexpr char CommandMarkup[] = "<Text>${words}</Text><Console>Status</Console><Command>check</Command>"
-                                 "<CommandChecked>uncheck</CommandChecked><Data>${number}</Data>";
+constexpr char HudMarkup[] = "<Text>${words}</Text><Group>a</Group>";
+constexpr char CommandMarkup[] =
+    "<Text>${words}</Text><Texture Filename='#a'/><Console>Status</Console><Command>check</Command>"
+    "<CommandChecked>uncheck</CommandChecked><Data>${number}</Data>";
+
+// A tooltip is loaded hidden and without lines.
+void PrepareTooltip()
+{
+    ShowSelf();
+    Tell(Self(), "Print", {"${words}\n${words}"});
+}
 
 // clang-format off
 constexpr Kind Kinds[] = {
-    {"frame",           Follows | SendsAllOfTheMouse,         FrameMarkup,    nullptr},
-    {"text",            Follows | ExpandsText | HasFont,      TextMarkup,     nullptr},
-    {"button",          IsPressed,                            ButtonMarkup,   nullptr},
-    {"checkbox",        IsPressed,                            CheckBoxMarkup, nullptr},
-    {"commandbutton",   IsPressed | RunsCommand,              CommandMarkup,  nullptr},
-    {"commandcheckbox", IsPressed | RunsCommand | Calculates, CommandMarkup,  nullptr},
-    {"foreign",         Follows | IsForeign,                  "",             nullptr},
+    {"frame",           IsFrame,                                               FrameMarkup,    nullptr},
+    {"text",            Follows | ExpandsText | SetsText | HasFont,            TextMarkup,     nullptr},
+    {"button",          IsButton,                                              ButtonMarkup,   nullptr},
+    {"checkbox",        IsCheckBox,                                            CheckBoxMarkup, nullptr},
+    {"commandbutton",   IsButton | RunsCommand,                                CommandMarkup,  nullptr},
+    {"commandcheckbox", IsCheckBox | RunsCommand | Calculates,                 CommandMarkup,  nullptr},
+    {"hudelement",      FollowsHeldMouse | EvaluatesText | SetsText | HasFont, HudMarkup,      nullptr},
+    {"tooltip",         IsTooltip,                                             FrameMarkup,    PrepareTooltip},
+    {"foreign",         Follows | IsForeign,                                   "",             nullptr},
 };
 // clang-format on
 

@@ -15,6 +15,11 @@ enum Trait : u64 {
     Calculates = u64{1} << 25, // has a text that is a number
     RunsCommand = u64{1} << 26, // runs a command of the host, its output on another console
     HasFont = u64{1} << 27, // a font of its own, which tells of its changes
+    HasTexture = u64{1} << 28,
+    SetsText = u64{1} << 29, // scripts set its text
+    SetsTexture = u64{1} << 30,
+    SetsCheck = u64{1} << 31,
+    SetsLines = u64{1} << 32,
 };
 
 // It tells its parent so, of its own accord.

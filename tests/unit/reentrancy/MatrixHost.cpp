@@ -12,6 +12,7 @@ MatrixHost::MatrixHost()
 {
     Recorded = 0;
     NamesKeys = true;
+    Scripts[TooltipPlace] = [](TeskElement&) { g_Bomb.Reach(TooltipPlace); };
     for (const char* event : EventNames)
         Scripts[event] = [event](TeskElement&) { g_Bomb.Reach(event); };
 }

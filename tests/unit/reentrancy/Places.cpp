@@ -71,7 +71,7 @@ void LeaveForNothing()
 void LeaveForSibling()
 {
     Aim();
-    MoveTo(65, 15);
+    MoveTo(85, 15);
 }
 
 void HideUnderTheMouse()
@@ -179,6 +179,19 @@ void ReleaseKey()
     g_UIManager.OnKeyUp('A');
 }
 
+void ChangeFont()
+{
+    TellPart(Self(), "Font", "SetHeight", {"20"});
+}
+
+// As if the mouse had not been moved for a while.
+void RestMouse()
+{
+    Aim();
+    g_UIManager.LastInputTick -= 5000;
+    g_UIManager.Render();
+}
+
 // clang-format off
 constexpr Place Places[] = {
     // what an element says and does as it comes
@@ -208,6 +221,8 @@ constexpr Place Places[] = {
     {"DataParse",            "frame",                 ExpandsText,   Frame},
     {"RetrieveProcessedText", "frame",                EvaluatesText, Frame},
     {"Calculate",            "frame",                 Calculates,    Frame},
+    {TooltipPlace,           "rest",                  EveryKind,     RestMouse},
+    {"DataParse",            "rest",                  EveryKind,     RestMouse},
 
     // the mouse
     {"OnMouseEnter",         "move",                  EveryKind,     Enter},
@@ -249,6 +264,7 @@ constexpr Place Places[] = {
     {"notification 11",      "double click",          Sends(11),     DoubleClickRight},
     {"notification 14",      "move",                  Sends(14),     Enter},
     {"notification 15",      "wheel",                 Sends(15),     TurnWheel},
+    {"notification 50",      "change the font",       HasFont,       ChangeFont},
 };
 // clang-format on
 

@@ -62,14 +62,15 @@ std::string SceneMarkup(const Kind& kind)
     const std::string word = kind.Name;
     const std::string self = "<" + word
         + " name='Self' Template='Look'><X>10</X><Y>10</Y><Height>r50</Height>"
-          "<BackgroundColor>ff000000</BackgroundColor><AutoTooltip>Hint</AutoTooltip><FadeDelay>5</FadeDelay>"
+          "<BackgroundColor>ff000000</BackgroundColor><AutoTooltip>${hint}</AutoTooltip><FadeDelay>5</FadeDelay>"
         + kind.Markup + "<Children><frame name='Child'><Width>5</Width></frame><unknown name='Nobody'/></Children></"
         + word + ">";
     return look
         + "<frame name='Grand'><Width>100%</Width><Height>100</Height><Children>"
           "<listening name='Parent'><Width>100</Width><Height>100</Height><Children>"
         + SiblingMarkup("Elder", 60) + self + SiblingMarkup("Younger", 80)
-        + "</Children></listening></Children></frame>";
+        + "</Children></listening></Children></frame><tooltip name='" + TooltipName + "'><OnRender>" + TooltipPlace
+        + "</OnRender></tooltip>";
 }
 
 std::string PartMarkup()
@@ -144,10 +145,11 @@ bool Tell(TeskElement* element, const char* method, std::initializer_list<const 
     return Dispatch(AsObject(element), method, arguments);
 }
 
-bool TellPart(const char* member, const char* method, std::initializer_list<const char*> arguments)
+bool TellPart(
+    TeskElement* element, const char* member, const char* method, std::initializer_list<const char*> arguments)
 {
-    const _MvTypeVar self = AsObject(Self());
+    const _MvTypeVar object = AsObject(element);
     _MvTypeVar part;
-    return self.Type && self.Type->DispatchMember(self.Value, member, 0, nullptr, part) == DispatchDone
+    return object.Type && object.Type->DispatchMember(object.Value, member, 0, nullptr, part) == DispatchDone
         && Dispatch(part, method, arguments);
 }

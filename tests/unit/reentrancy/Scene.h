@@ -15,6 +15,10 @@ constexpr char SelfName[] = "Self@Parent@Grand";
 constexpr char ElderName[] = "Elder@Parent@Grand";
 constexpr char YoungerName[] = "Younger@Parent@Grand";
 
+// Shows the tooltips of the others. Its script tells a place of its own.
+constexpr char TooltipName[] = "Auto Tooltip";
+constexpr char TooltipPlace[] = "OnRender of the tooltip";
+
 constexpr const char* EventNames[] = {"OnLoad", "OnUnload", "OnLeftClick", "OnRightClick", "OnDoubleLeftClick",
     "OnDoubleRightClick", "OnMouseEnter", "OnMouseExit", "OnMouseMove", "OnMouseWheel", "OnKeyboardEnter",
     "OnKeyboardExit", "OnKeyUp", "OnKeyDown", "OnLeftDown", "OnRightDown", "OnRender"};
@@ -44,5 +48,6 @@ void FocusYounger();
 // Calls a method of an element's script type, as a script does. False: the type does not know it, or there is nobody.
 bool Tell(TeskElement* element, const char* method, std::initializer_list<const char*> arguments = {});
 
-// Asks a member of the script type of the element under test for an object and calls a method of that.
-bool TellPart(const char* member, const char* method, std::initializer_list<const char*> arguments);
+// Asks a member of an element's script type for an object and calls a method of that.
+bool TellPart(
+    TeskElement* element, const char* member, const char* method, std::initializer_list<const char*> arguments);
