@@ -1,6 +1,7 @@
 #pragma once
 
 #include "teskara/core/HostInterface.h"
+#include "teskara/script/MvTypeDefinition.h"
 
 // A host that does nothing: fonts and textures exist, every byte is 6 pixels wide, drawing is counted and thrown away,
 // files are found where their name says, scripts do not compile, and the value of a sequence that was parsed is a word.
@@ -20,7 +21,7 @@ public:
     void RemoveTopLevelObject(const char*) override { }
     void AddType(MvTypeDefinition*) override { }
     void RemoveType(MvTypeDefinition*) override { }
-    MvTypeDefinition* FindType(const char*) override { return nullptr; }
+    MvTypeDefinition* FindType(const char*) override { return &m_Type; }
     void InvalidateTransientObject(u32, void*) override { }
     u32 RegisterTransientClass(const char*) override { return 1; }
     const char* CompleteCommandLine(const char*, bool) override { return nullptr; }
@@ -62,4 +63,7 @@ public:
     u32 LoadTextureResource(const char*, u32) override { return 1; }
     bool GetTextureResourceSize(u32, _Point2i& size) override;
     void ReleaseTextureResource(u32) override { }
+
+private:
+    MvTypeDefinition m_Type = MvTypeDefinition("any"); // stands for all types of the host's
 };

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "teskara/core/AsciiCase.h"
 #include "teskara/core/CIndex.h"
 #include "teskara/core/Types.h"
 #include "teskara/core/utf8string.h"
@@ -7,8 +8,8 @@
 
 #include <cstddef>
 #include <functional>
-#include <map>
 #include <string_view>
+#include <unordered_map>
 
 // The members or the methods of a script type: the records that share a name are chained, the newest first.
 class TypeNameTable
@@ -35,9 +36,15 @@ public:
     u32 NextID(std::string_view name) const;
 
 private:
+    // The names are the program's own, so they need no seed. Case counts, but by the comparison alone.
+    struct Hash {
+        using is_transparent = void;
+        std::size_t operator()(std::string_view name) const noexcept { return FoldedHash(name); }
+    };
+
     std::size_t PositionOf(std::string_view name) const;
 
     CIndex<_MvTypeMember> m_Chains{10}; // owns the records
-    std::map<utf8string, std::size_t, std::less<>> m_Positions; // place among the chains plus one; 0 for none
+    std::unordered_map<utf8string, std::size_t, Hash, std::equal_to<>> m_Positions; // place plus one; 0 for none
     u32 m_NextID = 1;
 };
