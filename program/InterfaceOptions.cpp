@@ -12,7 +12,7 @@ void InterfaceOptions::AddTo(CLI::App& command)
                 if (!Size.Read(text))
                     throw CLI::ValidationError("--size", "'" + text + "' is no size such as 960x640");
             },
-            "Size of the display (960x640)")
+            "Size of the display (1200x675)")
         ->type_name("WxH");
     command.add_option("--skin", Skin, "A skin from the folder interfaces/skins")->type_name("NAME");
     command.add_flag("--trust", Trust, "Give scripts the whole standard library of Lua, with files and processes");

@@ -83,6 +83,45 @@ def panel(name, size, radius, fill, edge, fill_alpha=1.0, edge_alpha=1.0, sheen=
     draw(name, size, size, color_at)
 
 
+def button(name, top, bottom, edge, light=0.16):
+    """A raised plate: lighter at the top, with a line of light below its upper edge."""
+    size, radius = 28, 7
+
+    def color_at(x, y):
+        distance = rounded(x, y, 0, 0, size, size, radius)
+        if distance > 0:
+            return (*edge, 0)
+        if distance > -1:
+            return (*edge, 1)
+        if distance > -2 and y < radius:
+            return (*mix(top, WHITE, light), 1)
+        return (*mix(top, bottom, y / size), 1)
+
+    draw(name, size, size, color_at)
+
+
+def check_box(name, fill, edge, mark=None):
+    """A small box; with a mark of that colour, it is checked."""
+    size, radius = 18, 5
+
+    def color_at(x, y):
+        distance = rounded(x, y, 0, 0, size, size, radius)
+        if distance > 0:
+            return (*edge, 0)
+        if mark and min(segment(x, y, 4.6, 9.2, 7.7, 12.3), segment(x, y, 7.7, 12.3, 13.6, 5.9)) < 1.15:
+            return (*mark, 1)
+        return (*(edge if distance > -1.2 else fill), 1)
+
+    draw(name, size, size, color_at)
+
+
+def segment(x, y, from_x, from_y, to_x, to_y):
+    """Distance from a point to a straight line between two others."""
+    dx, dy = to_x - from_x, to_y - from_y
+    share = max(0, min(1, ((x - from_x) * dx + (y - from_y) * dy) / (dx * dx + dy * dy)))
+    return math.hypot(x - from_x - share * dx, y - from_y - share * dy)
+
+
 def ribbon():
     """A card whose upper edge is a bright band, to be turned to each side."""
     size, radius, band = 40, 10, 4
@@ -164,3 +203,21 @@ glow()
 tile()
 mark()
 backdrop()
+
+PLATE, PLATE_LOW, PLATE_EDGE = (53, 64, 82), (43, 52, 67), (70, 83, 105)
+button("button.png", PLATE, PLATE_LOW, PLATE_EDGE, light=0.10)
+button("button_hover.png", (65, 79, 101), (53, 65, 84), (104, 146, 196), light=0.12)
+button("button_pressed.png", (33, 41, 54), (38, 47, 61), (84, 118, 160), light=0.0)
+button("primary.png", (92, 162, 250), (64, 124, 232), (114, 180, 255))
+button("primary_hover.png", (118, 182, 255), (84, 146, 244), (160, 208, 255))
+button("primary_pressed.png", (48, 98, 196), (56, 110, 212), (92, 162, 250), light=0.0)
+
+check_box("check.png", INSET, (92, 106, 130))
+check_box("check_hover.png", (27, 35, 46), ACCENT)
+check_box("check_pressed.png", (38, 52, 72), ACCENT)
+check_box("checked.png", (74, 138, 240), (104, 168, 255), WHITE)
+check_box("checked_hover.png", (98, 162, 250), (150, 200, 255), WHITE)
+check_box("checked_pressed.png", (52, 104, 204), (92, 162, 250), WHITE)
+
+panel("tooltip.png", 24, 6, (46, 56, 72), (88, 104, 130), sheen=0.15)
+panel("hud.png", 24, 8, (9, 12, 17), (70, 84, 106), fill_alpha=0.72, edge_alpha=0.8)
