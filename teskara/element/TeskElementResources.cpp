@@ -4,6 +4,7 @@
 #include "teskara/core/Limits.h"
 #include "teskara/core/Utf8.h"
 #include "teskara/core/platform/Platform.h"
+#include "teskara/element/ElementWatch.h"
 #include "teskara/element/TeskElement.h"
 #include "teskara/element/TeskFixedFont.h"
 #include "teskara/element/TeskTexture.h"
@@ -13,6 +14,7 @@
 
 #include <memory>
 #include <optional>
+#include <utility>
 
 namespace {
 
@@ -169,10 +171,16 @@ try {
     return false; // no memory
 }
 
+// A kind that reads textures in its own way may end by it.
 bool TeskElement::TextureFromArgs(int argc, char** argv, std::unique_ptr<TeskTexture>& texture)
 {
+    const ElementWatch self(*this);
     TeskTexture* raw = texture.release();
-    const bool made = TextureFromArgs(argc, argv, &raw);
-    texture.reset(raw);
-    return made;
+    TextureFromArgs(argc, argv, &raw);
+    std::unique_ptr<TeskTexture> made(raw);
+    if (!self.Exists())
+        return false;
+
+    texture = std::move(made);
+    return texture != nullptr;
 }

@@ -148,3 +148,23 @@ TEST(ElementTypeReentrancyDeathTest, OfAnElementBeingDestroyedOnlyTheBaseAnswers
         EXPECT_TRUE(g_UIManager.ElementMetadata.empty());
     });
 }
+
+TEST(ElementTypeReentrancyDeathTest, AFrameMayEndWhileItReadsATexture)
+{
+    class Ender : public TeskFrame
+    {
+    public:
+        using TeskFrame::TeskFrame;
+        TeskTexture* TextureFromXML(XMLNode*, const char*, XMLNode*) override
+        {
+            Parent->DeleteChild(this);
+            return TeskTexture::New("late.png");
+        }
+    };
+
+    WithToolkit([](ScriptHost&) {
+        const TeskFactory<Ender> factory("ender");
+        EXPECT_FALSE(ScriptObject(MakeElement("ender", "E")).Do("SetTexture", {"<T Filename='#fill'/>"}));
+        EXPECT_EQ(nullptr, g_UIManager.FindElement("E"));
+    });
+}
