@@ -237,6 +237,8 @@ private:
     void DestroyScreen();
     void CreateScreen();
     bool ExitFocus(TeskElement& element, TeskElement* next);
+    void PutMouseOver(TeskElement& element);
+    TeskElement* LastMouseOver() const;
     TeskElement* EnterMouseOver(const ElementWatch& watch);
 
     // Input routing
@@ -264,6 +266,8 @@ private:
     void RetireTemplate(StoredTemplate node);
 
     u32 m_ElementDeaths = 0;
+    u32 m_MouseOverDeaths = 0; // when m_MouseOver was found; it holds while no more have died
+    TeskElement* m_MouseOver = nullptr;
     u32 m_LoadDepth = 0;
     u32 m_MarkupReaders = 0;
     u32 m_ExitingFocusID = 0;

@@ -101,8 +101,26 @@ TeskElement* CUIManager::GetMouseOverElement()
     if (MouseOverElementID == 0)
         return nullptr;
 
-    TeskElement* element = FindElementByID(MouseOverElementID);
+    TeskElement* element = LastMouseOver();
     return element && element->Visible ? element : SetMouseOverElement();
+}
+
+void CUIManager::PutMouseOver(TeskElement& element)
+{
+    MouseOverElementID = element.ID;
+    m_MouseOver = &element;
+    m_MouseOverDeaths = m_ElementDeaths;
+}
+
+// The element of MouseOverElementID, hidden or not. The index is asked only after a death, or where the id was set by
+// somebody else.
+TeskElement* CUIManager::LastMouseOver() const
+{
+    const bool isStillThere = m_MouseOver && m_MouseOverDeaths == m_ElementDeaths;
+    if (isStillThere && m_MouseOver->ID == MouseOverElementID)
+        return m_MouseOver;
+
+    return FindElementByID(MouseOverElementID);
 }
 
 TeskElement* CUIManager::SetMouseOverElement()
@@ -110,12 +128,12 @@ try {
     // The capturing control relies on being entered again at each search.
     if (TeskElement* capture = FindElementByID(MouseCaptureElementID)) {
         if (TeskElement* found = capture->FindMouseOver(MousePosition, nullptr)) {
-            MouseOverElementID = found->ID;
+            PutMouseOver(*found);
             return EnterMouseOver(ElementWatch(*found));
         }
     }
 
-    TeskElement* old = FindElementByID(MouseOverElementID);
+    TeskElement* old = LastMouseOver();
     TeskElement* found = Screen ? Screen->FindMouseOver(MousePosition, nullptr) : nullptr;
     if (!found) {
         const u32 oldID = MouseOverElementID;
@@ -126,7 +144,7 @@ try {
         return nullptr;
     }
 
-    MouseOverElementID = found->ID;
+    PutMouseOver(*found);
     if (found == old)
         return found;
 
