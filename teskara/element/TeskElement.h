@@ -235,7 +235,10 @@ public:
     }
     bool IsGoing() const { return Stage != LifeStage::Alive; }
 
-    // Sends a notification to the parent, if there is one.
+    // Begins a notification at this element: calls OnNotify, unless too many notifications are nested already.
+    void Notify(TeskElement* source, u32 code, u64 value);
+
+    // Begins one at the parent, if there is one.
     void NotifyParent(u32 code, u64 value);
 
     // Runs one of the element's scripts, if it is there. Afterwards the element may be gone.

@@ -157,12 +157,15 @@ void TeskElement::OnNotify(TeskElement* source, unsigned int code, unsigned long
         Parent->OnNotify(source, code, value);
 }
 
-void TeskElement::NotifyParent(u32 code, u64 value)
+void TeskElement::Notify(TeskElement* source, u32 code, u64 value)
 {
-    if (!Parent)
-        return;
-
     const DepthScope depth(g_NotificationDepth, Limits::NestedNotifications);
     if (depth.Entered())
-        Parent->OnNotify(this, code, value);
+        OnNotify(source, code, value);
+}
+
+void TeskElement::NotifyParent(u32 code, u64 value)
+{
+    if (Parent)
+        Parent->Notify(this, code, value);
 }

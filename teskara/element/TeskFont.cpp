@@ -219,5 +219,5 @@ void TeskFont::SetName(const char* name)
 void TeskFont::TellOwner()
 {
     if (Owner)
-        Owner->OnNotify(nullptr, NotifyFontChanged, reinterpret_cast<std::uintptr_t>(this));
+        Owner->Notify(nullptr, NotifyFontChanged, reinterpret_cast<std::uintptr_t>(this));
 }

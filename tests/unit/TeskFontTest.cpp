@@ -47,6 +47,19 @@ public:
     TeskFont* Font = nullptr;
 };
 
+// Answers each change of its font with another one.
+class RestlessOwner : public Listener
+{
+public:
+    using Listener::Listener;
+    void OnNotify(TeskElement* source, unsigned int code, unsigned long long value) override
+    {
+        Listener::OnNotify(source, code, value);
+        if (code == NotifyFontChanged)
+            Font->SetHeight(static_cast<u8>(Font->Size + 1));
+    }
+};
+
 } // namespace
 
 TEST_F(TeskFontTest, IsMadeByTheHostAtItsFirstUseAndGivenBackAtItsEnd)
@@ -281,4 +294,13 @@ TEST_F(TeskFontTest, ATemplateFillsWhatTheTagLeavesOut)
     EXPECT_TRUE(big->Fixed);
     EXPECT_EQ(8, FontOf("<Template><Font Template='None'/></Template>")->Size);
     EXPECT_EQ(8, FontOf("<Template><Font/></Template>")->Size);
+}
+
+TEST_F(TeskFontTest, AnOwnerThatAnswersAChangeByAChangeIsNotToldForEver)
+{
+    RestlessOwner owner("", nullptr, "Owner");
+    const std::unique_ptr<TeskFont> font(TeskFont::New(&owner, "Sans", 12, false, false));
+    font->SetHeight(13);
+    EXPECT_EQ(256, owner.Count);
+    EXPECT_EQ(static_cast<u8>(13 + 256), font->Size);
 }
