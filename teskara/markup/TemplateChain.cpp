@@ -4,6 +4,7 @@
 #include "teskara/core/Limits.h"
 #include "teskara/core/utf8string.h"
 #include "teskara/markup/XMLAttribute.h"
+#include "teskara/markup/XMLAttributeList.h"
 #include "teskara/markup/XMLHelper.h"
 #include "teskara/markup/XMLNode.h"
 
@@ -46,12 +47,14 @@ std::size_t BytesOf(const XMLNode* top)
     return bytes;
 }
 
-// The template that comes of a chain, entry by entry. Knows its children by tag, so that many of them cost no search.
+// The template that comes of a chain, entry by entry. Knows its attributes by name and its children by tag, so that many
+// of them cost no search.
 class MergedTemplate
 {
 public:
     explicit MergedTemplate(XMLNode* root) : m_Root(root)
     {
+        m_Attributes.Begin(*root);
         for (XMLNode* child = root->FirstChild; child; child = child->Next)
             Note(child);
     }
@@ -60,7 +63,7 @@ public:
     void Merge(XMLNode* source)
     {
         for (XMLAttribute* attribute = source->Attributes; attribute; attribute = attribute->Next)
-            m_Root->SetAttribute(attribute->Name, attribute->Value);
+            SetAttribute(*attribute);
         for (XMLNode* child = source->FirstChild; child; child = child->Next) {
             if (child->Type == XMLElementNode)
                 RemoveFirst(child->Name);
@@ -75,6 +78,12 @@ private:
         std::vector<XMLNode*> Nodes;
         std::size_t Gone = 0;
     };
+
+    void SetAttribute(const XMLAttribute& attribute)
+    {
+        XMLArena& arena = XMLArena::Of(*m_Root);
+        m_Attributes.Set(arena, arena.StoreName(attribute.Name), arena.Store(std::string_view(attribute.Value)));
+    }
 
     void Note(XMLNode* child)
     {
@@ -93,6 +102,7 @@ private:
     }
 
     XMLNode* m_Root;
+    XMLAttributeList m_Attributes;
     std::unordered_map<std::string_view, Namesakes, NameHash, NameEqual> m_ByTag; // names of gone ones stay good
 };
 

@@ -1,7 +1,5 @@
 #include "teskara/markup/XMLAttributeList.h"
 
-#include "teskara/core/Limits.h"
-
 bool XMLAttributeList::Set(XMLArena& arena, const XMLName& name, XMLText value)
 {
     if (!name.Text || !value.Text)
@@ -10,8 +8,6 @@ bool XMLAttributeList::Set(XMLArena& arena, const XMLName& name, XMLText value)
         known->Value = value.Text;
         return true;
     }
-    if (m_Count == Limits::NodeAttributes)
-        return false;
 
     XMLAttribute* const attribute = arena.NewAttribute(name, value);
     if (!attribute)

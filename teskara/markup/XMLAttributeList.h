@@ -7,17 +7,18 @@
 #include <map>
 #include <string_view>
 
-// The attributes of the tag that is being read. Adds at the end without a walk, and finds repeated names through an
-// index once there are more than a few.
+// The attributes of a node that is given many: of the tag that is being read, or of a template that is merged. Adds at
+// the end without a walk, and finds repeated names through an index once there are more than a few.
 class XMLAttributeList
 {
 public:
-    // Begins with a node that has no attributes yet.
+    // Begins with a node and the attributes that it has.
     void Begin(XMLNode& node);
 
-    // The same as the node's SetAttribute, with texts that lie in its arena. False if memory ran out or the node has
-    // as many attributes as it may have.
+    // The same as the node's SetAttribute, with texts that lie in its arena. False if memory ran out.
     bool Set(XMLArena& arena, const XMLName& name, XMLText value);
+
+    u32 Count() const { return m_Count; }
 
 private:
     static constexpr u32 WalkedAtMost = 16;
@@ -39,6 +40,10 @@ inline void XMLAttributeList::Begin(XMLNode& node)
     m_Node = &node;
     m_Last = nullptr;
     m_Count = 0;
+    for (XMLAttribute* attribute = node.Attributes; attribute; attribute = attribute->Next) {
+        m_Last = attribute;
+        ++m_Count;
+    }
     if (!m_Index.empty())
         m_Index.clear();
 }

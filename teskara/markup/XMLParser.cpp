@@ -238,7 +238,12 @@ bool XMLParser::ParseAttribute(XMLNode& node, std::u16string_view nameUnits)
         return FailInAttribute(node, "Invalid quote type in attribute %s", name.Text);
 
     XMLText value;
-    return ParseValue(node, name.Text, token.Type, value) && m_Attributes.Set(*m_Arena, name, value);
+    return ParseValue(node, name.Text, token.Type, value) && SetAttribute(name, value);
+}
+
+bool XMLParser::SetAttribute(const XMLName& name, XMLText value)
+{
+    return m_Attributes.Set(*m_Arena, name, value) && m_Attributes.Count() <= Limits::NodeAttributes;
 }
 
 bool XMLParser::ParseValue(XMLNode& node, const char* name, u32 quote, XMLText& value)

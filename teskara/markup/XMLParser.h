@@ -47,7 +47,8 @@ private:
     bool ParseDoctypeLiterals(bool isPublic);
     bool ParseDoctypeEnd();
     bool ParseLiteral(XMLSpan token, const char* attribute);
-    bool SetAttribute(std::string_view name, std::string_view value);
+    bool StoreAttribute(std::string_view name, std::string_view value);
+    bool SetAttribute(const XMLName& name, XMLText value);
 
     static void Append(std::string& to, std::u16string_view units);
     XMLText Store(std::u16string_view units);

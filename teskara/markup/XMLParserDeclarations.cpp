@@ -111,7 +111,8 @@ bool XMLParser::ParseDoctype()
     const bool isPublic = EqualsNoCase(word, "PUBLIC");
     if (!isPublic && !EqualsNoCase(word, "SYSTEM"))
         return Fail("DOCTYPE Unknown DTD type: %s", token);
-    return SetAttribute("type", isPublic ? "PUBLIC" : "SYSTEM") && ParseDoctypeLiterals(isPublic) && ParseDoctypeEnd();
+    return StoreAttribute("type", isPublic ? "PUBLIC" : "SYSTEM") && ParseDoctypeLiterals(isPublic)
+        && ParseDoctypeEnd();
 }
 
 bool XMLParser::ParseDoctypeLiterals(bool isPublic)
@@ -134,7 +135,7 @@ bool XMLParser::ParseLiteral(XMLSpan token, const char* attribute)
     std::string text;
     for (; token; token = m_Stream.Next()) {
         if (token.Type == XMLDoubleQuoteToken)
-            return SetAttribute(attribute, text);
+            return StoreAttribute(attribute, text);
         Append(text, token.Units);
         if (text.size() > Limits::AttributeValueBytes)
             return false;
@@ -151,11 +152,11 @@ bool XMLParser::ParseDoctypeEnd()
         return false;
 
     token = NextBehindSpace();
-    return token.Type == XMLTextToken && SetAttribute("NDATA", ToUtf8(token.Units))
+    return token.Type == XMLTextToken && StoreAttribute("NDATA", ToUtf8(token.Units))
         && m_Stream.Next().Type == XMLCloseBracketToken;
 }
 
-bool XMLParser::SetAttribute(std::string_view name, std::string_view value)
+bool XMLParser::StoreAttribute(std::string_view name, std::string_view value)
 {
-    return m_Attributes.Set(*m_Arena, m_Arena->StoreName(name), m_Arena->Store(value));
+    return SetAttribute(m_Arena->StoreName(name), m_Arena->Store(value));
 }

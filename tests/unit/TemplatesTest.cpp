@@ -143,6 +143,29 @@ TEST_F(TemplatesTest, LargeTemplatesAreMergedInOneGo)
     EXPECT_EQ(60000u, Count("B"));
 }
 
+TEST_F(TemplatesTest, ManyAttributesAreMergedInOneGo)
+{
+    std::string markup = Large("T0", "", 0, 9000);
+    for (int level = 1; level < 20; ++level)
+        markup += Large("T" + std::to_string(level), "T" + std::to_string(level - 1), 0, 9000);
+    const auto start = std::chrono::steady_clock::now();
+    Load(markup);
+    EXPECT_LT(SecondsSince(start), Patience);
+    XMLNode* merged = g_UIManager.FindTemplate("T19");
+    EXPECT_STREQ("T19", XMLHelper::GetStringAttribute(merged, "name", ""));
+    EXPECT_STREQ("v", XMLHelper::GetStringAttribute(merged, "T08999", ""));
+    EXPECT_STREQ("v", XMLHelper::GetStringAttribute(merged, "T198999", ""));
+}
+
+TEST_F(TemplatesTest, AnAttributeKeepsItsPlaceAndSpellingAndGetsTheValueOfTheLastEntry)
+{
+    Load(R"(<Template name="a" Size="1" Color="red"/><Template name="b" Template="a" SIZE="2" More="3"/>)");
+    std::string attributes;
+    for (XMLAttribute* attribute = g_UIManager.FindTemplate("b")->Attributes; attribute; attribute = attribute->Next)
+        attributes += std::string(attribute->Name) + "=" + attribute->Value + " ";
+    EXPECT_EQ("name=b Size=2 Color=red Template=a More=3 ", attributes);
+}
+
 TEST_F(TemplatesTest, ManyOfOneTagAreReplacedFromTheFirstOn)
 {
     std::string same;
