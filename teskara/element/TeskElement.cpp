@@ -46,7 +46,7 @@ TeskElement::~TeskElement()
     Stage = LifeStage::Gone;
     NotifyParent(NotifyChildGoing, reinterpret_cast<std::uintptr_t>(Name.c_str()));
     if (IsLinked())
-        Unlink();
+        LeaveParent();
     if (g_UIManager.FocusElementID == ID)
         g_UIManager.FocusElementID = 0;
     if (g_UIManager.TooltipElementID == ID)
@@ -79,13 +79,15 @@ void TeskElement::BuildFullName()
 
 void TeskElement::AddChild(TeskElement* child)
 {
-    ChildrenChange(m_ChildCount + 1);
     child->Previous = LastChild;
     if (LastChild)
         LastChild->Next = child;
     else
         FirstChild = child;
     LastChild = child;
+    ++m_ChildCount;
+    if (m_ChildIndex)
+        m_ChildIndex->Enter(*child);
 }
 
 void TeskElement::DeleteChild(TeskElement* child)
@@ -139,38 +141,48 @@ bool TeskElement::IsLinked() const
     return Parent && (Previous || Next || Parent->FirstChild == this);
 }
 
-// The list of children is about to become another one, of so many.
-void TeskElement::ChildrenChange(u32 count)
+// Null if there are fewer children than that, or no memory.
+ChildIndex* TeskElement::IndexOfChildren(u32 leastChildren)
 {
-    m_ChildCount = count;
-    if (m_ChildIndex)
-        m_ChildIndex->Forget();
+    if (m_ChildCount < leastChildren)
+        return nullptr;
+    if (!m_ChildIndex)
+        m_ChildIndex.reset(new (std::nothrow) ChildIndex);
+    return m_ChildIndex.get();
 }
 
 void TeskElement::Unlink()
 {
-    Parent->ChildrenChange(Parent->m_ChildCount - 1);
     (Previous ? Previous->Next : Parent->FirstChild) = Next;
     (Next ? Next->Previous : Parent->LastChild) = Previous;
     Previous = nullptr;
     Next = nullptr;
+    if (Parent->m_ChildIndex)
+        Parent->m_ChildIndex->ForgetOrder();
 }
 
 // Puts the element into its parent's list behind a sibling; null puts it at the head.
 void TeskElement::LinkAfter(TeskElement* sibling)
 {
     ++s_Relinks;
-    Parent->ChildrenChange(Parent->m_ChildCount + 1);
     Previous = sibling;
     Next = sibling ? sibling->Next : Parent->FirstChild;
     (Previous ? Previous->Next : Parent->FirstChild) = this;
     (Next ? Next->Previous : Parent->LastChild) = this;
 }
 
+void TeskElement::LeaveParent()
+{
+    --Parent->m_ChildCount;
+    if (Parent->m_ChildIndex)
+        Parent->m_ChildIndex->Leave(*this);
+    Unlink();
+}
+
 // Takes the element out of the list while it lives on and still names its parent.
 void TeskElement::Detach()
 {
-    Unlink();
+    LeaveParent();
     g_UIManager.EnterDetached(*this);
 }
 
@@ -181,6 +193,10 @@ TeskElement* TeskElement::FindChild(const char* name)
         return nullptr;
 
     FoldAscii(wanted); // as names are kept
+    if (ChildIndex* index = IndexOfChildren(ChildIndex::LeastForNames)) {
+        if (const auto found = index->Find(*this, wanted))
+            return *found;
+    }
     for (TeskElement* child = FirstChild; child; child = child->Next) {
         if (HasName(*child, wanted))
             return child;

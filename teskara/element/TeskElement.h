@@ -368,12 +368,13 @@ private:
     bool IsLinked() const;
     void LinkAfter(TeskElement* sibling);
     void Unlink();
+    void LeaveParent();
     void Detach();
     void UpdateAutoTooltip();
     static void HideAutoTooltip();
     void KeepStart();
     void UpdateAutoFade();
-    void ChildrenChange(u32 count);
+    ChildIndex* IndexOfChildren(u32 leastChildren);
     std::span<TeskElement* const> ChildrenUpTo(const TeskElement& child);
     TeskElement* CandidateFrom(TeskElement* child, const _Point2i& point);
     bool MayBeFoundAt(const _Point2i& point) const { return !FoundInsideOnly || (Visible && Covers(point)); }

@@ -7,7 +7,6 @@
 #include "teskara/element/TeskElement.h"
 
 #include <cmath>
-#include <new>
 
 namespace {
 
@@ -73,10 +72,6 @@ TeskElement* TeskElement::CandidateFrom(TeskElement* child, const _Point2i& poin
 // Empty where the list has to be walked.
 std::span<TeskElement* const> TeskElement::ChildrenUpTo(const TeskElement& child)
 {
-    if (m_ChildCount < ChildIndex::LeastChildren)
-        return {};
-    if (!m_ChildIndex)
-        m_ChildIndex.reset(new (std::nothrow) ChildIndex);
-
-    return m_ChildIndex ? m_ChildIndex->UpTo(*this, child) : std::span<TeskElement* const>();
+    ChildIndex* index = IndexOfChildren(ChildIndex::LeastForPlaces);
+    return index ? index->UpTo(*this, child) : std::span<TeskElement* const>();
 }

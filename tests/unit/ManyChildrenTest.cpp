@@ -7,12 +7,16 @@
 #include "tests/unit/Allocations.h"
 #include "tests/unit/ToolkitTest.h"
 
+#include <ctime>
 #include <string>
 
 namespace {
 
-constexpr int Children = 100;
+constexpr int Children = 200;
 constexpr int Size = 10;
+
+// What loading many children may take, under whatever checks.
+constexpr std::clock_t Patience = 30 * CLOCKS_PER_SEC;
 
 // Found twenty pixels to the left of its rectangle, as only a class of its own can be.
 class ShiftedElement : public TeskElement
@@ -46,7 +50,7 @@ protected:
     // A row of squares, each over half of the one before.
     void LoadRow()
     {
-        std::string row = "<frame name='P'><Width>600</Width><Height>10</Height><Children>";
+        std::string row = "<frame name='P'><Width>1100</Width><Height>10</Height><Children>";
         for (int child = 0; child < Children; ++child) {
             row += "<frame name='c" + std::to_string(child) + "'><X>" + std::to_string(child * Size / 2) + "</X><Width>"
                 + std::to_string(Size) + "</Width><Height>10</Height></frame>";
@@ -65,7 +69,7 @@ protected:
 
     void ExpectAsTheListSays()
     {
-        for (i32 x = -1; x <= 601; ++x)
+        for (i32 x = -1; x <= 1101; ++x)
             ASSERT_EQ(FoundByWalking(Element("P"), {x, 5}), Found(x)) << x;
     }
 };
@@ -118,7 +122,7 @@ TEST_F(ManyChildrenTest, DeletedChildrenAreGoneAndNewOnesThere)
     Element("P").DeleteChild(&Child(50));
     EXPECT_EQ(&Child(49), Found(250));
     TeskElement* added = g_UIManager.LoadElement(&Element("P"), "frame", "new");
-    added->Width = 600;
+    added->Width = 1100;
     added->Height = 10;
     EXPECT_EQ(added, Found(250));
     ExpectAsTheListSays();
@@ -151,6 +155,67 @@ TEST_F(ManyChildrenTest, WithoutMemoryTheListItselfIsWalked)
     EXPECT_EQ(&Child(50), found);
     EXPECT_EQ(&Child(49), below);
     ExpectAsTheListSays();
+}
+
+TEST_F(ManyChildrenTest, AChildIsFoundByItsNameInAnyCase)
+{
+    LoadRow();
+    TeskElement& parent = Element("P");
+    EXPECT_EQ(&Child(0), parent.FindChild("c0"));
+    EXPECT_EQ(&Child(199), parent.FindChild("C199"));
+    EXPECT_EQ(nullptr, parent.FindChild("c200"));
+    EXPECT_EQ(nullptr, parent.FindChild(""));
+    EXPECT_EQ(nullptr, parent.FindChild(nullptr));
+}
+
+TEST_F(ManyChildrenTest, NamesFollowTheChildrenThatComeAndGo)
+{
+    LoadRow();
+    TeskElement& parent = Element("P");
+    EXPECT_EQ(&Child(7), parent.FindChild("c7"));
+    parent.DeleteChild(&Child(7));
+    EXPECT_EQ(nullptr, parent.FindChild("c7"));
+    TeskElement* added = g_UIManager.LoadElement(&parent, "frame", "New");
+    EXPECT_EQ(added, parent.FindChild("new"));
+    Child(8).MoveZTop(false);
+    EXPECT_EQ(&Child(8), parent.FindChild("c8"));
+}
+
+TEST_F(ManyChildrenTest, OfNamesakesTheFirstInTheListIsFound)
+{
+    LoadRow();
+    TeskElement& parent = Element("P");
+    TeskElement* first = parent.FindChild("c9");
+    TeskElement* second = g_UIManager.FindFactory("frame")->Create(&parent, "C9");
+    EXPECT_EQ(first, parent.FindChild("c9"));
+    first->MoveZTop(false);
+    EXPECT_EQ(second, parent.FindChild("c9"));
+    parent.DeleteChild(second);
+    EXPECT_EQ(first, parent.FindChild("c9"));
+    EXPECT_EQ(&Child(10), parent.FindChild("c10"));
+}
+
+TEST_F(ManyChildrenTest, WithoutMemoryForTheirNamesTheListIsWalked)
+{
+    LoadRow();
+    TeskElement& parent = Element("P");
+    Allocations::FailAfter(1, Allocations::Failing::FromThenOn);
+    TeskElement* found = parent.FindChild("c150");
+    TeskElement* missing = parent.FindChild("c200");
+    Allocations::Allow();
+    EXPECT_EQ(&Child(150), found);
+    EXPECT_EQ(nullptr, missing);
+}
+
+TEST_F(ManyChildrenTest, ThirtyThousandSiblingsLoadWithoutAWalkForEach)
+{
+    std::string markup = "<frame name='P'><Children>";
+    for (int child = 0; child < 30000; ++child)
+        markup += "<frame name='A rather long name of child number " + std::to_string(child) + "'/>";
+    const std::clock_t start = std::clock();
+    Load(markup + "</Children></frame>");
+    EXPECT_NE(nullptr, Element("P").FindChild("a rather long name of child number 29999"));
+    EXPECT_LT(std::clock() - start, Patience);
 }
 
 TEST_F(ManyChildrenTest, SearchesAllocateOnceUntilTheListChanges)
