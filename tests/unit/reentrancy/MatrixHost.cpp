@@ -8,6 +8,12 @@
 #include <fstream>
 #include <unistd.h>
 
+bool MatrixScripts::ParseTypedValue(const char*, _MvTypeVar& result, u32)
+{
+    g_Bomb.Reach("ParseTypedValue");
+    return AskSelf("Texture", result);
+}
+
 MatrixHost::MatrixHost()
 {
     Recorded = 0;

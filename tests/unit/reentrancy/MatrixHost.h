@@ -6,6 +6,20 @@
 #include <map>
 #include <string>
 
+// The second table: a reference always leads to the texture of the element under test.
+class MatrixScripts final : public HostScriptInterface
+{
+public:
+    bool ParseTypedValue(const char* text, _MvTypeVar& result, u32 flag) override;
+    MvTypeDefinition* FindTypeByName(const char*, u32, u32) override { return nullptr; }
+    char* MakeTempBuffer(std::size_t, const char*) override { return nullptr; }
+    u32 RegisterTransientClass2(const char*) override { return 1; }
+    void InvalidateTransientObject2(u32, void*) override { }
+    u32 CreateQuery(MvTypeDefinition*, const char*, u32) override { return 0; }
+    bool EvaluateQuery(u32, _MvTypeVar&, bool&) override { return false; }
+    void FreeQuery(u32) override { }
+};
+
 // A host that tells the bomb where the toolkit calls out, and keeps books of what it lends.
 class MatrixHost : public TestHost
 {
@@ -20,6 +34,7 @@ public:
     int DataParse(const char* text, char* output, u32 size) override;
     bool Calculate(const char* text, double& result) override;
     void PrintLine(const char* format, ...) override;
+    HostScriptInterface* GetScriptInterface() override { return &m_Scripts; }
     u32 CompileAtom(const char* source, u32 length) override;
     void ReleaseAtom(u32 atom) override;
     int ExecuteAtom(u32 atom, u32 unused, int argc, char** argv, _MvTypeVar* self) override;
@@ -37,5 +52,6 @@ public:
     HostBooks Books;
 
 private:
+    MatrixScripts m_Scripts;
     u32 m_LastSequence = 0;
 };

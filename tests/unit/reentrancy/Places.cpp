@@ -184,6 +184,48 @@ void ChangeFont()
     TellPart(Self(), "Font", "SetHeight", {"20"});
 }
 
+// --- The same through script types: what a script does runs other scripts.
+
+void CallDestroy()
+{
+    Tell(Self(), "Destroy");
+}
+
+void CallLeftClick()
+{
+    Tell(Self(), "LeftClick");
+}
+
+void CallRightClick()
+{
+    Tell(Self(), "RightClick");
+}
+
+void CallSetFocus()
+{
+    Tell(Self(), "SetFocus");
+}
+
+void CallAddChild()
+{
+    Tell(Self(), "AddChild", {"frame", "New", "<frame><OnLoad>OnLoad</OnLoad></frame>"});
+}
+
+void CallSetWidthOfParent()
+{
+    Tell(g_UIManager.FindElement("Parent@Grand"), "SetWidth", {"300"});
+}
+
+void CallSetWrap()
+{
+    Tell(Self(), "SetWrap", {"1 + 1"});
+}
+
+void CallCopyTexture()
+{
+    TellPart(Self(), "Texture", "Copy", {"UIElement[Self@Parent@Grand].Texture"});
+}
+
 // As if the mouse had not been moved for a while.
 void RestMouse()
 {
@@ -254,6 +296,17 @@ constexpr Place Places[] = {
     {"OnKeyboardExit",       "press nothing",         EveryKind,     PressNothingWithFocus},
     {"OnKeyDown",            "key",                   EveryKind,     PressKey},
     {"OnKeyUp",              "key",                   EveryKind,     ReleaseKey},
+
+    // what scripts call
+    {"OnUnload",             "Destroy",               EveryKind,     CallDestroy},
+    {"OnLeftDown",           "LeftClick",             EveryKind,     CallLeftClick},
+    {"OnLeftClick",          "LeftClick",             EveryKind,     CallLeftClick},
+    {"OnRightClick",         "RightClick",            EveryKind,     CallRightClick},
+    {"OnKeyboardEnter",      "SetFocus",              EveryKind,     CallSetFocus},
+    {"OnLoad",               "AddChild",              EveryKind,     CallAddChild},
+    {"SizeRecalculated",     "SetWidth",              IsForeign,     CallSetWidthOfParent},
+    {"Calculate",            "SetWrap",               ExpandsText | SetsText, CallSetWrap},
+    {"ParseTypedValue",      "Copy",                  HasTexture,    CallCopyTexture},
 
     // what the parent hears
     {"notification 1",       "click",                 Sends(1),      ClickLeft},

@@ -44,6 +44,12 @@ _MvTypeVar AsObject(TeskElement* element)
     return object;
 }
 
+bool Ask(TeskElement* element, const char* member, _MvTypeVar& result)
+{
+    const _MvTypeVar object = AsObject(element);
+    return object.Type && object.Type->DispatchMember(object.Value, member, 0, nullptr, result) == DispatchDone;
+}
+
 } // namespace
 
 TeskElement* Self()
@@ -145,11 +151,14 @@ bool Tell(TeskElement* element, const char* method, std::initializer_list<const 
     return Dispatch(AsObject(element), method, arguments);
 }
 
+bool AskSelf(const char* member, _MvTypeVar& result)
+{
+    return Ask(Self(), member, result);
+}
+
 bool TellPart(
     TeskElement* element, const char* member, const char* method, std::initializer_list<const char*> arguments)
 {
-    const _MvTypeVar object = AsObject(element);
     _MvTypeVar part;
-    return object.Type && object.Type->DispatchMember(object.Value, member, 0, nullptr, part) == DispatchDone
-        && Dispatch(part, method, arguments);
+    return Ask(element, member, part) && Dispatch(part, method, arguments);
 }

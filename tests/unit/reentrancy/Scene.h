@@ -5,6 +5,7 @@
 #include <initializer_list>
 
 struct Kind;
+struct _MvTypeVar;
 
 // The file that the scene comes from, and another one to be loaded in the middle of everything.
 constexpr char SceneFile[] = "scene.xml";
@@ -47,6 +48,9 @@ void FocusYounger();
 
 // Calls a method of an element's script type, as a script does. False: the type does not know it, or there is nobody.
 bool Tell(TeskElement* element, const char* method, std::initializer_list<const char*> arguments = {});
+
+// Asks a member of the element under test. False: there is no value.
+bool AskSelf(const char* member, _MvTypeVar& result);
 
 // Asks a member of an element's script type for an object and calls a method of that.
 bool TellPart(
