@@ -25,14 +25,6 @@ std::string HudMarkup(int interval)
     return markup + "</Tesk>";
 }
 
-std::string DrawsOfFrame()
-{
-    const NullHost& host = StartedHost();
-    const u64 before = host.Draws;
-    g_UIManager.Render();
-    return " draws=" + std::to_string(host.Draws - before);
-}
-
 // A frame of them all, in the mean of those with and without an evaluation.
 void FrameOfHud(benchmark::State& state, int interval)
 {

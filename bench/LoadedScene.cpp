@@ -52,3 +52,11 @@ std::string ElementCount()
 {
     return "elements=" + std::to_string(g_UIManager.ElementsByID.size() - 1);
 }
+
+std::string DrawsOfFrame()
+{
+    const NullHost& host = StartedHost();
+    const u64 before = host.Draws;
+    g_UIManager.Render();
+    return " draws=" + std::to_string(host.Draws - before);
+}

@@ -35,3 +35,6 @@ public:
 
 // How many elements live at present, the screen left out; for the note of a benchmark.
 std::string ElementCount();
+
+// Draws a frame and tells how much the host was given to draw; for the same note.
+std::string DrawsOfFrame();

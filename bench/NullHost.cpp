@@ -2,6 +2,7 @@
 
 #include <cstdarg>
 #include <cstdio>
+#include <cstring>
 
 namespace {
 
@@ -18,7 +19,11 @@ int NullHost::DataParse(const char* text, char* output, u32 size)
 
 bool NullHost::RetrieveProcessedText(u32, char* buffer, u32 size)
 {
-    std::snprintf(buffer, size, "value");
+    constexpr char value[] = "value";
+    if (size < sizeof(value))
+        return false;
+
+    std::memcpy(buffer, value, sizeof(value));
     return true;
 }
 
