@@ -30,11 +30,29 @@ __attribute__((format(printf, 1, 2))) std::string Format(const char* format, ...
 // Fonts and colours that every text and panel of the scene shares.
 const char* const Templates =
     "<Template name=\"text\"><Font><Name>Sans</Name><Size>13</Size><Color>FFE0E0E0</Color></Font></Template>\n"
+    "<Template name=\"button\"><Font><Name>Sans</Name><Size>13</Size><Color>FFE0E0E0</Color></Font>"
+    "<BackgroundColor>FF304050</BackgroundColor></Template>\n"
+    "<Template name=\"checkbox\"><Font><Name>Sans</Name><Size>13</Size><Color>FFE0E0E0</Color></Font>"
+    "<Texture Filename=\"#box\"/><TextureChecked Filename=\"#checked\"/></Template>\n"
     "<Template name=\"frame\"><BackgroundColor>FF202830</BackgroundColor></Template>\n";
 
 std::string Geometry(int x, int y, int width, int height)
 {
     return Format("<X>%d</X><Y>%d</Y><Height>%d</Height><Width>%d</Width>", x, y, height, width);
+}
+
+const char* WordOf(Kind kind)
+{
+    switch (kind) {
+    case Kind::Text:
+        return "text";
+    case Kind::Button:
+        return "button";
+    case Kind::Check:
+        return "checkbox";
+    default:
+        return "frame";
+    }
 }
 
 std::string Caption(Kind kind, int window, int child)
@@ -58,10 +76,9 @@ std::string Child(int window, int child)
     const std::string geometry =
         Geometry(child % Columns * CellWidth, child / Columns * CellHeight, ChildWidth, ChildHeight);
     const std::string caption = Caption(kind, window, child);
-    if (caption.empty())
-        return Format("<frame name=\"c%02d\">%s</frame>\n", child, geometry.c_str());
-
-    return Format("<text name=\"c%02d\">%s<Text>%s</Text></text>\n", child, geometry.c_str(), caption.c_str());
+    const std::string text = caption.empty() ? caption : "<Text>" + caption + "</Text>";
+    const char* word = WordOf(kind);
+    return Format("<%s name=\"c%02d\">%s%s</%s>\n", word, child, geometry.c_str(), text.c_str(), word);
 }
 
 } // namespace

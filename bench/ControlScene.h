@@ -3,8 +3,8 @@
 #include <string>
 
 // The scene that other toolkits are measured on too: 100 windows side by side on a surface of 9000 by 4600 pixels, each
-// with 100 children in rows of five, 10,100 elements in all. Kinds that are not built yet are stood in for: a window, a
-// slider and a panel by a frame, a button and a check box by a text.
+// with 100 children in rows of five, 10,100 elements in all. Kinds that are not built yet are stood in for: a window
+// and a slider by a frame, as is a panel.
 namespace ControlScene {
 
 constexpr int Windows = 100;
