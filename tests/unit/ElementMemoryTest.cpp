@@ -24,6 +24,9 @@ constexpr char Interface[] = R"(<Tesk>
         <Width>100</Width><Height>50</Height><Wrap>1</Wrap><Text>words that are wrapped into several lines</Text></text>
       <text name="Live"><Width>100</Width><Height>50</Height><Text>${Time} and some more text behind</Text></text>
       <frame name="Last"><Width>10%</Width><Height>r5</Height><BackgroundColor>ff0000ff</BackgroundColor></frame>
+      <hudelement name="A HUD element with a long name"><Text>${Time} and some more text behind</Text>
+        <Group>a word that is too long to stand in the object itself</Group></hudelement>
+      <tooltip name="A tooltip with a name that is long"/>
     </Children>
   </frame>
 </Tesk>)";

@@ -1,5 +1,7 @@
 #include "teskara/controls/TeskFrame.h"
+#include "teskara/controls/TeskHudElement.h"
 #include "teskara/controls/TeskText.h"
+#include "teskara/controls/TeskTooltip.h"
 #include "teskara/core/CUIManager.h"
 #include "teskara/element/TeskScreen.h"
 #include "tests/unit/Allocations.h"
@@ -31,7 +33,7 @@ protected:
     ResourceMemoryTest()
     {
         Host.Recorded = 0;
-        Load("<frame name='F'/><text name='T'/>");
+        Load("<frame name='F'/><text name='T'/><hudelement name='H'/><tooltip name='L'/>");
         System.Files = {u"a.tga"};
         Markup = g_UIManager.AddTemplate("M",
             ("<Template><Texture Filename='a.tga'/><Font><Name>" + std::string(LongText) + "</Name></Font><Text>"
@@ -87,4 +89,47 @@ TEST_F(ResourceMemoryTest, AFrameWithoutMemoryLeavesOutWhatNeedsIt)
     auto& text = As<TeskText>("T");
     text.SetText(("${" + std::string(5000, 'a') + "}").c_str());
     WithFailingAllocations([] { g_UIManager.Render(); });
+}
+
+TEST_F(ResourceMemoryTest, AHudElementWithoutMemoryShowsNothingUntilItIsUpdated)
+{
+    auto& hud = As<TeskHudElement>("H");
+    hud.SetText(LongText);
+    WithFailingAllocations([&] { hud.SetText(LongText); });
+    EXPECT_EQ(LongText, *hud.CurrentText);
+    hud.CurrentText.reset();
+    WithFailingAllocations([] { g_UIManager.Render(); });
+    g_UIManager.Render();
+    EXPECT_EQ(LongText, *hud.CurrentText);
+}
+
+TEST_F(ResourceMemoryTest, ATooltipLeavesOutLinesForWhichThereIsNoMemory)
+{
+    auto& tooltip = As<TeskTooltip>("L");
+    const std::string twoLines = std::string(LongText) + "\n" + LongText;
+    WithFailingAllocations([&] {
+        tooltip.Print(twoLines.c_str());
+        std::size_t lines = 0;
+        for (std::size_t place = 0; place < tooltip.Lines.Size(); ++place)
+            lines += tooltip.Lines.Get(place) != nullptr;
+        EXPECT_EQ(lines, tooltip.LineCount);
+        EXPECT_GE(2u, lines);
+        tooltip.Reset();
+    });
+    tooltip.AddLine("short");
+    const std::string longer = std::string(LongText) + "${x}";
+    Allocations::FailAfter(0, Allocations::Failing::FromThenOn);
+    tooltip.Lines.Get(0)->Set(longer.c_str());
+    Allocations::Allow();
+    EXPECT_EQ("short", tooltip.Lines.Get(0)->Text);
+    EXPECT_FALSE(tooltip.Lines.Get(0)->HasData);
+}
+
+TEST_F(ResourceMemoryTest, AFrameWithoutMemoryLeavesOutTheLineThatNeedsIt)
+{
+    auto& tooltip = As<TeskTooltip>("L");
+    tooltip.AddLine(("${" + std::string(5000, 'a') + "}").c_str());
+    tooltip.Show(true);
+    WithFailingAllocations([] { g_UIManager.Render(); });
+    EXPECT_EQ(1u, tooltip.LineCount);
 }

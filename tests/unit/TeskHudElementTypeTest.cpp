@@ -34,6 +34,7 @@ TEST(TeskHudElementTypeDeathTest, MembersTellTheFields)
         EXPECT_EQ(hud.Font.get(), object.Follow("Font").Value().Object);
         EXPECT_EQ("int -1", object.Get("UpdateInterval"));
         EXPECT_EQ("unknown", object.Get("CurrentText"));
+        EXPECT_EQ("string H", object.Get("FullName")); // a name of the base
     });
 }
 
