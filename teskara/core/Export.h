@@ -10,3 +10,13 @@
 #else
 #define TESKARA_EXPORT __attribute__((visibility("default")))
 #endif
+
+// Keeps a function with a large buffer apart from its callers, so that the buffer is off the stack again before they go
+// on to children.
+#if defined(__GNUC__)
+#define TESKARA_NOINLINE __attribute__((noinline))
+#elif defined(_MSC_VER)
+#define TESKARA_NOINLINE __declspec(noinline)
+#else
+#define TESKARA_NOINLINE
+#endif
