@@ -68,7 +68,7 @@ std::optional<bool> HitTest(TeskElement& element, const Arguments& arguments)
 
 // --- Clicks
 
-// The middle of what would be the element's rectangle if its coordinates were twice as large. Scripts rely on it.
+// Lies off the element's middle by half of its X and half of its Y. Scripts rely on it.
 _Point2i LeftPoint(const TeskElement& element)
 {
     const u32 x = WrapAdd<u32>(element.Width, element.X) >> 1;
@@ -76,7 +76,7 @@ _Point2i LeftPoint(const TeskElement& element)
     return {WrapAdd(x, element.X), WrapAdd(y, element.Y)};
 }
 
-// Lies beside the other by more than the element's width.
+// Lies one and a half widths to the right of that.
 _Point2i RightPoint(const TeskElement& element)
 {
     const u32 farEdge = WrapAdd<u32>(element.Width, element.X);
@@ -103,7 +103,7 @@ template <MouseEvent Press, MouseEvent Release> void Click(TeskElement& element)
 
 // --- Other methods
 
-// Children follow, but not the element's own parts that would hear of a resize.
+// The children follow; the element itself hears nothing of its new size.
 template <auto Dimension> bool SetDimension(TeskElement& element, const Arguments& arguments)
 {
     element.*Dimension = static_cast<u32>(arguments.Integer(0));

@@ -5,6 +5,7 @@
 #include "teskara/element/TeskTexture.h"
 #include "teskara/script/ScriptTable.h"
 #include "teskara/script/ToolkitType.h"
+#include "tests/unit/Allocations.h"
 #include "tests/unit/ScriptValues.h"
 
 #include <gtest/gtest.h>
@@ -157,6 +158,43 @@ TEST(TypeTablesDeathTest, ARowDoesNotAnswerWithTooFewArguments)
                 }
             }
         }
+    });
+}
+
+// Each allocation behind a row fails in turn. What a test needs itself is made before.
+TEST(TypeTablesDeathTest, ARowWithoutMemoryThrowsNothing)
+{
+    char kind[] = "frame";
+    char name[] = "Child";
+    char markup[] = "<x><Width>10</Width><Texture Filename='#fill'/><OnLoad>script</OnLoad></x>";
+    char skin[] = "Skin";
+    char* argv[] = {kind, name, markup, skin};
+    const auto ask = [&](const ScriptRow& row, bool isMember, std::size_t failure) {
+        TeskElement& element = MakeElement("frame", "Asked");
+        const ScriptObject object(element);
+        const u32 id = element.ID;
+        _MvTypeVar result;
+        Allocations::FailAfter(failure, Allocations::Failing::Once);
+        if (isMember)
+            object.Type().DispatchMember(object.Value(), row.Name, 4, argv, result);
+        else
+            object.Type().DispatchMethod(object.Value(), row.Name, 4, argv);
+        Allocations::Allow();
+        if (TeskElement* left = g_UIManager.FindElementByID(id))
+            g_UIManager.Screen->DeleteChild(left);
+    };
+    WithToolkit([&](ScriptHost& host) {
+        g_UIManager.NewSkin(skin);
+        for (std::size_t failure = 0; failure < 40; ++failure) {
+            for (const char* type : {"teskelement", "teskframe"}) {
+                for (const ScriptRow& row : MembersOf(host.Type(type)))
+                    ask(row, true, failure);
+                for (const ScriptRow& row : MethodsOf(host.Type(type)))
+                    ask(row, false, failure);
+            }
+        }
+        EXPECT_EQ(nullptr, g_UIManager.Screen->FirstChild);
+        EXPECT_EQ(nullptr, g_UIManager.CurrentSkin);
     });
 }
 
