@@ -1,6 +1,7 @@
 #include "host/script/GuardedFunctions.h"
 
 #include "host/script/LuaState.h"
+#include "host/script/PatternFunctions.h"
 
 #include <string_view>
 
@@ -48,14 +49,33 @@ int ProtectedCall(lua_State* thread)
     return FinishCall(thread, lua_pcallk(thread, lua_gettop(thread) - 2, LUA_MULTRET, 0, 0, FinishCall), 0);
 }
 
+// The handler, at the bottom of the stack, is called once the error has ended what it ended. While an error of the limits
+// is raised nothing is counted, and a handler would run without limits.
+int FinishCallWithHandler(lua_State* thread, int status, lua_KContext)
+{
+    if (!HasFailed(status))
+        return lua_gettop(thread) - 1;
+
+    LetLimitsPass(thread, status);
+    lua_pushvalue(thread, 1);
+    lua_insert(thread, -2);
+    lua_call(thread, 1, 1);
+    lua_pushboolean(thread, false);
+    lua_insert(thread, -2);
+    return 2;
+}
+
 int ProtectedCallWithHandler(lua_State* thread)
 {
-    const int arguments = lua_gettop(thread) - 2;
     luaL_checktype(thread, 2, LUA_TFUNCTION);
+    lua_pushvalue(thread, 2);
+    lua_remove(thread, 2);
+    lua_insert(thread, 1);
     lua_pushboolean(thread, true);
-    lua_pushvalue(thread, 1);
-    lua_rotate(thread, 3, 2);
-    return FinishCall(thread, lua_pcallk(thread, arguments, LUA_MULTRET, 2, 2, FinishCall), 2);
+    lua_insert(thread, 2);
+    const int arguments = lua_gettop(thread) - 3;
+    const int status = lua_pcallk(thread, arguments, LUA_MULTRET, 0, 0, FinishCallWithHandler);
+    return FinishCallWithHandler(thread, status, 0);
 }
 
 // --- Coroutines
@@ -243,15 +263,16 @@ void AddGuardedString(lua_State* thread)
     lua_pushcclosure(thread, Repeat, 1);
     lua_setfield(thread, -3, "rep");
     lua_pop(thread, 1);
+    AddPatternFunctions(thread);
 }
 
 constexpr luaL_Reg CallFunctions[] = {
     {"pcall", ProtectedCall},
-    {"xpcall", ProtectedCallWithHandler},
     {nullptr, nullptr},
 };
 
 constexpr luaL_Reg BaseFunctions[] = {
+    {"xpcall", ProtectedCallWithHandler},
     {"load", Load},
     {"rawset", RawSet},
     {"setmetatable", SetMetatable},
@@ -266,14 +287,14 @@ constexpr luaL_Reg CoroutineFunctions[] = {
 
 } // namespace
 
-void AddGuardedCalls(lua_State* thread)
+void AddGuardedCall(lua_State* thread)
 {
     luaL_setfuncs(thread, CallFunctions, 0);
 }
 
 void AddGuardedBase(lua_State* thread)
 {
-    AddGuardedCalls(thread);
+    AddGuardedCall(thread);
     luaL_setfuncs(thread, BaseFunctions, 0);
 }
 

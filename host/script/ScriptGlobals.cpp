@@ -24,8 +24,7 @@ const LibraryRow Libraries[] = {
             "tointeger", "type", "ult"}},
     {"os", luaopen_os, {"clock", "date", "difftime", "time"}},
     {"string", luaopen_string,
-        {"byte", "char", "format", "len", "lower", "pack", "packsize", "reverse", "unpack", "upper", "find", "match",
-            "gmatch", "gsub"}},
+        {"byte", "char", "format", "len", "lower", "pack", "packsize", "reverse", "unpack", "upper"}},
     {"table", luaopen_table, {"pack", "unpack"}},
     {"utf8", luaopen_utf8, {"char", "charpattern", "codepoint", "codes", "len", "offset"}},
 };
@@ -87,7 +86,7 @@ void OpenAll(lua_State* thread)
         lua_settable(thread, -5);
     }
     lua_pop(thread, 1);
-    AddGuardedCalls(thread);
+    AddGuardedCall(thread);
     lua_getfield(thread, -1, "coroutine");
     AddGuarded(thread, "coroutine");
     lua_pop(thread, 1);
