@@ -22,9 +22,10 @@ public:
     // measure(byte) gives the width of a byte in pixels.
     template <class Measure> static u64 ByPixels(char* text, u64 width, u64* reached, Measure measure)
     {
-        TextSplit split(text, width, reached);
+        char output[BufferSize];
+        TextSplit split(text, output, width, reached);
         const u64 lines = split.Run(measure);
-        *std::copy_n(split.m_Output, split.m_Length, text) = 0;
+        *std::copy_n(output, split.m_Length, text) = 0;
         return lines;
     }
 
@@ -32,7 +33,10 @@ public:
     static TESKARA_EXPORT u64 ByColumns(char* text, u64 columns, u64* reached);
 
 private:
-    TextSplit(const char* input, u64 width, u64* reached) : m_Input(input), m_Width(width), m_Reached(reached) { }
+    TextSplit(const char* input, char* output, u64 width, u64* reached)
+        : m_Input(input), m_Output(output), m_Width(width), m_Reached(reached)
+    {
+    }
 
     template <class Measure> u64 Run(Measure measure)
     {
@@ -107,6 +111,7 @@ private:
     }
 
     const char* m_Input;
+    char* m_Output; // an array in here would keep the other fields out of registers
     u64 m_Width;
     u64* m_Reached;
     u64 m_Lines = 1;
@@ -114,5 +119,4 @@ private:
     const char* m_Space = nullptr; // the last one on this line
     std::size_t m_LengthAtSpace = 0;
     std::size_t m_Length = 0;
-    char m_Output[BufferSize];
 };
