@@ -98,6 +98,15 @@ int EventHost::ExecuteAtom(u32 atom, u32, int, char**, _MvTypeVar* self)
     return 0;
 }
 
+bool EventHost::LocateFile(const char* name, char* path)
+{
+    if (std::strcmp(name, "part") != 0)
+        return ChaosHost::LocateFile(name, path);
+
+    std::strcpy(path, Part.c_str());
+    return !Refuses();
+}
+
 bool EventHost::GetDisplaySize(int& width, int& height)
 {
     width = m_Width;

@@ -12,6 +12,8 @@
 class EventHost final : public ChaosHost
 {
 public:
+    std::string Part; // what LocateFile finds by that name; all other names lead to File
+
     // Numbers of the places where the host acts: the events first, then the other calls.
     static constexpr u8 Places = 32;
 
@@ -30,6 +32,7 @@ public:
     HostScriptInterface* GetScriptInterface() override;
     u32 CompileAtom(const char* source, u32 length) override;
     int ExecuteAtom(u32 atom, u32 unused, int argc, char** argv, _MvTypeVar* self) override;
+    bool LocateFile(const char* name, char* path) override;
     bool GetDisplaySize(int& width, int& height) override;
 
 protected:

@@ -93,3 +93,10 @@ std::string EventSceneMarkup(u8 seed)
         + ElementMarkup("frame", "box", Place(0, 200, 800, 400) + "<Children>" + inner + "</Children>")
         + "<tooltip name='Auto Tooltip'/></Tesk>";
 }
+
+std::string EventPartMarkup()
+{
+    const std::string text = ElementMarkup("text", "words", Place(0, 0, 20, 20));
+    return "<Tesk>" + ElementMarkup("frame", "part", Place(20, 20, 60, 60) + "<Children>" + text + "</Children>")
+        + ElementMarkup("button", "frame", Place(100, 20, 60, 60)) + "</Tesk>";
+}

@@ -14,7 +14,8 @@
 namespace {
 
 constexpr char Skin[] = "a";
-constexpr char File[] = "f";
+constexpr char Scene[] = "f";
+constexpr char Part[] = "part";
 constexpr char Template[] = "all";
 
 void DeleteElement(TeskElement* element)
@@ -139,9 +140,9 @@ constexpr HostileAct Acts[] = {
     {"remove templates",   [](TeskElement&, u8) { g_UIManager.ClearTemplates(); }},
     {"replace template",   [](TeskElement&, u8) { g_UIManager.AddTemplate(Template, "<Template><Width>7</Width></Template>"); }},
     {"remove skin",        [](TeskElement&, u8) { g_UIManager.RemoveSkin(Skin); }},
-    {"load",               [](TeskElement&, u8 argument) { g_UIManager.LoadInterfaceXML(File, argument % 2 != 0, g_UIManager.FindSkin(Skin)); }},
-    {"load into self",     [](TeskElement& self, u8) { g_UIManager.LoadInterfaceXML(&self, File, false, nullptr); }},
-    {"unload",             [](TeskElement&, u8) { g_UIManager.UnloadInterfaceXML(File); }},
+    {"load",               [](TeskElement&, u8 argument) { g_UIManager.LoadInterfaceXML(argument & 2u ? Scene : Part, argument % 2 != 0, g_UIManager.FindSkin(Skin)); }},
+    {"load into self",     [](TeskElement& self, u8) { g_UIManager.LoadInterfaceXML(&self, Part, false, nullptr); }},
+    {"unload",             [](TeskElement&, u8 argument) { g_UIManager.UnloadInterfaceXML(argument & 2u ? Scene : Part); }},
     {"focus self",         [](TeskElement& self, u8) { g_UIManager.SetFocusElement(&self); }},
     {"focus another",      [](TeskElement&, u8 argument) { g_UIManager.SetFocusElement(FindByPlace(argument)); }},
     {"focus nobody",       [](TeskElement&, u8) { g_UIManager.SetFocusElement(nullptr); }},

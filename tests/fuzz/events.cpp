@@ -99,10 +99,11 @@ try {
     return;
 }
 
+// What was deleted comes back. A scene that is there stays, since loading is what takes the time of an input.
 void LoadAgain(Decisions&)
 {
-    g_UIManager.Reset();
-    g_UIManager.LoadInterfaceXML("f", true, nullptr);
+    if (g_UIManager.Screen && !g_UIManager.Screen->FirstChild)
+        g_UIManager.LoadInterfaceXML("f", true, nullptr);
 }
 
 // clang-format off
@@ -174,15 +175,19 @@ void Finish(EventHost& host)
 
 extern "C" int LLVMFuzzerTestOneInput(const u8* data, std::size_t size)
 {
-    static const MemoryFile file;
+    static const MemoryFile scene;
+    static const MemoryFile part;
     EventHost& host = StartedHost();
     Decisions bytes;
     bytes.Take(data, size);
     StartAnew(host);
 
     const std::string markup = EventSceneMarkup(bytes.Next());
-    file.Write(markup.data(), markup.size());
-    host.File = file.Path();
+    scene.Write(markup.data(), markup.size());
+    host.File = scene.Path();
+    const std::string partMarkup = EventPartMarkup();
+    part.Write(partMarkup.data(), partMarkup.size());
+    host.Part = part.Path();
     g_UIManager.LoadInterfaceXML("f", true, nullptr);
     RunSteps(bytes);
     Finish(host);

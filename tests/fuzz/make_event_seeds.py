@@ -49,6 +49,7 @@ def click(button="left"):
 
 
 FRAME = step("frame")
+LOAD = act(0, "reset") + step("load again")
 TOUR = FRAME + step("move", OVER_FIRST) + click() + click("right") + step("wheel", 120) + FRAME
 
 SEEDS = {
@@ -65,14 +66,14 @@ SEEDS = {
     + b"".join(step("resize", 0xf8 + n, THE_END - n) + FRAME for n in range(8)),
     "clock_wraps": b"\3" + FRAME + step("long time", 255) + FRAME + step("move", OVER_FIRST) + step("long time", 2)
     + FRAME + step("double click") + FRAME,
-    "refusing_host": b"\4" + b"".join(step("refuse each", n) + step("load again") + TOUR for n in (1, 2, 3, 7)),
+    "refusing_host": b"\4" + b"".join(step("refuse each", n) + LOAD + TOUR for n in (1, 2, 3, 7)),
     "deleted_in_click": b"\5" + arm("OnLeftClick", "delete self") + arm("OnRightDown", "delete parent") + TOUR,
     "deleted_in_frame": b"\6" + arm("OnRender", "delete next", 0, MANY) + FRAME + FRAME
     + arm("RetrieveProcessedText", "delete another", 3) + FRAME + FRAME,
     "deleted_in_unload": b"\7" + arm("OnUnload", "delete previous", 0, MANY) + act(2, "delete self")
-    + arm("SaveElementPosition", "delete self") + act(3, "delete self") + step("load again"),
+    + arm("SaveElementPosition", "delete self") + act(3, "delete self") + LOAD,
     "reset_in_event": b"\10" + arm("OnMouseEnter", "reset") + step("move", OVER_FIRST) + FRAME
-    + step("load again") + arm("OnMouseMove", "load", 1) + step("move", OVER_SECOND) + FRAME,
+    + LOAD + arm("OnMouseMove", "load", 3) + step("move", OVER_SECOND) + FRAME,
     "moves_in_frame": b"\11" + arm("OnRender", "move to top", 0, MANY) + FRAME
     + arm("OnRender", "move to bottom", 0, MANY) + FRAME + arm("OnRender", "load into self", 0, MANY) + FRAME,
     "focus_dance": b"\12" + step("focus", 2) + arm("OnKeyboardExit", "focus another", 3, MANY)
@@ -84,11 +85,11 @@ SEEDS = {
         + click() for n in range(0, 40, 3)),
     "commands": b"\15" + arm("ExecuteCommand", "delete self") + arm("SetOutputConsole", "delete another", 5)
     + arm("Calculate", "delete another", 4) + TOUR + step("move", OVER_SECOND) + TOUR,
-    "throwing": b"\16" + b"".join(arm(place, "throw") for place in PLACES) + step("load again") + TOUR
+    "throwing": b"\16" + b"".join(arm(place, "throw") for place in PLACES) + LOAD + TOUR
     + step("focus", 3) + TOUR,
     "capture": b"\17" + act(2, "capture the mouse", 1) + TOUR + act(2, "delete self") + TOUR,
     "strata_and_sizes": b"\20" + act(2, "set strata", 127) + act(3, "set strata", 200) + act(2, "size", THE_END)
-    + act(3, "place", 0xf8) + TOUR + arm("PrintLine", "reset") + step("load again") + TOUR,
+    + act(3, "place", 0xf8) + TOUR + arm("PrintLine", "reset") + LOAD + TOUR,
 }
 
 
