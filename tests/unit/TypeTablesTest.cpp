@@ -161,6 +161,22 @@ TEST(TypeTablesDeathTest, ARowDoesNotAnswerWithTooFewArguments)
     });
 }
 
+TEST(TypeTablesDeathTest, AskingForAValueAllocatesNothing)
+{
+    WithToolkit([](ScriptHost&) {
+        TeskElement& parent = MakeElement("frame", "Parent");
+        const ScriptObject object(MakeElement("text", "Child", &parent));
+        const auto ask = [&](const char* member) {
+            _MvTypeVar result;
+            EXPECT_EQ(DispatchDone, object.Type().DispatchMember(object.Value(), member, 0, nullptr, result)) << member;
+        };
+        const std::size_t before = Allocations::Count();
+        for (const char* member : {"Width", "FullName", "Visible", "Alpha", "FadeState", "Parent", "Text", "NumLines"})
+            ask(member);
+        EXPECT_EQ(before, Allocations::Count());
+    });
+}
+
 // Each allocation behind a row fails in turn. What a test needs itself is made before.
 TEST(TypeTablesDeathTest, ARowWithoutMemoryThrowsNothing)
 {
