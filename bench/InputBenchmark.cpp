@@ -1,6 +1,7 @@
 // What an event of the mouse or the keyboard costs before anything is drawn, on a surface full of controls.
 
 #include "bench/ControlScene.h"
+#include "bench/JsonLinesReporter.h"
 #include "bench/LoadedScene.h"
 #include "teskara/core/CUIManager.h"
 #include "teskara/element/TeskElement.h"
@@ -49,13 +50,6 @@ void MoveInto(const TeskElement& element)
     MoveTo(element.AbsoluteX + 1, element.AbsoluteY + 1);
 }
 
-// events: how many each iteration sends.
-void CountEvents(benchmark::State& state, int events)
-{
-    state.counters["ns/event"] = benchmark::Counter(static_cast<double>(state.iterations()) * events / 1e9,
-        benchmark::Counter::kIsRate | benchmark::Counter::kInvert);
-}
-
 void MoveAnywhere(benchmark::State& state)
 {
     const LoadedScene scene(ControlScene::Markup());
@@ -73,7 +67,7 @@ void MoveAnywhere(benchmark::State& state)
         MoveTo(path[next].x, path[next].y);
         next = next + 1 == PathLength ? 0 : next + 1;
     }
-    CountEvents(state, 1);
+    ReportTimePer(state, "ns/event");
     state.SetLabel(ElementCount() + "; of " + std::to_string(PathLength) + " moves " + std::to_string(entered)
         + " entered another element");
 }
@@ -86,7 +80,7 @@ void MoveInsideAnElement(benchmark::State& state)
         MoveTo(element.AbsoluteX + 1, element.AbsoluteY + 1);
         MoveTo(element.AbsoluteX + 2, element.AbsoluteY + 1);
     }
-    CountEvents(state, 2);
+    ReportTimePer(state, "ns/event", 2);
 }
 
 void PressAndRelease(benchmark::State& state)
@@ -97,7 +91,7 @@ void PressAndRelease(benchmark::State& state)
         benchmark::DoNotOptimize(g_UIManager.OnLMouseDown());
         benchmark::DoNotOptimize(g_UIManager.OnLMouseUp());
     }
-    CountEvents(state, 2);
+    ReportTimePer(state, "ns/event", 2);
 }
 
 void PressKey(benchmark::State& state)
@@ -108,7 +102,7 @@ void PressKey(benchmark::State& state)
         benchmark::DoNotOptimize(g_UIManager.OnKeyDown(SomeKey));
         benchmark::DoNotOptimize(g_UIManager.OnKeyUp(SomeKey));
     }
-    CountEvents(state, 2);
+    ReportTimePer(state, "ns/event", 2);
 }
 
 void MoveAndFrame(benchmark::State& state)
@@ -121,6 +115,7 @@ void MoveAndFrame(benchmark::State& state)
         g_UIManager.Render();
         next = next + 1 == PathLength ? 0 : next + 1;
     }
+    ReportTimePer(state, "ms/frame");
 }
 
 BENCHMARK(MoveAnywhere)->Name("W4")->Repetitions(9);

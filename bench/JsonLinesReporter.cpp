@@ -29,6 +29,11 @@ double Median(const std::vector<double>& sorted)
     return sorted.size() % 2 ? sorted[middle] : (sorted[middle - 1] + sorted[middle]) / 2;
 }
 
+double UnitsOfASecond(const std::string& unit)
+{
+    return unit.starts_with("ns") ? 1e9 : unit.starts_with("us") ? 1e6 : 1e3;
+}
+
 void PrintFailure(const JsonLinesReporter::Run& run)
 {
     std::printf("{\"peer\":\"teskara\",\"workload\":\"%s\",\"unit\":\"\",\"median\":null,\"min\":null,\"max\":null,"
@@ -64,4 +69,11 @@ void JsonLinesReporter::ReportRuns(const std::vector<Run>& runs)
     else if (runs.front().error_occurred)
         PrintFailure(runs.front());
     std::fflush(stdout);
+}
+
+void ReportTimePer(benchmark::State& state, const std::string& unit, int pieces)
+{
+    const double all = static_cast<double>(state.iterations()) * pieces;
+    state.counters[unit] =
+        benchmark::Counter(all / UnitsOfASecond(unit), benchmark::Counter::kIsRate | benchmark::Counter::kInvert);
 }

@@ -15,3 +15,7 @@ public:
     bool ReportContext(const Context& context) override;
     void ReportRuns(const std::vector<Run>& runs) override;
 };
+
+// Makes the CPU time of one piece of work the value of a benchmark whose iterations do so many of them. unit begins with
+// "ns", "us" or "ms", as in "ns/event".
+void ReportTimePer(benchmark::State& state, const std::string& unit, int pieces = 1);

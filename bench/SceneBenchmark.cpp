@@ -1,6 +1,7 @@
 // What a user of interfaces waits for: loading them, drawing them, and the memory that they take.
 
 #include "bench/ControlScene.h"
+#include "bench/JsonLinesReporter.h"
 #include "bench/LoadedScene.h"
 #include "teskara/controls/TeskText.h"
 #include "teskara/core/CUIManager.h"
@@ -89,9 +90,7 @@ void LoadScene(benchmark::State& state)
         g_UIManager.Reset();
         state.ResumeTiming();
     }
-    state.counters["us/element"] =
-        benchmark::Counter(static_cast<double>(state.iterations()) * ControlScene::Elements / 1e6,
-            benchmark::Counter::kIsRate | benchmark::Counter::kInvert);
+    ReportTimePer(state, "us/element", ControlScene::Elements);
 }
 
 void UnloadScene(benchmark::State& state)
@@ -108,13 +107,11 @@ void UnloadScene(benchmark::State& state)
 
 void FrameOfScene(benchmark::State& state)
 {
-    NullHost& host = StartedHost();
     const LoadedScene scene(ControlScene::Markup());
-    const u64 before = host.Draws;
-    g_UIManager.Render();
-    state.SetLabel(ElementCount() + " draws=" + std::to_string(host.Draws - before));
+    state.SetLabel(ElementCount() + DrawsOfFrame());
     for (auto _ : state)
         g_UIManager.Render();
+    ReportTimePer(state, "ms/frame");
 }
 
 // Each text gets a new string in every frame; the strings themselves are made beforehand.
@@ -129,6 +126,7 @@ void ChangingTexts(benchmark::State& state)
             text->SetText(strings[next++ % strings.size()].c_str());
         g_UIManager.Render();
     }
+    ReportTimePer(state, "ms/frame");
     state.SetLabel(ElementCount());
 }
 
