@@ -43,8 +43,11 @@ void Console::PrintArguments(const char* format, std::va_list arguments)
 void Console::PrintText(const std::string& text)
 {
     const std::string& where = m_Trail.Where();
-    const std::string line = where.empty() ? text : where + ": " + text;
-    std::fprintf(stderr, "teskara: %s\n", Printable(line).c_str());
+    const std::string line = Printable(where.empty() ? text : where + ": " + text);
+    if (m_Taker)
+        m_Taker(line);
+    else
+        std::fprintf(stderr, "teskara: %s\n", line.c_str());
 }
 
 } // namespace host

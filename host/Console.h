@@ -3,16 +3,20 @@
 #include "host/script/CallTrail.h"
 
 #include <cstdarg>
+#include <functional>
 #include <string>
 
 namespace host {
 
-// Where lines for a person go: the standard error stream.
+// Where lines for a person go: the standard error stream, or whoever takes them in its place.
 class Console
 {
 public:
     // What lines are about: each begins with it.
     CallTrail& Trail() { return m_Trail; }
+
+    // From now on lines go there.
+    void SendTo(std::function<void(const std::string& line)> taker) { m_Taker = std::move(taker); }
 
     // Writes one line, printf style.
     void Print(const char* format, ...);
@@ -23,6 +27,7 @@ public:
 
 private:
     CallTrail m_Trail;
+    std::function<void(const std::string& line)> m_Taker;
 };
 
 } // namespace host

@@ -43,7 +43,7 @@ bool ScriptTasks::Start(const std::string& name, std::string_view text)
         task = std::make_unique<ScriptTask>(name, std::move(reference), coroutine, m_Atoms);
     });
     if (!isReady) {
-        m_Console.PrintText(m_State.Error());
+        SayWhyFailed(name);
         return false;
     }
     ScriptTask& started = *m_Tasks.emplace_back(std::move(task));
@@ -84,16 +84,16 @@ bool ScriptTasks::Resume(ScriptTask& task)
         return status == LUA_YIELD;
     }
     m_State.TakeError(task.Thread(), status);
-    SayWhyFailed(task);
+    SayWhyFailed(task.Name());
     return false;
 }
 
-void ScriptTasks::SayWhyFailed(const ScriptTask& task)
+void ScriptTasks::SayWhyFailed(const std::string& name)
 {
     if (m_State.Budget().WhySpent() && !m_State.Budget().TakeNews())
         return;
 
-    const std::string chunk = task.Name() + ':';
+    const std::string chunk = name + ':';
     const std::string& why = m_State.Error();
     m_Console.PrintText(why.starts_with(chunk) ? why.substr(chunk.size()) : why);
 }

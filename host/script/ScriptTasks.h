@@ -41,7 +41,7 @@ public:
 
 private:
     bool Resume(ScriptTask& task);
-    void SayWhyFailed(const ScriptTask& task);
+    void SayWhyFailed(const std::string& name);
     static ScriptTask& WaitingTask(lua_State* thread, const char* function);
     static int Wait(lua_State* thread);
     static int Answer(lua_State* thread);

@@ -101,8 +101,8 @@ constexpr const char* Expressions[] = {
     "('abc'):find('%fa')",
     "('abc'):gsub('a')",
     "('abc'):gsub('a', 1, 'x')",
-    ("(function() local t = {} for k, v in ('a=1, b=2'):gmatch('(%w+)=(%w+)') do t[#t + 1] = k .. v end "
-     "return table.concat(t, ' ') end)()"),
+    R"((function() local t = {} for k, v in ('a=1, b=2'):gmatch('(%w+)=(%w+)') do t[#t + 1] = k .. v end
+        return table.concat(t, ' ') end)())",
     "(function() local t = {} for w in ('one two'):gmatch('%a+') do t[#t + 1] = w end return table.concat(t) end)()",
     "(function() local n = 0 for _ in ('abc'):gmatch('') do n = n + 1 end return n end)()",
     "(function() local t = {} for p in ('abc'):gmatch('()b*') do t[#t + 1] = p end return table.concat(t) end)()",
