@@ -35,10 +35,8 @@ std::string CommandCall::NameOf(const CommandLine& line)
 }
 
 CommandCall::CommandCall(const CommandLine& line, CommandForm form, const Expander& expand)
-    : m_Name(NameOf(line))
-    , m_Line(TrimBlanks(TrimBlanks(line.Text).substr(m_Name.size())))
-    , m_Body(line.Body.value_or(""))
-    , m_HasBody(line.Body.has_value())
+    : m_Name(NameOf(line)), m_Line(TrimBlanks(TrimBlanks(line.Text).substr(m_Name.size()))),
+      m_Body(line.Body.value_or("")), m_HasBody(line.Body.has_value())
 {
     if (form == CommandForm::Words) {
         SplitArguments(expand);

@@ -18,8 +18,8 @@ public:
 // How a command reads what stands behind its name.
 enum class CommandForm : u8 {
     Words, // arguments, split at blanks outside double quotes
-    Line,  // one text: the rest of the line, or what is inside when that is one quoted text
-    Path,  // as Line, with the sequences left in place: the command evaluates them itself
+    Line, // one text: the rest of the line, or what is inside when that is one quoted text
+    Path, // as Line, with the sequences left in place: the command evaluates them itself
 };
 
 // The name and the arguments of a command.

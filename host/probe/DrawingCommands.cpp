@@ -79,9 +79,8 @@ std::string DrawColoured(TeskElement& element, const CommandCall& call)
     const char* text = call.Text(First).c_str();
     const i32 x = call.Integer(First + 1);
     const i32 y = call.Integer(First + 2);
-    const u64 width = call.Has(First + 3)
-        ? element.DrawColoredTextClipped(font, text, x, y, call.Integer(First + 3))
-        : element.DrawColoredText(font, text, x, y);
+    const u64 width = call.Has(First + 3) ? element.DrawColoredTextClipped(font, text, x, y, call.Integer(First + 3))
+                                          : element.DrawColoredText(font, text, x, y);
     return std::to_string(width);
 }
 

@@ -27,15 +27,10 @@ std::vector<PatternCharacter> ReadPattern(std::string_view expected)
 }
 
 // For each pair of places, whether the rests behind them match, or how much of them does.
-template <class Value>
-class Table
+template <class Value> class Table
 {
 public:
-    Table(std::size_t rows, std::size_t columns)
-        : m_Columns(columns + 1)
-        , m_Values((rows + 1) * m_Columns)
-    {
-    }
+    Table(std::size_t rows, std::size_t columns) : m_Columns(columns + 1), m_Values((rows + 1) * m_Columns) { }
 
     Value& At(std::size_t row, std::size_t column) { return m_Values[row * m_Columns + column]; }
 
@@ -79,9 +74,8 @@ bool MatchLine(std::string_view expected, std::string_view actual)
 bool MatchLines(const std::vector<std::string>& expected, const std::vector<std::string>& actual)
 {
     if (std::ranges::find(expected, AnyLines) == expected.end())
-        return std::ranges::equal(expected, actual, [](const auto& left, const auto& right) {
-            return MatchLine(left, right);
-        });
+        return std::ranges::equal(
+            expected, actual, [](const auto& left, const auto& right) { return MatchLine(left, right); });
 
     Table<char> rest(expected.size(), actual.size());
     for (std::size_t row = expected.size() + 1; row-- > 0;) {

@@ -9,8 +9,8 @@
 
 namespace {
 
-constexpr std::array<const char*, static_cast<std::size_t>(HostValueKind::Count)> TypeNames
-    = {"string", "int", "int64", "bool", "float", "point3f", "filepath", "uint"};
+constexpr std::array<const char*, static_cast<std::size_t>(HostValueKind::Count)> TypeNames = {
+    "string", "int", "int64", "bool", "float", "point3f", "filepath", "uint"};
 
 std::string TwoDecimals(float value)
 {
@@ -34,8 +34,7 @@ std::string WideTextOf(const void* object)
 } // namespace
 
 HostValueType::HostValueType(HostValueKind kind)
-    : MvTypeDefinition(TypeNames[static_cast<std::size_t>(kind)])
-    , m_Kind(kind)
+    : MvTypeDefinition(TypeNames[static_cast<std::size_t>(kind)]), m_Kind(kind)
 {
 }
 

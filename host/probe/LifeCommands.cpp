@@ -69,9 +69,8 @@ std::string HeldModifiers()
 void Manager(ProbeSession& session, const CommandCall&)
 {
     const CUIManager& manager = g_UIManager;
-    session.Output.Result("focus=" + ElementByIdText(manager.FocusElementID)
-        + " over=" + ElementByIdText(manager.MouseOverElementID)
-        + " left=" + ElementByIdText(manager.LeftPressElementID)
+    session.Output.Result("focus=" + ElementByIdText(manager.FocusElementID) + " over="
+        + ElementByIdText(manager.MouseOverElementID) + " left=" + ElementByIdText(manager.LeftPressElementID)
         + " right=" + ElementByIdText(manager.RightPressElementID)
         + " capture=" + ElementByIdText(manager.MouseCaptureElementID)
         + " tooltip=" + ElementByIdText(manager.TooltipElementID) + " mods=" + HeldModifiers()

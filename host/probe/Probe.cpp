@@ -67,8 +67,7 @@ std::optional<std::vector<TranscriptFile>> ReadTranscripts(const std::vector<std
 }
 
 // Runs all transcripts, some at a time, and hands over each result in the order of the files.
-template <class Take>
-void RunAll(const std::vector<TranscriptFile>& files, Take take)
+template <class Take> void RunAll(const std::vector<TranscriptFile>& files, Take take)
 {
     std::deque<std::unique_ptr<TranscriptProcess>> running;
     std::size_t started = 0;

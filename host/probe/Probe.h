@@ -4,8 +4,8 @@
 #include <vector>
 
 enum class ProbeMode {
-    Print,  // run each transcript and print what was said and what came back
-    Check,  // compare with the expected lines
+    Print, // run each transcript and print what was said and what came back
+    Check, // compare with the expected lines
     Update, // rewrite the expected lines with what came back
 };
 

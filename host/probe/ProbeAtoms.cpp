@@ -73,8 +73,7 @@ u32 ProbeAtoms::Find(const std::string& name) const
     return found != m_Names.end() ? found->second : 0;
 }
 
-bool ProbeAtoms::Run(
-    u32 atom, const std::vector<std::string>& arguments, const _MvTypeVar* self, std::string& text)
+bool ProbeAtoms::Run(u32 atom, const std::vector<std::string>& arguments, const _MvTypeVar* self, std::string& text)
 {
     const auto found = m_Atoms.find(atom);
     if (found == m_Atoms.end() || m_Running.size() >= MostRunning)

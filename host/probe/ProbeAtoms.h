@@ -22,7 +22,7 @@ struct ProbeAtom {
 struct RunningAtom {
     std::map<std::string, std::string, std::less<>> Parameters;
     const _MvTypeVar* Self = nullptr; // null: the atom runs on nothing
-    std::optional<std::string> Text;  // set by return, which ends the atom
+    std::optional<std::string> Text; // set by return, which ends the atom
 };
 
 class ProbeAtoms
@@ -31,8 +31,7 @@ public:
     using CommandRunner = std::function<void(const CommandLine& command)>;
 
     ProbeAtoms(ScriptReferences& references, CommandRunner runner)
-        : m_References(references)
-        , m_Runner(std::move(runner))
+        : m_References(references), m_Runner(std::move(runner))
     {
     }
 

@@ -50,9 +50,7 @@ std::string ProbeOutput::WithoutFolder(std::string_view line) const
 }
 
 TracedCall::TracedCall(ProbeOutput& output, HostOperation operation)
-    : m_Output(output)
-    , m_Operation(operation)
-    , m_Traced(output.Traces(OperationGroup(operation)))
+    : m_Output(output), m_Operation(operation), m_Traced(output.Traces(OperationGroup(operation)))
 {
     if (m_Traced)
         m_Place = m_Output.Reserve();

@@ -11,10 +11,7 @@
 class ProbePlatform : public Platform
 {
 public:
-    explicit ProbePlatform(const HostRefusals& refusals)
-        : m_Refusals(refusals)
-    {
-    }
+    explicit ProbePlatform(const HostRefusals& refusals) : m_Refusals(refusals) { }
 
     u32 GetTickCount() override { return Tick; }
     bool IsKeyToggled(u32 key) override;

@@ -11,10 +11,7 @@
 class ProbeScript : public HostScript
 {
 public:
-    explicit ProbeScript(std::string name)
-        : m_Name(std::move(name))
-    {
-    }
+    explicit ProbeScript(std::string name) : m_Name(std::move(name)) { }
 
     const char* GetName() const override { return m_Name.c_str(); }
     bool IsInsideAtom() const override { return InsideAtom; }

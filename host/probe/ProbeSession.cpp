@@ -14,11 +14,8 @@ constexpr std::size_t MostNested = 512;
 } // namespace
 
 ProbeSession::ProbeSession(const std::string& folder)
-    : Platform(Refusals)
-    , Atoms(References, [this](const CommandLine& command) { Run(command); })
-    , Sequences(Atoms, Types, References, Texts)
-    , Factories(Output)
-    , Host(*this)
+    : Platform(Refusals), Atoms(References, [this](const CommandLine& command) { Run(command); }),
+      Sequences(Atoms, Types, References, Texts), Factories(Output), Host(*this)
 {
     Output.HideFolder(folder);
     Files.UseFolder(folder);

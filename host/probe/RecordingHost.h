@@ -13,11 +13,7 @@ class ProbeSession;
 class RecordingHost : public HostObject
 {
 public:
-    explicit RecordingHost(ProbeSession& session)
-        : m_Session(session)
-        , m_ScriptInterface(session, *this)
-    {
-    }
+    explicit RecordingHost(ProbeSession& session) : m_Session(session), m_ScriptInterface(session, *this) { }
 
     u32 AddClass() { return ++m_LastClass; }
     void SetCompletion(const std::string& from, const std::string& to) { m_Completions[from] = to; }

@@ -33,8 +33,8 @@ std::string SelfText(const _MvTypeVar& self, const HostTypes& types)
 HostScript* RecordingHost::GetCurrentScript()
 {
     TracedCall call(m_Session.Output, HostOperation::GetCurrentScript);
-    ProbeScript* script
-        = m_Session.Refusals.Refuses(HostOperation::GetCurrentScript) ? nullptr : m_Session.Scripts.Current();
+    ProbeScript* script =
+        m_Session.Refusals.Refuses(HostOperation::GetCurrentScript) ? nullptr : m_Session.Scripts.Current();
     if (!script)
         call.Returns("null");
     return script;
@@ -106,8 +106,8 @@ void RecordingHost::RemoveType(MvTypeDefinition* type)
 MvTypeDefinition* RecordingHost::FindType(const char* name)
 {
     TracedCall call(m_Session.Output, HostOperation::FindType);
-    MvTypeDefinition* type
-        = m_Session.Refusals.Refuses(HostOperation::FindType) ? nullptr : m_Session.Types.FindOwn(name);
+    MvTypeDefinition* type =
+        m_Session.Refusals.Refuses(HostOperation::FindType) ? nullptr : m_Session.Types.FindOwn(name);
     call.Text(name).Returns(TypeText(type));
     return type;
 }
@@ -183,8 +183,7 @@ u32 RecordingHost::CompileAtom(const char* source, u32 length)
     TracedCall call(m_Session.Output, HostOperation::CompileAtom);
     const std::string text(source ? source : "", source ? length : 0);
     call.Text(text.c_str());
-    const u32 atom
-        = m_Session.Refusals.Refuses(HostOperation::CompileAtom) ? 0 : m_Session.Atoms.Compile(text);
+    const u32 atom = m_Session.Refusals.Refuses(HostOperation::CompileAtom) ? 0 : m_Session.Atoms.Compile(text);
     call.ReturnsId("atom", atom);
     return atom;
 }
@@ -195,8 +194,7 @@ void RecordingHost::ReleaseAtom(u32 atom)
     m_Session.Atoms.Release(atom);
 }
 
-int RecordingHost::ExecuteAtomForText(
-    u32 atom, int argc, char** argv, _MvTypeVar* self, u32, char* output, u32 size)
+int RecordingHost::ExecuteAtomForText(u32 atom, int argc, char** argv, _MvTypeVar* self, u32, char* output, u32 size)
 {
     std::string text;
     if (!RunAtom(HostOperation::ExecuteAtomForText, atom, argc, argv, self, &text))

@@ -36,8 +36,8 @@ MvTypeDefinition* RecordingScriptInterface::FindTypeByName(const char* name, u32
 {
     TracedCall call(m_Session.Output, HostOperation::FindTypeByName);
     call.Text(name).Number(unused1).Number(unused2);
-    MvTypeDefinition* type
-        = m_Session.Refusals.Refuses(HostOperation::FindTypeByName) ? nullptr : m_Session.Types.Find(name);
+    MvTypeDefinition* type =
+        m_Session.Refusals.Refuses(HostOperation::FindTypeByName) ? nullptr : m_Session.Types.Find(name);
     call.Returns(TypeText(type));
     return type;
 }
@@ -60,8 +60,7 @@ char* RecordingScriptInterface::MakeTempBuffer(std::size_t size, const char* tex
 u32 RecordingScriptInterface::RegisterTransientClass2(const char* name)
 {
     TracedCall call(m_Session.Output, HostOperation::RegisterTransientClass2);
-    const u32 id
-        = m_Session.Refusals.Refuses(HostOperation::RegisterTransientClass2) ? 0 : m_Host.AddClass();
+    const u32 id = m_Session.Refusals.Refuses(HostOperation::RegisterTransientClass2) ? 0 : m_Host.AddClass();
     call.Text(name).Returns(std::to_string(id));
     return id;
 }

@@ -13,11 +13,7 @@ class RecordingHost;
 class RecordingScriptInterface : public HostScriptInterface
 {
 public:
-    RecordingScriptInterface(ProbeSession& session, RecordingHost& host)
-        : m_Session(session)
-        , m_Host(host)
-    {
-    }
+    RecordingScriptInterface(ProbeSession& session, RecordingHost& host) : m_Session(session), m_Host(host) { }
 
     bool ParseTypedValue(const char* text, _MvTypeVar& result, u32 flag) override;
     MvTypeDefinition* FindTypeByName(const char* name, u32 unused1, u32 unused2) override;

@@ -9,10 +9,7 @@ constexpr std::string_view SequenceStart = "${";
 class PathReader
 {
 public:
-    explicit PathReader(std::string_view text)
-        : m_Text(text)
-    {
-    }
+    explicit PathReader(std::string_view text) : m_Text(text) { }
 
     std::optional<ScriptPath> Read()
     {

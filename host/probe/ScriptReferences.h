@@ -22,9 +22,7 @@ private:
 class HeldReference
 {
 public:
-    HeldReference(ScriptReferences& references, const _MvTypeVar& value)
-        : Value(value)
-        , m_References(references)
+    HeldReference(ScriptReferences& references, const _MvTypeVar& value) : Value(value), m_References(references)
     {
         m_References.m_Held.push_back(&Value);
     }

@@ -14,11 +14,7 @@ constexpr std::string_view NoValue = "NULL";
 class DepthCount
 {
 public:
-    explicit DepthCount(std::size_t& depth)
-        : m_Depth(depth)
-    {
-        ++m_Depth;
-    }
+    explicit DepthCount(std::size_t& depth) : m_Depth(depth) { ++m_Depth; }
     ~DepthCount() { --m_Depth; }
     DepthCount(const DepthCount&) = delete;
     DepthCount& operator=(const DepthCount&) = delete;
@@ -50,8 +46,7 @@ PathOutcome OutcomeOf(int dispatched)
 }
 
 // Hands each sequence in a text to replace, and puts what it gives in its place.
-template <class Replace>
-std::string ReplaceSequences(std::string_view text, Replace replace)
+template <class Replace> std::string ReplaceSequences(std::string_view text, Replace replace)
 {
     std::string result;
     std::size_t at = 0;
@@ -155,7 +150,7 @@ std::string SequenceEvaluator::TextOf(const _MvTypeVar& value)
         return std::string(NoValue);
     if (const HostValueType* own = m_Types.AsOwn(value.Type))
         return own->Kind() == HostValueKind::String && !value.Value.Text ? std::string(NoValue)
-                                                                        : own->TextOf(value.Value);
+                                                                         : own->TextOf(value.Value);
     char buffer[4096] = "";
     return value.Type->ToText(value.Value, buffer, sizeof buffer) ? std::string(buffer) : std::string(NoValue);
 }
@@ -234,8 +229,8 @@ PathOutcome SequenceEvaluator::Take(const PathStep& step, _MvTypeVar& value)
         return OutcomeOf(value.Type->DispatchMethod(value.Value, step.Name.c_str(), argc, argv.data()));
 
     _MvTypeVar result;
-    const PathOutcome outcome
-        = OutcomeOf(value.Type->DispatchMember(value.Value, step.Name.c_str(), argc, argv.data(), result));
+    const PathOutcome outcome =
+        OutcomeOf(value.Type->DispatchMember(value.Value, step.Name.c_str(), argc, argv.data(), result));
     value = result;
     return outcome == PathOutcome::Value && !result.Type ? PathOutcome::None : outcome;
 }

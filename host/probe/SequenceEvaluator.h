@@ -12,10 +12,10 @@
 class HostTypes;
 
 enum class PathOutcome {
-    Value,   // there is a value, or the method was carried out
-    None,    // the type or the object answered false
+    Value, // there is a value, or the method was carried out
+    None, // the type or the object answered false
     Unknown, // nothing answered
-    NoPath,  // the text is no path
+    NoPath, // the text is no path
 };
 
 struct PathResult {
@@ -29,10 +29,7 @@ class SequenceEvaluator
 {
 public:
     SequenceEvaluator(const ProbeAtoms& atoms, HostTypes& types, ScriptReferences& references, TemporaryTexts& texts)
-        : m_Atoms(atoms)
-        , m_Types(types)
-        , m_References(references)
-        , m_Texts(texts)
+        : m_Atoms(atoms), m_Types(types), m_References(references), m_Texts(texts)
     {
     }
 

@@ -9,7 +9,7 @@
 
 struct TranscriptCommand {
     CommandLine Command;
-    std::size_t Line = 0;              // number in the file, from 1
+    std::size_t Line = 0; // number in the file, from 1
     std::vector<std::string> Expected; // trimmed
 };
 

@@ -82,10 +82,8 @@ std::string SignalName(int signal)
 } // namespace
 
 TranscriptProcess::TranscriptProcess(const Transcript& transcript)
-    : m_Transcript(transcript)
-    , m_Folder(MakeProbeFolder())
-    , m_Results(std::tmpfile())
-    , m_Deadline(std::chrono::steady_clock::now() + TimeLimit)
+    : m_Transcript(transcript), m_Folder(MakeProbeFolder()), m_Results(std::tmpfile()),
+      m_Deadline(std::chrono::steady_clock::now() + TimeLimit)
 {
     if (m_Folder.empty() || !m_Results)
         m_StartFailure = "no room for temporary files";
@@ -194,10 +192,7 @@ namespace {
 class StandardInput
 {
 public:
-    explicit StandardInput(ProbeSession& session)
-        : m_Session(session)
-    {
-    }
+    explicit StandardInput(ProbeSession& session) : m_Session(session) { }
 
     void AnswerAll()
     {

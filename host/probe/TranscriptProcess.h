@@ -12,7 +12,7 @@
 // What came of a transcript.
 struct TranscriptRun {
     std::vector<std::vector<std::string>> Answers; // one list for each command that was answered
-    std::string Failure;                           // a crash, a hang or a broken tree; empty if there was none
+    std::string Failure; // a crash, a hang or a broken tree; empty if there was none
 };
 
 // A transcript that runs in a process of its own, in a folder of its own that goes with it.

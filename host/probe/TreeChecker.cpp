@@ -18,9 +18,8 @@ public:
             CheckElement(*g_UIManager.Screen, nullptr);
         CheckIds();
         CheckNames();
-        for (const u32 id : {g_UIManager.FocusElementID, g_UIManager.MouseOverElementID,
-                 g_UIManager.LeftPressElementID, g_UIManager.RightPressElementID,
-                 g_UIManager.MouseCaptureElementID, g_UIManager.TooltipElementID})
+        for (const u32 id : {g_UIManager.FocusElementID, g_UIManager.MouseOverElementID, g_UIManager.LeftPressElementID,
+                 g_UIManager.RightPressElementID, g_UIManager.MouseCaptureElementID, g_UIManager.TooltipElementID})
             Require(id < g_UIManager.NextElementID, "the manager holds an id that was never given", nullptr);
         return m_Fault;
     }
@@ -77,8 +76,8 @@ private:
             if (!m_Known.contains(element))
                 Require(false, "the name " + Quoted(name.Text()) + " leads to a dead element", nullptr);
             else
-                Require(SameWord(name.Text(), element->FullName), "a name leads to an element of another name",
-                    element);
+                Require(
+                    SameWord(name.Text(), element->FullName), "a name leads to an element of another name", element);
         }
     }
 

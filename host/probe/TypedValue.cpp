@@ -11,8 +11,8 @@
 
 namespace {
 
-constexpr std::string_view TypesWithoutElement[]
-    = {"teskara", "teskfont", "tesktexture", "tesklistboxitem", "tesktab", "tesktreenode"};
+constexpr std::string_view TypesWithoutElement[] = {
+    "teskara", "teskfont", "tesktexture", "tesklistboxitem", "tesktab", "tesktreenode"};
 
 bool IsElementType(std::string_view name)
 {

@@ -85,8 +85,7 @@ void ReadEscape(std::string_view text, std::size_t& position, std::string& resul
     }
 }
 
-template <class Number>
-std::string ShortestText(Number value)
+template <class Number> std::string ShortestText(Number value)
 {
     char buffer[64];
     const auto end = std::to_chars(buffer, buffer + sizeof buffer, value);
@@ -295,5 +294,6 @@ std::string LowerCase(std::string_view text)
 
 bool SameWord(std::string_view left, std::string_view right)
 {
-    return std::ranges::equal(left, right, {}, [](char c) { return FoldAscii(c); }, [](char c) { return FoldAscii(c); });
+    return std::ranges::equal(
+        left, right, {}, [](char c) { return FoldAscii(c); }, [](char c) { return FoldAscii(c); });
 }
