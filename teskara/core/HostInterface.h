@@ -7,6 +7,11 @@
 // thread that drives it. Texts are UTF-8 and end in a zero byte; they are borrowed for the length of the call in both
 // directions unless a comment says otherwise. Ids are the host's own numbers, 0 means none. An operation that throws
 // counts as one that failed. A host that answers every query but LocateFile with failure can still load interfaces.
+//
+// Scripts may run, and the toolkit may be called again, from inside ExecuteAtom, ExecuteAtomForText, ExecuteCommand,
+// DataParse, RetrieveProcessedText, RetrieveProcessedResult, Calculate, ParseTypedValue, CreateQuery, EvaluateQuery,
+// CompleteCommandLine, SaveElementPosition, LoadElementPosition, SetOutputConsole and PrintLine. All other operations
+// return without having deleted, moved or drawn anything.
 
 #include "teskara/core/Types.h"
 

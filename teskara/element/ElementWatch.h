@@ -7,7 +7,7 @@
 // and touch nothing of the element if it says no.
 //
 // These may run a script, and so delete anything: the host's ExecuteAtom, ExecuteAtomForText, ExecuteCommand,
-// DataParse, RetrieveProcessedText, RetrieveProcessedResult, Calculate, CreateQuery, EvaluateQuery,
+// DataParse, RetrieveProcessedText, RetrieveProcessedResult, Calculate, ParseTypedValue, CreateQuery, EvaluateQuery,
 // CompleteCommandLine, SaveElementPosition, LoadElementPosition, SetOutputConsole and PrintLine; every OnNotify; every
 // virtual operation of a class that is not ours; and whatever reaches one of them.
 class ElementWatch
