@@ -81,6 +81,18 @@ std::string Child(int window, int child)
     return Format("<%s name=\"c%02d\">%s%s</%s>\n", word, child, geometry.c_str(), text.c_str(), word);
 }
 
+// A thousand texts side by side and what each of them shows.
+template <class TextOf> std::string GridMarkup(TextOf&& textOf)
+{
+    std::string markup = std::string("<Tesk>\n") + Templates;
+    for (int text = 0; text < ControlScene::ChangingTexts; ++text) {
+        markup += Format("<text name=\"t%03d\">", text);
+        markup += Geometry(text % 25 * CellWidth, text / 25 * CellHeight, ChildWidth, ChildHeight);
+        markup += "<Text>" + textOf(text) + "</Text></text>\n";
+    }
+    return markup + "</Tesk>\n";
+}
+
 } // namespace
 
 std::string ControlScene::Markup()
@@ -98,13 +110,17 @@ std::string ControlScene::Markup()
 
 std::string ControlScene::TextGridMarkup()
 {
-    std::string markup = std::string("<Tesk>\n") + Templates;
-    for (int text = 0; text < ChangingTexts; ++text) {
-        markup += Format("<text name=\"t%03d\">", text);
-        markup += Geometry(text % 25 * CellWidth, text / 25 * CellHeight, ChildWidth, ChildHeight);
-        markup += "<Text>" + ChangingText(text, 0) + "</Text></text>\n";
-    }
-    return markup + "</Tesk>\n";
+    return GridMarkup([](int text) { return ChangingText(text, 0); });
+}
+
+std::string ControlScene::SequenceGridMarkup(const std::string& sequence)
+{
+    return GridMarkup([&](int text) {
+        std::string numbered = sequence;
+        if (const std::size_t place = numbered.find('#'); place != numbered.npos)
+            numbered.replace(place, 1, Format("%03d", text));
+        return Format("Value %04d is ", text) + numbered;
+    });
 }
 
 std::string ControlScene::ChangingText(int element, int frame)

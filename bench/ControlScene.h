@@ -17,6 +17,9 @@ std::string Markup();
 // A thousand texts on one surface, and the 20 characters of one of them in a frame.
 constexpr int ChangingTexts = 1000;
 std::string TextGridMarkup();
+
+// The same surface of texts with one data sequence each, such as ${Value}; a "#" in it is the number of the text.
+std::string SequenceGridMarkup(const std::string& sequence);
 std::string ChangingText(int element, int frame);
 
 } // namespace ControlScene

@@ -5,7 +5,7 @@
 
 // A host that does nothing: fonts and textures exist, every byte is 6 pixels wide, drawing is counted and thrown away,
 // files are found where their name says, scripts do not compile, and the value of a sequence that was parsed is a word.
-class NullHost final : public HostObject
+class NullHost : public HostObject
 {
 public:
     u64 Draws = 0;
