@@ -2,6 +2,7 @@
 
 #include "teskara/controls/Panel.h"
 #include "teskara/controls/Placement.h"
+#include "teskara/controls/PressTaking.h"
 #include "teskara/controls/PressTextures.h"
 #include "teskara/core/AsciiCase.h"
 #include "teskara/core/BoundedText.h"
@@ -99,19 +100,13 @@ bool TeskButton::DrawLabel()
 bool TeskButton::OnLMouseDown(_Point2i& point)
 {
     Pressed = true;
-    const ElementWatch self(*this);
-    NotifyParent(NotifyLeftPressed, 0);
-    if (self.Exists())
-        TeskElement::OnLMouseDown(point);
+    TakePress(*this, point);
     return true;
 }
 
 bool TeskButton::OnLMouseUp(_Point2i& point)
 {
     Pressed = false;
-    const ElementWatch self(*this);
-    NotifyParent(NotifyLeftReleased, 0);
-    if (self.Exists())
-        TeskElement::OnLMouseUp(point);
+    TakeRelease(*this, point);
     return true;
 }

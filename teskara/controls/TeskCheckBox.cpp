@@ -1,6 +1,7 @@
 #include "teskara/controls/TeskCheckBox.h"
 
 #include "teskara/controls/Placement.h"
+#include "teskara/controls/PressTaking.h"
 #include "teskara/controls/PressTextures.h"
 #include "teskara/core/AsciiCase.h"
 #include "teskara/core/BoundedText.h"
@@ -108,10 +109,7 @@ bool TeskCheckBox::DrawLabel(u32 boxSide)
 bool TeskCheckBox::OnLMouseDown(_Point2i& point)
 {
     Pressed = true;
-    const ElementWatch self(*this);
-    NotifyParent(NotifyLeftPressed, 0);
-    if (self.Exists())
-        TeskElement::OnLMouseDown(point);
+    TakePress(*this, point);
     return true;
 }
 
@@ -119,9 +117,6 @@ bool TeskCheckBox::OnLMouseUp(_Point2i& point)
 {
     Pressed = false;
     Checked = !Checked;
-    const ElementWatch self(*this);
-    NotifyParent(NotifyLeftReleased, 0);
-    if (self.Exists())
-        TeskElement::OnLMouseUp(point);
+    TakeRelease(*this, point);
     return true;
 }
