@@ -63,17 +63,11 @@ constexpr ScriptMethod<TeskFont> Methods[] = {
 
 } // namespace
 
-TeskFont* FontOf(MvValue value)
-{
-    auto* font = static_cast<TeskFont*>(value.Object);
-    return ScriptHold<TeskFont>::IsAlive(font) ? font : nullptr;
-}
-
 TeskFontType::TeskFontType(const char* name) : TableType(name, Members, Methods) { }
 
 bool TeskFontType::ToText(MvValue value, char* buffer, u32 size)
 {
-    const TeskFont* font = FontOf(value);
+    const TeskFont* font = HeldObject<TeskFont>(value);
     if (!font || !buffer)
         return false;
 

@@ -78,7 +78,7 @@ bool Copy(TeskTexture& texture, const Arguments& arguments)
     if (!Host::ParseTypedValue(arguments.Text(0), found) || !found.Type || found.Type != pTeskTextureType)
         return false;
 
-    const TeskTexture* source = TextureOf(found.Value);
+    const TeskTexture* source = HeldObject<TeskTexture>(found.Value);
     if (!source || !ScriptHold<TeskTexture>::IsAlive(&texture))
         return false;
 
@@ -151,17 +151,11 @@ constexpr ScriptMethod<TeskTexture> Methods[] = {
 
 } // namespace
 
-TeskTexture* TextureOf(MvValue value)
-{
-    auto* texture = static_cast<TeskTexture*>(value.Object);
-    return ScriptHold<TeskTexture>::IsAlive(texture) ? texture : nullptr;
-}
-
 TeskTextureType::TeskTextureType(const char* name) : TableType(name, Members, Methods) { }
 
 bool TeskTextureType::ToText(MvValue value, char* buffer, u32 size)
 try {
-    const TeskTexture* texture = TextureOf(value);
+    const TeskTexture* texture = HeldObject<TeskTexture>(value);
     if (!texture || !pFilePathType)
         return false;
 
