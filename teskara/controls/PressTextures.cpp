@@ -13,9 +13,7 @@ TeskTexture* PressTextures::Choose(bool isPressed, bool isMouseOver) const
 
 void MaskTextures(const MarkupSource& source, std::initializer_list<TeskTexture*> textures)
 {
-    constexpr char attribute[] = "ColorMask";
-    const u32 mask = XMLHelper::GetHexAttribute(
-        source.Node(), attribute, XMLHelper::GetHexAttribute(source.Template(), attribute, 0));
+    const u32 mask = source.HexAttribute("ColorMask", 0);
     if (mask == 0)
         return;
 

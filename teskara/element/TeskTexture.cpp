@@ -89,7 +89,7 @@ bool TeskTexture::FromXML(XMLNode* node, XMLNode* templateNode)
         Flags |= TextureHasColorMask;
         ColorMask = source.Hex("ColorMask", 0);
     }
-    ColorKey = XMLHelper::GetHexAttribute(node, "ColorKey", XMLHelper::GetHexAttribute(templateNode, "ColorKey", 0));
+    ColorKey = source.HexAttribute("ColorKey", 0);
     ReadColorMaskAttribute(node, templateNode);
     return true;
 }

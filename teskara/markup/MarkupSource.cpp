@@ -86,6 +86,11 @@ bool MarkupSource::Toggle(TagName tag, bool fallback) const
     return !child->FirstChild || ReadInteger(child->FirstChild->Name) != 0;
 }
 
+u32 MarkupSource::HexAttribute(const char* name, u32 fallback) const
+{
+    return XMLHelper::GetHexAttribute(m_Node, name, XMLHelper::GetHexAttribute(m_Template, name, fallback));
+}
+
 u32 MarkupSource::Position(TagName tag, ElementPosition& position) const
 {
     u32 value = 0;

@@ -27,6 +27,9 @@ public:
     // A child without content is true.
     bool Toggle(TagName tag, bool fallback) const;
 
+    // An attribute of the node or else of the template. A text that is no hexadecimal number gives 0.
+    u32 HexAttribute(const char* name, u32 fallback) const;
+
     // A position or size. A child without content does not hide the template's.
     u32 Position(TagName tag, ElementPosition& position) const;
 
