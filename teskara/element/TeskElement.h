@@ -45,6 +45,9 @@ enum FadeState : u32 {
     FadeFaded = 3, // at FadeAlpha
 };
 
+// The strata of what stays on top of everything.
+constexpr i8 TopStrata = 127;
+
 // How far an element is on its way out. A going element is whole, but is not deleted again, filled, focused or raised.
 // Of a gone element only the base is left.
 enum class LifeStage : u8 { Alive, Going, Gone };

@@ -8,9 +8,6 @@ namespace {
 constexpr char NoArguments[] = "";
 constexpr char PointArguments[] = "int X, int Y";
 
-// The strata of what stays on top of everything.
-constexpr i8 TopStrata = 127;
-
 // Without a value of its own an element fades to where it is.
 constexpr MarkupForm<TeskElement> FadeAlphaAfterAlpha = {
     "float", [](TeskElement& element, const MarkupSource& source, TagName tag, MarkupDefault) {

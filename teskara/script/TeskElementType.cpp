@@ -7,13 +7,10 @@
 #include "teskara/markup/XMLDocument.h"
 
 #include <iterator>
-#include <limits>
 #include <memory>
 #include <optional>
 
 namespace {
-
-constexpr i8 TopStrata = std::numeric_limits<i8>::max();
 
 // --- Members
 
