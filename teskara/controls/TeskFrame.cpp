@@ -8,6 +8,8 @@
 
 namespace {
 
+constexpr char Kind[] = "frame";
+
 // clang-format off
 constexpr MarkupValue<TeskFrame> FrameValues[] = {
     {"Border",          Markup::Integer<&TeskFrame::Border>,      0},
@@ -21,7 +23,7 @@ constexpr MarkupValue<TeskFrame> FrameValues[] = {
 
 bool TeskFrame::FromXML(XMLNode* node, XMLNode* templateNode)
 {
-    templateNode = TemplateFor(node, templateNode, "frame");
+    templateNode = TemplateFor(node, templateNode, Kind);
     if (!TeskElement::FromXML(node, templateNode))
         return false;
 
@@ -30,7 +32,7 @@ bool TeskFrame::FromXML(XMLNode* node, XMLNode* templateNode)
 
 bool TeskFrame::IsTypeOf(const char* word)
 {
-    return EqualsNoCase(TextOrEmpty(word), "frame") || TeskElement::IsTypeOf(word);
+    return EqualsNoCase(TextOrEmpty(word), Kind) || TeskElement::IsTypeOf(word);
 }
 
 MvTypeDefinition* TeskFrame::GetMvType()

@@ -13,6 +13,8 @@
 
 namespace {
 
+constexpr char Kind[] = "hudelement";
+
 constexpr u32 WidthWithoutMarkup = 20;
 
 // The value of a sequence that has none; it is not shown.
@@ -38,7 +40,7 @@ constexpr MarkupValue<TeskHudElement> HudValues[] = {
 
 bool TeskHudElement::FromXML(XMLNode* node, XMLNode* templateNode)
 {
-    templateNode = TemplateFor(node, templateNode, "hudelement");
+    templateNode = TemplateFor(node, templateNode, Kind);
     if (!TeskElement::FromXML(node, templateNode) || !ReadMarkup(*this, HudValues, {node, templateNode}))
         return false;
 
@@ -51,7 +53,7 @@ bool TeskHudElement::FromXML(XMLNode* node, XMLNode* templateNode)
 
 bool TeskHudElement::IsTypeOf(const char* word)
 {
-    return EqualsNoCase(TextOrEmpty(word), "hudelement") || TeskElement::IsTypeOf(word);
+    return EqualsNoCase(TextOrEmpty(word), Kind) || TeskElement::IsTypeOf(word);
 }
 
 MvTypeDefinition* TeskHudElement::GetMvType()
@@ -61,24 +63,22 @@ MvTypeDefinition* TeskHudElement::GetMvType()
 
 void TeskHudElement::Render()
 {
-    const ElementWatch self(*this);
-    if (Text.Sequence != 0 && IsUpdateDue()) {
-        UpdateText();
-        if (!self.Exists())
-            return;
-    }
+    if (!UpdateWhenDue())
+        return;
+
     DrawCurrentText();
     TeskElement::Render();
 }
 
-// Counts this frame, if there is something to show for it.
-bool TeskHudElement::IsUpdateDue()
+// Counts this frame, if there is something to show for it. False: the element has died of its text.
+bool TeskHudElement::UpdateWhenDue()
 {
-    if (!CurrentText)
+    if (Text.Sequence == 0 || (CurrentText && ++FramesSinceUpdate < UpdateInterval))
         return true;
 
-    ++FramesSinceUpdate;
-    return FramesSinceUpdate >= UpdateInterval;
+    const ElementWatch self(*this);
+    UpdateText();
+    return self.Exists();
 }
 
 void TeskHudElement::DrawCurrentText()

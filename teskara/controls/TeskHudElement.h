@@ -38,8 +38,8 @@ public:
     _Point2i DragPoint;
 
 private:
-    bool IsUpdateDue();
+    bool UpdateWhenDue();
     void DrawCurrentText();
 
-    u32 m_Updates = 0;
+    u32 m_Updates = 0; // begun so far: by its number one sees that another began inside it
 };

@@ -16,6 +16,8 @@
 
 namespace {
 
+constexpr char Kind[] = "text";
+
 // Where nothing is known of a character.
 constexpr int UnknownWidth = 12;
 
@@ -77,7 +79,7 @@ u64 SplitByFixedFont(char* text, u64 width, TeskFont& font, u64* maxWidth)
 
 bool TeskText::FromXML(XMLNode* node, XMLNode* templateNode)
 {
-    templateNode = TemplateFor(node, templateNode, "text");
+    templateNode = TemplateFor(node, templateNode, Kind);
     if (!TeskElement::FromXML(node, templateNode) || !ReadMarkup(*this, TextValues, {node, templateNode}))
         return false;
 
@@ -87,7 +89,7 @@ bool TeskText::FromXML(XMLNode* node, XMLNode* templateNode)
 
 bool TeskText::IsTypeOf(const char* word)
 {
-    return EqualsNoCase(TextOrEmpty(word), "text") || TeskElement::IsTypeOf(word);
+    return EqualsNoCase(TextOrEmpty(word), Kind) || TeskElement::IsTypeOf(word);
 }
 
 MvTypeDefinition* TeskText::GetMvType()

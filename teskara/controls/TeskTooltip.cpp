@@ -12,6 +12,8 @@
 
 namespace {
 
+constexpr char Kind[] = "tooltip";
+
 constexpr u32 LeastWidth = 30;
 constexpr u32 LineGap = 1;
 constexpr char LineBreak = '\n';
@@ -31,7 +33,7 @@ TeskTooltip::~TeskTooltip()
 
 bool TeskTooltip::FromXML(XMLNode* node, XMLNode* templateNode)
 {
-    templateNode = TemplateFor(node, templateNode, "tooltip");
+    templateNode = TemplateFor(node, templateNode, Kind);
     if (!TeskFrame::FromXML(node, templateNode) || !ReadMarkup(*this, TooltipValues, {node, templateNode}))
         return false;
 
@@ -41,7 +43,7 @@ bool TeskTooltip::FromXML(XMLNode* node, XMLNode* templateNode)
 
 bool TeskTooltip::IsTypeOf(const char* word)
 {
-    return EqualsNoCase(TextOrEmpty(word), "tooltip") || TeskFrame::IsTypeOf(word);
+    return EqualsNoCase(TextOrEmpty(word), Kind) || TeskFrame::IsTypeOf(word);
 }
 
 MvTypeDefinition* TeskTooltip::GetMvType()
