@@ -71,9 +71,10 @@ def build(tally, preset):
 
 
 def check_the_house(tally):
-    say("checks: layers, sizes, and that these checks can fail")
+    say("checks: layers, sizes, formatting, and that these checks can fail")
     check(tally, "layers", ["tools/check_layers.py"])
     check(tally, "sizes", ["tools/check_sizes.py"])
+    check(tally, "formatting", ["tools/check_format.py"])
     check(tally, "checks of the checks", ["tools/test_checks.py"])
 
 

@@ -5,6 +5,7 @@ import tempfile
 import unittest
 from pathlib import Path
 
+import check_format
 import check_layers
 import check_sizes
 
@@ -93,6 +94,13 @@ class Checks(unittest.TestCase):
         self.assertEqual(lengths, [101, 101])
         self.assertEqual(len(found), 2)
         self.assertIn("static int Long(", found[0])
+
+    def test_a_file_in_another_style_is_found(self):
+        style = Path(__file__).parent.parent / ".clang-format"
+        tree = self.tree({"host/A.h": "#pragma once\nint  a;\n", "tests/B.cpp": "int b;\n"})
+        found = check_format.findings(tree, style)
+        self.assertEqual(len(found), 1, found)
+        self.assertIn("host/A.h:2", found[0])
 
 
 if __name__ == "__main__":
