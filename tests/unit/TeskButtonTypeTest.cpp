@@ -17,22 +17,6 @@ constexpr const char* Methods[] = {"SetText", "SetBackgroundColor", "SetBorderCo
 
 } // namespace
 
-TEST(TeskButtonTypeDeathTest, NamesHaveTheirNumbers)
-{
-    WithToolkit([](ScriptHost& host) {
-        for (u32 index = 0; index < std::size(Members); ++index) {
-            u32 id = 99;
-            EXPECT_TRUE(host.Type("teskbutton").GetMemberID(Members[index], id));
-            EXPECT_EQ(index, id);
-        }
-        for (u32 index = 0; index < std::size(Methods); ++index) {
-            u32 id = 99;
-            EXPECT_TRUE(host.Type("teskbutton").GetMethodID(Methods[index], id));
-            EXPECT_EQ(index, id);
-        }
-    });
-}
-
 TEST(TeskButtonTypeDeathTest, MembersTellTheFields)
 {
     WithToolkit([](ScriptHost&) {

@@ -16,22 +16,6 @@ constexpr const char* Methods[] = {"SetText", "SetChecked", "UnsetChecked", "Tog
 
 } // namespace
 
-TEST(TeskCheckBoxTypeDeathTest, NamesHaveTheirNumbers)
-{
-    WithToolkit([](ScriptHost& host) {
-        for (u32 index = 0; index < std::size(Members); ++index) {
-            u32 id = 99;
-            EXPECT_TRUE(host.Type("teskcheckbox").GetMemberID(Members[index], id));
-            EXPECT_EQ(index, id);
-        }
-        for (u32 index = 0; index < std::size(Methods); ++index) {
-            u32 id = 99;
-            EXPECT_TRUE(host.Type("teskcheckbox").GetMethodID(Methods[index], id));
-            EXPECT_EQ(index, id);
-        }
-    });
-}
-
 TEST(TeskCheckBoxTypeDeathTest, MembersTellTheFields)
 {
     WithToolkit([](ScriptHost&) {

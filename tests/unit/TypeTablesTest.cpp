@@ -37,7 +37,66 @@ std::vector<ScriptRow> MethodsOf(const MvTypeDefinition& type)
     return rows;
 }
 
+// The names of a type in the order of their numbers, which count up by one.
+struct TypeNames {
+    const char* Type;
+    u32 FirstNumber;
+    const char* Members;
+    const char* Methods;
+};
+
+constexpr TypeNames AllNames[] = {
+    {"teskara", 0, "Version APIVersion CurrentSkin MouseOverElement FocusedElement IsShiftDown IsAltDown IsCtrlDown",
+        ""},
+    {"teskelement", 0,
+        "Name FullName ID X Y AbsoluteX AbsoluteY Width Height Visible ReallyVisible AlwaysOnTop Strata MouseOver "
+        "Focus Type Alpha AbsoluteAlpha FadeAlpha FadeDelay FadeDuration FadeState LeftClickThru RightClickThru "
+        "Parent Children Next Previous FindChild FindUsableChild AddChild GetMetadata HitTest",
+        "LeftClick LeftMouseDown LeftMouseUp RightClick RightMouseDown RightMouseUp SetX SetY SetWidth SetHeight "
+        "SetFocus SetZOrder SetAlpha Show Hide ToggleVisible Destroy AddChild SetLeftClickThru SetRightClickThru "
+        "SetFadeAlpha SetFadeDelay SetFadeDuration BeginFade ResetFade InstantFade SetMetadata UnsetMetadata "
+        "SetStrata"},
+    {"teskfont", 1, "Height Name Color Bold GetTextWidth",
+        "SetHeight SetName SetColor EnableBold DisableBold ToggleBold"},
+    {"tesktexture", 0,
+        "Filename ColorKey Alpha ColorMask Border Orientation Left Right Top Bottom HasRect HasAlpha HasColorMask",
+        "Copy Set SetRect SetAlpha SetColorMask UnsetRect UnsetAlpha UnsetColorMask SetOrientation SetBorder"},
+    {"teskframe", 0, "BackgroundColor Border BorderColor Texture",
+        "SetBackgroundColor SetBorder SetBorderColor SetTexture"},
+    {"tesktext", 0, "Text Font NumLines Wrap", "SetText SetHorizontalAlignment SetVerticalAlignment SetWrap"},
+    {"teskbutton", 0, "Text Down Font BackgroundColor Texture TexturePressed TextureHover Border BorderColor",
+        "SetText SetBackgroundColor SetBorderColor SetBorder SetTexture SetTexturePressed SetTextureHover"},
+    {"teskcheckbox", 0,
+        "Text Down Checked Font Texture TexturePressed TextureHover TextureChecked TextureCheckedPressed "
+        "TextureCheckedHover",
+        "SetText SetChecked UnsetChecked ToggleChecked"},
+    {"teskhudelement", 0, "Text Group Font UpdateInterval", "SetText SetGroup SetUpdateInterval"},
+    {"tesktooltip", 0, "Font Lines Line", "Reset Print SetLine"},
+};
+
+std::string NamesOf(const std::vector<ScriptRow>& rows, u32 firstNumber)
+{
+    std::string names;
+    for (const ScriptRow& row : rows) {
+        EXPECT_EQ(firstNumber++, row.ID) << row.Name;
+        names += (names.empty() ? "" : " ") + std::string(row.Name);
+    }
+    return names;
+}
+
 } // namespace
+
+// Hosts may keep the numbers.
+TEST(TypeTablesDeathTest, NamesHaveTheirNumbers)
+{
+    WithToolkit([](ScriptHost& host) {
+        for (const TypeNames& names : AllNames) {
+            SCOPED_TRACE(names.Type);
+            EXPECT_EQ(names.Members, NamesOf(MembersOf(host.Type(names.Type)), names.FirstNumber));
+            EXPECT_EQ(names.Methods, NamesOf(MethodsOf(host.Type(names.Type)), names.FirstNumber));
+        }
+    });
+}
 
 TEST(TypeTablesDeathTest, EveryRowIsRegisteredUnderItsId)
 {
