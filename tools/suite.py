@@ -13,6 +13,7 @@ import tidy
 
 ROOT = Path(__file__).resolve().parent.parent
 FUZZ_SECONDS = 60
+CORPUS_VARIATIONS = 25
 LONGEST_STAGE_SECONDS = 900
 
 SANITIZER_ENVIRONMENT = {
@@ -141,13 +142,13 @@ def fuzz_targets():
 
 
 def replay_corpus(tally, preset):
-    say(f"build/{preset}: the stored corpus of the fuzz targets")
+    say(f"build/{preset}: the stored corpus of the fuzz targets, and {CORPUS_VARIATIONS} variations of each file")
     for target in fuzz_targets():
         program = f"build/{preset}/bin/fuzz_{target}"
         files = sorted(path.relative_to(ROOT) for path in (ROOT / "tests/fuzz/corpus" / target).glob("*"))
         while files:
             # The program names each file before it runs it, so after a crash the rest have their turn.
-            status, output = run([program, *files])
+            status, output = run([program, "--vary", CORPUS_VARIATIONS, *files])
             reached = len(set(output.splitlines()) & {str(file) for file in files})
             if status == 0:
                 tally.ok(len(files))
@@ -155,7 +156,7 @@ def replay_corpus(tally, preset):
             print(output.rstrip()[-4000:])
             tally.ok(max(reached - 1, 0))
             culprit = files[max(reached - 1, 0)]
-            tally.fail(f"fuzz {target}: {culprit}", f"{program} {culprit}")
+            tally.fail(f"fuzz {target}: {culprit}", f"{program} --vary {CORPUS_VARIATIONS} {culprit}")
             files = files[max(reached, 1):]
 
 
