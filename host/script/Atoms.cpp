@@ -149,6 +149,14 @@ void Atoms::Invalidate(const void* object)
     }
 }
 
+void Atoms::ForgetType(const MvTypeDefinition* type)
+{
+    for (Running* running = m_Running; running; running = running->Outer) {
+        if (running->Self.Type == type)
+            running->Self = {};
+    }
+}
+
 // The parameters are locals on the first line of the body, so that its lines count as the author wrote them.
 bool Atoms::CompileBody(Atom& atom, u32 id, const AtomSource& source)
 {

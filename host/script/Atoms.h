@@ -48,8 +48,9 @@ public:
     const int& Depth() const { return m_Depth; }
     _MvTypeVar Self() const { return m_Running ? m_Running->Self : _MvTypeVar(); }
 
-    // The object is going away.
+    // The object, or the type, is going away.
     void Invalidate(const void* object);
+    void ForgetType(const MvTypeDefinition* type);
 
 private:
     struct Atom {

@@ -1,6 +1,7 @@
 #include "host/script/LuaState.h"
 
 #include <new>
+#include <stdexcept>
 
 namespace host {
 
@@ -31,6 +32,9 @@ LuaState::LuaState(const ScriptLimits& limits)
 {
     if (!m_Main)
         throw std::bad_alloc();
+
+    lua_atpanic(
+        m_Main, [](lua_State*) -> int { throw std::runtime_error("an error of a script's that nobody caught"); });
 
     // New threads take over both from the one that makes them.
     *static_cast<LuaState**>(lua_getextraspace(m_Main)) = this;

@@ -43,8 +43,10 @@ public:
             carried(thread);
             return lua_gettop(thread);
         };
-        if (!lua_checkstack(m_Thread, SpareSlots))
+        if (!lua_checkstack(m_Thread, SpareSlots)) {
+            m_Error = "stack overflow";
             return false;
+        }
 
         lua_pushcfunction(m_Thread, body);
         lua_pushlightuserdata(m_Thread, &work);

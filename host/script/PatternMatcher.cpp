@@ -161,24 +161,36 @@ const char* PatternMatcher::MatchItem(const char*& at, const char*& pattern, boo
         return at == subjectEnd ? at : nullptr;
 
     if (*pattern == Escape && (next == 'b' || next == 'f' || IsDigit(next))) {
-        const char* after = pattern + 2;
-        if (next == 'b') {
-            at = MatchBalanced(at, after);
-            after += 2;
-        } else if (next == 'f') {
-            if (after == patternEnd || *after != '[')
-                luaL_error(m_Thread, "missing '[' after '%%f' in pattern");
-            const char* setEnd = ItemEnd(after);
-            at = IsFrontier(at, after, setEnd) ? at : nullptr;
-            after = setEnd;
-        } else {
-            at = MatchCapture(at, next);
-        }
-        pattern = after;
+        at = MatchEscaped(at, next, pattern);
         isDone = at == nullptr;
         return nullptr;
     }
+    return MatchSimple(at, pattern, isDone);
+}
 
+// %b, %f and %1 with what belongs to them. The pattern goes on behind them.
+const char* PatternMatcher::MatchEscaped(const char* at, char letter, const char*& pattern)
+{
+    const char* patternEnd = m_Pattern.data() + m_Pattern.size();
+    const char* after = pattern + 2;
+    if (letter == 'b') {
+        pattern = after + 2;
+        return MatchBalanced(at, after);
+    }
+    if (letter == 'f') {
+        if (after == patternEnd || *after != '[')
+            luaL_error(m_Thread, "missing '[' after '%%f' in pattern");
+        pattern = ItemEnd(after);
+        return IsFrontier(at, after, pattern) ? at : nullptr;
+    }
+    pattern = after;
+    return MatchCapture(at, letter);
+}
+
+// A character, a class or a set, as often as the sign behind it says.
+const char* PatternMatcher::MatchSimple(const char*& at, const char*& pattern, bool& isDone)
+{
+    const char* patternEnd = m_Pattern.data() + m_Pattern.size();
     const char* itemEnd = ItemEnd(pattern);
     const char suffix = itemEnd < patternEnd ? *itemEnd : '\0';
     if (suffix == '*' || suffix == '+')

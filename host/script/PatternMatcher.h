@@ -40,6 +40,8 @@ private:
     const char* Match(const char* at, const char* pattern);
     const char* MatchNested(const char* at, const char* pattern);
     const char* MatchItem(const char*& at, const char*& pattern, bool& isDone);
+    const char* MatchEscaped(const char* at, char letter, const char*& pattern);
+    const char* MatchSimple(const char*& at, const char*& pattern, bool& isDone);
     const char* MatchMost(const char* at, const char* pattern, const char* itemEnd);
     const char* MatchFewest(const char* at, const char* pattern, const char* itemEnd);
     const char* MatchBalanced(const char* at, const char* pattern);

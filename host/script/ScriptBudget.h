@@ -12,7 +12,7 @@ struct ScriptLimits {
     u64 Instructions = 10'000'000;
     std::chrono::milliseconds Time{2000}; // for what takes long in few instructions
     std::size_t CallBytes = 16 * 1024 * 1024; // more than there was before the call
-    std::size_t AllBytes = 256 * 1024 * 1024; // what scripts may keep between calls
+    std::size_t AllBytes = 64 * 1024 * 1024; // what scripts may keep between calls
 };
 
 // Counts what scripts take, and says when it is too much.

@@ -142,6 +142,8 @@ void ScriptEngine::RemoveType(MvTypeDefinition* type)
 {
     Types.Remove(type);
     m_Objects.ForgetType(type);
+    Scripts.ForgetType(type);
+    m_Evaluator.ForgetType(type);
 }
 
 void ScriptEngine::Invalidate(void* object)

@@ -110,6 +110,14 @@ void SequenceEvaluator::Invalidate(const void* object)
     }
 }
 
+void SequenceEvaluator::ForgetType(const MvTypeDefinition* type)
+{
+    for (Frame* frame = m_Frame; frame; frame = frame->Outer) {
+        if (frame->Value.Type == type)
+            frame->Value = {};
+    }
+}
+
 bool SequenceEvaluator::EvaluateWhole(const Sequence& sequence, const Frame& frame, _MvTypeVar& value)
 {
     const bool isOnePart = sequence.Parts.size() == 1 && sequence.Parts[0].PartKind != SequencePart::Kind::Text;

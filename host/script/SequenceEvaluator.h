@@ -48,8 +48,9 @@ public:
         return true;
     }
 
-    // An object is going away.
+    // An object, or a type, is going away.
     void Invalidate(const void* object);
+    void ForgetType(const MvTypeDefinition* type);
 
 private:
     // One evaluation inside others. Its value follows the path, and is none when its object goes.

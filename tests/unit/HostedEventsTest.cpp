@@ -255,13 +255,42 @@ TEST(HostedEventsDeathTest, EventsThatCauseEventsEndSomewhere)
     });
 }
 
-TEST(HostedEventsDeathTest, TheEndOfTheToolkitInsideAScriptHurtsNobody)
+TEST(HostedEventsDeathTest, AScriptMayResetTheInterface)
 {
     WithInterface([](HostedInterface& ui) {
         ui.Load(Main("OnLeftClick", "command('ui -reset') Result = 'went on'"));
         ui.Click(5, 5);
         EXPECT_EQ("went on", ui.Expand("${Result}"));
         EXPECT_EQ(nullptr, g_UIManager.FindElement("Main"));
+    });
+}
+
+TEST(HostedEventsDeathTest, TheEndOfTheToolkitInsideAScriptHurtsNobody)
+{
+    WithInterface([](HostedInterface& ui) {
+        ui.Scripts().Commands.Add("end", [](int, char**) {
+            g_UIManager.Shutdown();
+            return 0;
+        });
+        ui.Load(Main("OnLeftClick", "command('end') Result = expand('${this.Width}') .. tostring(this)"));
+        ui.Click(5, 5);
+        EXPECT_EQ("NULLgone", ui.Expand("${Result}"));
+        EXPECT_EQ("", ui.Lines());
+    });
+}
+
+TEST(HostedEventsDeathTest, TrustedScriptsReachFiles)
+{
+    constexpr const char* script = "return io.open(Path):read('a')";
+    const auto run = [&](HostedInterface& ui) {
+        ui.Run("Path = '" + ui.Write("file.txt", "inside") + "'");
+        ui.Run("Result = (function() " + std::string(script) + " end)()");
+        return ui.Expand("${Result}");
+    };
+    WithInterface([&](HostedInterface& ui) { EXPECT_EQ("inside", run(ui)); }, host::ScriptTrust::Full);
+    WithInterface([&](HostedInterface& ui) {
+        EXPECT_EQ("NULL", run(ui));
+        EXPECT_EQ("test.xml: frame \"Tester\" OnLoad: 1: attempt to index a nil value (global 'io')\n", ui.Lines());
     });
 }
 

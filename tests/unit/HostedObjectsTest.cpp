@@ -142,7 +142,7 @@ TEST(HostedObjectsDeathTest, AnElementThatTakesAnothersPlaceInMemoryIsAnother)
 {
     WithInterface([](HostedInterface& ui) {
         ui.Run("Held = {}");
-        for (int round = 0; round < 200; ++round) {
+        for (int round = 0; round < 60; ++round) {
             ui.Load(Panel);
             ui.Run(
                 "for _, old in ipairs(Held) do if pcall(function() return old.Width end) then Result = 'alive' end end "
@@ -150,7 +150,7 @@ TEST(HostedObjectsDeathTest, AnElementThatTakesAnothersPlaceInMemoryIsAnother)
             g_UIManager.Screen->DeleteChild(&ui.Element("Panel"));
         }
         EXPECT_EQ("NULL", ui.Expand("${Result}"));
-        EXPECT_EQ("200", ui.Run("Result = #Held"));
+        EXPECT_EQ("60", ui.Run("Result = #Held"));
     });
 }
 
