@@ -8,10 +8,13 @@ void FoldAscii(std::string& text)
         character = FoldAscii(character);
 }
 
+// Texts that are compared are mostly spelled alike.
 bool EqualsNoCase(std::string_view left, std::string_view right)
 {
     if (left.size() != right.size())
         return false;
+    if (left == right)
+        return true;
 
     for (std::size_t index = 0; index < left.size(); ++index)
         if (FoldAscii(left[index]) != FoldAscii(right[index]))

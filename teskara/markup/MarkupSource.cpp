@@ -97,9 +97,9 @@ u32 MarkupSource::Position(TagName tag, ElementPosition& position) const
     position = {};
     const u64 bit = NameBit(tag.Hash);
     if (m_TemplateNames & bit)
-        XMLHelper::GetElementPositionValueEx(m_Template, tag.Text, position, value);
+        XMLHelper::GetElementPositionValueEx(m_Template, tag, position, value);
     if (m_NodeNames & bit)
-        XMLHelper::GetElementPositionValueEx(m_Node, tag.Text, position, value);
+        XMLHelper::GetElementPositionValueEx(m_Node, tag, position, value);
     return value;
 }
 

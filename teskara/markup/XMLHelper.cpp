@@ -16,13 +16,6 @@ const char* AttributeText(XMLNode* node, const char* name)
     return attribute && *attribute->Value ? attribute->Value : nullptr;
 }
 
-// The first child of the child element, which holds its value; null if there is no such element or it is empty.
-XMLNode* ContentOf(XMLNode* node, const char* name)
-{
-    const XMLNode* const child = XMLHelper::GetChild(node, name);
-    return child ? child->FirstChild : nullptr;
-}
-
 // Reads the text of a child element, which is empty if the element is.
 template <typename Read, typename Value> Value ReadChild(XMLNode* node, const char* name, Value fallback, Read read)
 {
@@ -90,6 +83,15 @@ unsigned int ReadPosition(std::string_view text, ElementPosition& position, unsi
     return position.Factor;
 }
 
+bool ReadPositionOf(const XMLNode* child, ElementPosition& position, unsigned int& value)
+{
+    if (!child || !child->FirstChild)
+        return false;
+
+    value = ReadPosition(child->FirstChild->Name, position, 0);
+    return true;
+}
+
 } // namespace
 
 XMLNode* XMLHelper::GetFirstChild(XMLNode* node)
@@ -124,8 +126,9 @@ XMLNode* XMLHelper::GetChild(XMLNode* node, const char* name)
 
 XMLNode* XMLHelper::GetChild(XMLNode* node, const char* name, u32 foldedHash)
 {
+    const std::string_view wanted = name;
     for (XMLNode* child = GetFirstChild(node); child; child = child->Next)
-        if (child->Type == XMLElementNode && child->HasName(name, foldedHash))
+        if (child->Type == XMLElementNode && child->HasName(wanted, foldedHash))
             return child;
     return nullptr;
 }
@@ -223,10 +226,10 @@ unsigned int XMLHelper::GetElementPositionValue(
 bool XMLHelper::GetElementPositionValueEx(
     XMLNode* node, const char* name, ElementPosition& position, unsigned int& value)
 {
-    const XMLNode* const content = ContentOf(node, name);
-    if (!content)
-        return false;
+    return ReadPositionOf(GetChild(node, name), position, value);
+}
 
-    value = ReadPosition(content->Name, position, 0);
-    return true;
+bool XMLHelper::GetElementPositionValueEx(XMLNode* node, TagName name, ElementPosition& position, unsigned int& value)
+{
+    return ReadPositionOf(GetChild(node, name), position, value);
 }

@@ -72,4 +72,5 @@ public:
     // is no such child or it has no content.
     static bool GetElementPositionValueEx(
         XMLNode* node, const char* name, ElementPosition& position, unsigned int& value);
+    static bool GetElementPositionValueEx(XMLNode* node, TagName name, ElementPosition& position, unsigned int& value);
 };

@@ -4,6 +4,8 @@
 #include "teskara/core/BoundedText.h"
 #include "teskara/markup/XMLArena.h"
 
+#include <cstring>
+
 namespace {
 
 // The node that follows in the order of the markup inside the tree under top, or null behind the last.
@@ -146,9 +148,10 @@ XMLNode* XMLNode::Clone(XMLNode* parent) const
     return copy;
 }
 
-bool XMLNode::HasName(std::string_view name, u32 foldedHash) const
+bool XMLNode::IsNamed(std::string_view name) const
 {
-    return NameHash == static_cast<u16>(foldedHash) && EqualsNoCase(Name, name);
+    const bool isSpelledAlike = std::strncmp(Name, name.data(), name.size()) == 0 && Name[name.size()] == 0;
+    return isSpelledAlike || EqualsNoCase(Name, name);
 }
 
 XMLAttribute* XMLNode::FindAttribute(std::string_view name) const

@@ -48,7 +48,10 @@ public:
     static void Delete(XMLNode* node);
 
     // Compares without regard to case.
-    bool HasName(std::string_view name, u32 foldedHash) const;
+    bool HasName(std::string_view name, u32 foldedHash) const
+    {
+        return NameHash == static_cast<u16>(foldedHash) && IsNamed(name);
+    }
 
     // The attribute of that name in any case, or null.
     XMLAttribute* FindAttribute(std::string_view name) const;
@@ -73,6 +76,7 @@ private:
     friend class XMLArena;
 
     XMLNode(const char* name, u32 type) : Name(name), Type(type) { }
+    bool IsNamed(std::string_view name) const;
     static void operator delete(void*) { }
 };
 
