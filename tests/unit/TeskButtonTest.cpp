@@ -172,27 +172,6 @@ TEST_F(TeskButtonTest, ItsParentHearsOfAPressBeforeItsScriptRuns)
     EXPECT_EQ((std::vector<std::string>{"6:0", "down", "1:0", "click"}), Parent.Heard);
 }
 
-TEST_F(TeskButtonTest, DeletedByItsParentItRunsNoScript)
-{
-    bool ran = false;
-    Host.Scripts["script"] = [&](TeskElement&) { ran = true; };
-    Parent.Act = [&](TeskElement& source) { Parent.DeleteChild(&source); };
-    for (const auto act : {Press, Release}) {
-        EXPECT_TRUE(act(MakeButton("<OnLeftDown>script</OnLeftDown><OnLeftClick>script</OnLeftClick>")));
-        EXPECT_TRUE(IsGone());
-    }
-    EXPECT_FALSE(ran);
-}
-
-TEST_F(TeskButtonTest, DeletedByItsOwnScriptItTookTheMouseAllTheSame)
-{
-    Host.Scripts["die"] = [](TeskElement& self) { self.Parent->DeleteChild(&self); };
-    for (const auto act : {Press, Release}) {
-        EXPECT_TRUE(act(MakeButton("<OnLeftDown>die</OnLeftDown><OnLeftClick>die</OnLeftClick>")));
-        EXPECT_TRUE(IsGone());
-    }
-}
-
 TEST_F(TeskButtonTest, WithoutAParentItTakesThePress)
 {
     TeskButton button("button", nullptr, "Alone");

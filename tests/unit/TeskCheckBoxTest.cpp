@@ -127,27 +127,6 @@ TEST_F(TeskCheckBoxTest, ItsParentHearsOfTheNewStateBeforeItsScriptRuns)
     EXPECT_EQ((std::vector<std::string>{"6:0", "open", "open", "1:0", "checked", "checked"}), Parent.Heard);
 }
 
-TEST_F(TeskCheckBoxTest, DeletedByItsParentItRunsNoScript)
-{
-    bool ran = false;
-    Host.Scripts["script"] = [&](TeskElement&) { ran = true; };
-    Parent.Act = [&](TeskElement& source) { Parent.DeleteChild(&source); };
-    for (const auto act : {Press, Release}) {
-        EXPECT_TRUE(act(MakeCheckBox("<OnLeftDown>script</OnLeftDown><OnLeftClick>script</OnLeftClick>")));
-        EXPECT_TRUE(IsGone());
-    }
-    EXPECT_FALSE(ran);
-}
-
-TEST_F(TeskCheckBoxTest, DeletedByItsOwnScriptItTookTheMouseAllTheSame)
-{
-    Host.Scripts["die"] = [](TeskElement& self) { self.Parent->DeleteChild(&self); };
-    for (const auto act : {Press, Release}) {
-        EXPECT_TRUE(act(MakeCheckBox("<OnLeftDown>die</OnLeftDown><OnLeftClick>die</OnLeftClick>")));
-        EXPECT_TRUE(IsGone());
-    }
-}
-
 TEST_F(TeskCheckBoxTest, WithoutATextureNoBoxIsDrawn)
 {
     TeskCheckBox& box = PlaceCheckBox("<Text>On</Text><TextureChecked Filename='#checked'/>");
