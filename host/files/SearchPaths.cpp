@@ -19,6 +19,13 @@ bool Exists(const fs::path& path)
     return fs::exists(path, error);
 }
 
+// A folder, a pipe or a device is nothing to read: the latter may have no end.
+bool IsFile(const fs::path& path)
+{
+    std::error_code error;
+    return fs::is_regular_file(path, error);
+}
+
 fs::path Absolute(const fs::path& path)
 {
     std::error_code error;
@@ -49,7 +56,7 @@ fs::path InterfacesAbove(fs::path folder)
 std::optional<std::string> FirstIn(const std::vector<fs::path>& folders, const std::string& name)
 {
     for (const fs::path& folder : folders)
-        if (Exists(folder / name))
+        if (IsFile(folder / name))
             return (folder / name).string();
     return std::nullopt;
 }
@@ -76,7 +83,7 @@ std::optional<std::string> SearchPaths::FindInterface(const std::string& name) c
 {
     if (name.empty())
         return std::nullopt;
-    if (Exists(name))
+    if (IsFile(name))
         return Absolute(name).string();
     return FirstIn({m_Interfaces}, name);
 }
@@ -86,7 +93,7 @@ std::optional<std::string> SearchPaths::FindResource(const std::string& name) co
     if (name.empty())
         return std::nullopt;
     if (fs::path(name).is_absolute())
-        return Exists(name) ? std::optional(name) : std::nullopt;
+        return IsFile(name) ? std::optional(name) : std::nullopt;
     if (auto found = FirstIn(m_BesideFiles, name))
         return found;
     if (auto found = FirstIn(m_Skins, name))

@@ -9,6 +9,7 @@ std::vector<CommandWord> SplitCommandLine(std::string_view line)
     std::vector<CommandWord> words;
     bool inWord = false;
     bool quoted = false;
+    bool hasParts = true; // until one has no end: then there are none behind it either
     for (std::size_t at = 0; at < line.size();) {
         const char character = line[at];
         if (!quoted && (character == ' ' || character == '\t')) {
@@ -20,8 +21,9 @@ std::vector<CommandWord> SplitCommandLine(std::string_view line)
             words.emplace_back();
         inWord = true;
         CommandWord& word = words.back();
-        const std::size_t end =
-            !quoted && line.substr(at).starts_with("${") ? SequenceParser::FindEnd(line, at) : line.npos;
+        const bool isPart = !quoted && hasParts && line.substr(at).starts_with("${");
+        const std::size_t end = isPart ? SequenceParser::FindEnd(line, at) : line.npos;
+        hasParts = hasParts && (!isPart || end != line.npos);
         if (end != line.npos) {
             word.Text += line.substr(at, end - at);
             at = end;

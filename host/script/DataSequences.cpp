@@ -11,6 +11,8 @@ namespace {
 
 constexpr std::string_view Opening = "${";
 constexpr std::size_t MostRecent = 4096; // texts
+constexpr std::size_t MostRecentBytes = 256 * 1024; // of theirs; parsed they take far more
+constexpr std::size_t LongestText = 64 * 1024; // a longer one is taken as it is
 
 // Cuts where a character begins, so that no broken one is shown.
 void WriteText(std::string_view text, char* output, u32 size)
@@ -74,11 +76,13 @@ DataSequences::Shared DataSequences::Parse(std::string_view text)
 
     const auto older = m_Older.find(text);
     Shared sequence = older == m_Older.end() ? Read(text, {}) : older->second;
-    if (m_Recent.size() >= MostRecent) {
+    if (m_Recent.size() >= MostRecent || m_RecentBytes + text.size() > MostRecentBytes) {
         m_Older = std::move(m_Recent);
         m_Recent.clear();
+        m_RecentBytes = 0;
     }
     m_Recent.emplace(sequence->Original, sequence);
+    m_RecentBytes += text.size();
     return sequence;
 }
 
@@ -90,8 +94,12 @@ std::shared_ptr<const Sequence> DataSequences::Find(u32 sequence) const
 
 DataSequences::Shared DataSequences::Read(std::string_view text, const std::string& where)
 {
-    const auto sequence = std::make_shared<Sequence>(SequenceParser::Read(text));
+    const auto sequence = std::make_shared<Sequence>();
     sequence->Original = text;
+    if (text.size() <= LongestText)
+        sequence->Parts = SequenceParser::Read(text).Parts;
+    else
+        sequence->Parts.emplace_back().Text = text;
     sequence->Where = where;
     m_Evaluator.Prepare(*sequence);
     return sequence;

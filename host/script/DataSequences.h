@@ -46,6 +46,7 @@ private:
     SequenceEvaluator& m_Evaluator;
     std::unordered_map<u32, Shared> m_Kept;
     ByText m_Recent;
+    std::size_t m_RecentBytes = 0;
     ByText m_Older; // those of Recent before it was full
     std::string m_Expanded; // keeps its memory between uses
     u32 m_LastID = 0;

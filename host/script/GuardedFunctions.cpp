@@ -2,14 +2,13 @@
 
 #include "host/script/LuaState.h"
 #include "host/script/PatternFunctions.h"
+#include "host/script/TableFunctions.h"
 
 #include <string_view>
 
 namespace host {
 
 namespace {
-
-constexpr lua_Integer MostMoved = 1'000'000; // fields that one call may move
 
 bool HasFailed(int status)
 {
@@ -139,82 +138,6 @@ int Wrap(lua_State* thread)
     return 1;
 }
 
-// --- Tables
-
-void RefuseProtected(lua_State* thread)
-{
-    if (luaL_getmetafield(thread, 1, "__metatable") != LUA_TNIL)
-        luaL_error(thread, "this is protected and cannot be changed");
-}
-
-// What Lua calls when it collects a table, it calls without counting.
-int SetMetatable(lua_State* thread)
-{
-    luaL_checktype(thread, 1, LUA_TTABLE);
-    luaL_argexpected(thread, lua_isnil(thread, 2) || lua_istable(thread, 2), 2, "nil or table");
-    lua_settop(thread, 2);
-    RefuseProtected(thread);
-    if (lua_istable(thread, 2)) {
-        lua_pushliteral(thread, "__gc");
-        if (lua_rawget(thread, 2) != LUA_TNIL)
-            return luaL_error(thread, "__gc is not available");
-    }
-    lua_settop(thread, 2);
-    lua_setmetatable(thread, 1);
-    return 1;
-}
-
-int RawSet(lua_State* thread)
-{
-    luaL_checktype(thread, 1, LUA_TTABLE);
-    luaL_checkany(thread, 2);
-    luaL_checkany(thread, 3);
-    RefuseProtected(thread);
-    lua_settop(thread, 3);
-    lua_rawset(thread, 1);
-    return 1;
-}
-
-// The library's functions loop as often as a length says; one that a script computes could say anything.
-int CallWithPlainTable(lua_State* thread)
-{
-    luaL_checktype(thread, 1, LUA_TTABLE);
-    if (luaL_getmetafield(thread, 1, "__len") != LUA_TNIL)
-        return luaL_error(thread, "a table with __len cannot be used here");
-
-    lua_pushvalue(thread, lua_upvalueindex(1));
-    lua_insert(thread, 1);
-    lua_call(thread, lua_gettop(thread) - 1, LUA_MULTRET);
-    return lua_gettop(thread);
-}
-
-int MoveFields(lua_State* thread)
-{
-    const lua_Integer first = luaL_checkinteger(thread, 2);
-    const lua_Integer last = luaL_checkinteger(thread, 3);
-    if (last >= first && static_cast<u64>(last) - static_cast<u64>(first) >= MostMoved)
-        return luaL_error(thread, "too many fields to move");
-
-    lua_pushvalue(thread, lua_upvalueindex(1));
-    lua_insert(thread, 1);
-    lua_call(thread, lua_gettop(thread) - 1, LUA_MULTRET);
-    return lua_gettop(thread);
-}
-
-void AddGuardedTable(lua_State* thread)
-{
-    luaL_requiref(thread, "table", luaopen_table, false);
-    for (const char* name : {"concat", "insert", "remove", "sort"}) {
-        lua_getfield(thread, -1, name);
-        lua_pushcclosure(thread, CallWithPlainTable, 1);
-        lua_setfield(thread, -3, name);
-    }
-    lua_getfield(thread, -1, "move");
-    lua_pushcclosure(thread, MoveFields, 1);
-    lua_setfield(thread, -3, "move");
-    lua_pop(thread, 1);
-}
-
 // --- Texts
 
 // Compiles a text. A compiled chunk could do anything.
@@ -274,8 +197,6 @@ constexpr luaL_Reg CallFunctions[] = {
 constexpr luaL_Reg BaseFunctions[] = {
     {"xpcall", ProtectedCallWithHandler},
     {"load", Load},
-    {"rawset", RawSet},
-    {"setmetatable", SetMetatable},
     {nullptr, nullptr},
 };
 
@@ -296,6 +217,7 @@ void AddGuardedBase(lua_State* thread)
 {
     AddGuardedCall(thread);
     luaL_setfuncs(thread, BaseFunctions, 0);
+    AddGuardedTableAccess(thread);
 }
 
 void AddGuarded(lua_State* thread, const char* library)
@@ -304,7 +226,7 @@ void AddGuarded(lua_State* thread, const char* library)
     if (name == "coroutine")
         luaL_setfuncs(thread, CoroutineFunctions, 0);
     else if (name == "table")
-        AddGuardedTable(thread);
+        AddTableFunctions(thread);
     else if (name == "string")
         AddGuardedString(thread);
 }

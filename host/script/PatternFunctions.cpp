@@ -1,5 +1,6 @@
 #include "host/script/PatternFunctions.h"
 
+#include "host/script/LuaState.h"
 #include "host/script/PatternMatcher.h"
 
 #include <algorithm>
@@ -11,6 +12,7 @@ namespace host {
 namespace {
 
 constexpr std::string_view SpecialCharacters = "^$*+?.([%-";
+constexpr std::size_t CharactersOfStep = 16; // that are looked at in the time of an instruction
 
 std::string_view TextArgument(lua_State* thread, int index)
 {
@@ -32,6 +34,9 @@ std::size_t StartArgument(lua_State* thread, int index, std::size_t length)
 
 int FindPlain(lua_State* thread, std::string_view subject, std::string_view wanted, std::size_t start)
 {
+    if (const char* why = LuaState::Of(thread).Budget().SpendSteps((subject.size() - start) / CharactersOfStep))
+        return luaL_error(thread, "%s", why);
+
     const char* from = subject.data() + start;
     const void* found = memmem(from, subject.size() - start, wanted.data(), wanted.size()); // linear, unlike others
     if (!found) {

@@ -2,8 +2,17 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <utility>
 
 namespace host {
+
+namespace {
+
+constexpr u64 StepsAtOnce = 256;
+constexpr std::size_t LargeBlock = 4096;
+constexpr std::size_t BytesOfStep = 64; // that are filled in the time of an instruction
+
+} // namespace
 
 void ScriptBudget::Begin()
 {
@@ -11,13 +20,14 @@ void ScriptBudget::Begin()
         return;
 
     m_Instructions = 0;
+    m_Steps = 0;
     m_End = {};
     m_MostBytes = std::min(m_Bytes + m_Limits.CallBytes, m_Limits.AllBytes);
     m_WhySpent = nullptr;
     m_IsTold = false;
 }
 
-const char* ScriptBudget::Spend(u32 instructions)
+const char* ScriptBudget::Spend(u64 instructions)
 {
     if (m_WhySpent || m_Depth == 0)
         return m_WhySpent;
@@ -32,6 +42,14 @@ const char* ScriptBudget::Spend(u32 instructions)
     else if (now > m_End)
         m_WhySpent = "stopped, since it ran too long";
     return m_WhySpent;
+}
+
+const char* ScriptBudget::SpendSteps(u64 steps)
+{
+    m_Steps += steps;
+    if (m_Steps < StepsAtOnce)
+        return m_WhySpent;
+    return Spend(std::exchange(m_Steps, 0));
 }
 
 void ScriptBudget::RunOutOfMemory()
@@ -56,6 +74,10 @@ void* ScriptBudget::Reallocate(void* block, std::size_t oldSize, std::size_t siz
         m_Bytes -= oldSize;
         return nullptr;
     }
+
+    // Who makes large blocks fills them: that takes its time, in however few instructions.
+    if (size > oldSize && size >= LargeBlock && SpendSteps(size / BytesOfStep))
+        return nullptr;
 
     const std::size_t most = m_Depth > 0 ? m_MostBytes : m_Limits.AllBytes;
     if (size > oldSize && m_Bytes - oldSize + size > most)

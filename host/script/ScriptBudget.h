@@ -26,7 +26,10 @@ public:
     void End() { --m_Depth; }
 
     // Counts instructions. Null, or why the script has to stop; from then on, until the outermost call ends.
-    const char* Spend(u32 instructions);
+    const char* Spend(u64 instructions);
+
+    // The same for work that is done outside of them, in steps that take about as long. Cheap for few.
+    const char* SpendSteps(u64 steps);
 
     // Memory ran out.
     void RunOutOfMemory();
@@ -44,6 +47,7 @@ private:
     ScriptLimits m_Limits;
     u32 m_Depth = 0;
     u64 m_Instructions = 0;
+    u64 m_Steps = 0; // not yet among the instructions
     std::chrono::steady_clock::time_point m_End;
     std::size_t m_Bytes = 0;
     std::size_t m_MostBytes = 0; // in this call

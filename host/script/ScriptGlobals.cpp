@@ -25,12 +25,12 @@ const LibraryRow Libraries[] = {
     {"os", luaopen_os, {"clock", "date", "difftime", "time"}},
     {"string", luaopen_string,
         {"byte", "char", "format", "len", "lower", "pack", "packsize", "reverse", "unpack", "upper"}},
-    {"table", luaopen_table, {"pack", "unpack"}},
+    {"table", luaopen_table, {"pack"}},
     {"utf8", luaopen_utf8, {"char", "charpattern", "codepoint", "codes", "len", "offset"}},
 };
 
-const std::initializer_list<const char*> BaseFunctions = {"assert", "error", "getmetatable", "ipairs", "next", "pairs",
-    "rawequal", "rawget", "rawlen", "select", "tonumber", "tostring", "type", "_VERSION"};
+const std::initializer_list<const char*> BaseFunctions = {"assert", "error", "getmetatable", "ipairs", "rawequal",
+    "rawget", "rawlen", "select", "tonumber", "tostring", "type", "_VERSION"};
 
 void CopyFields(lua_State* thread, int from, std::initializer_list<const char*> names)
 {

@@ -195,6 +195,47 @@ TEST_F(LuaSandbox, FunctionsThatLoopWithoutInstructionsAreBounded)
         TooMany);
 }
 
+TEST_F(LuaSandbox, SortingLongTextsIsStopped)
+{
+    const char* texts = "local a = ('x'):rep(300000) local b, t = a .. 'b', {} a = a .. 'a' "
+                        "for i = 1, 4000 do t[i] = i % 2 == 0 and a or b end ";
+    ExpectStopped(std::string(texts) + "table.sort(t)", TooMany);
+    ExpectStopped(std::string(texts) + "table.sort(t, string.find)", TooMany);
+    ExpectStopped("local t = {} for i = 1, 20000 do t[i] = '1' end table.sort(t, utf8.len)", TooMany);
+    EXPECT_EQ("1 2 a b", Run("local t = {'b', '2', 'a', '1'} table.sort(t) return table.concat(t, ' ')"));
+    EXPECT_NE(std::string::npos, Run("table.sort({1, 'a'})").find("attempt to compare"));
+    EXPECT_NE(std::string::npos, Run("table.sort({1, 2}, 1)").find("function expected"));
+}
+
+TEST_F(LuaSandbox, LoopsOfTheLibraryThatCallItsOtherFunctionsAreStopped)
+{
+    const char* holes = "local t = {} for i = 1, 3000 do t[i] = '' end for i = 3, 3000 do t[i] = nil end ";
+    const char* texts = "local t = {} for i = 1, 10000 do t[i] = '' end ";
+    const char* moves = "while true do table.move(t, 3, 2900, 1, {}) end";
+    ExpectStopped(std::string(holes) + "setmetatable(t, {__index = next}) " + moves, TooMany);
+    ExpectStopped(std::string(holes) + "setmetatable(t, {__index = (pairs(t))}) " + moves, TooMany);
+    ExpectStopped(
+        std::string(texts) + "setmetatable(t, {__index = table.concat}) while true do local a, b = t[10001], t.x end",
+        "stopped");
+    ExpectStopped(std::string(texts) + "while true do table.insert(t, 1, '') end", "stopped");
+    ExpectStopped(
+        "local t = setmetatable({}, {__index = type}) while true do table.unpack(t, 1, 10000) end", "stopped");
+}
+
+TEST_F(LuaSandbox, TablesAreGoneThroughAsEver)
+{
+    EXPECT_EQ("a 1", Run("for key, value in pairs({a = 1}) do return key .. ' ' .. value end"));
+    EXPECT_EQ("x 7",
+        Run("local t = setmetatable({}, {__pairs = function() return function(_, k) if not k then return 'x', 7 end "
+            "end "
+            "end}) for key, value in pairs(t) do return key .. ' ' .. value end"));
+    EXPECT_EQ("nil", Run("return next({})"));
+    EXPECT_EQ("2 3", Run("return table.concat({table.unpack({1, 2, 3}, 2)}, ' ')"));
+    EXPECT_EQ("1 2", Run("return table.concat(table.move({1, 2}, 1, 2, 1, {}), ' ')"));
+    EXPECT_EQ("4", Run("local t = {} for i = 1, 4 do table.insert(t, i) end return table.remove(t)"));
+    EXPECT_EQ("5", Run("return (table.unpack(setmetatable({5}, {__len = function() return 1 end})))"));
+}
+
 TEST_F(LuaSandbox, PatternsWithoutEndAreStopped)
 {
     ExpectStopped("return ('a'):rep(40):find(('a*'):rep(20) .. 'b')", TooMany);
