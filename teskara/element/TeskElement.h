@@ -12,6 +12,7 @@
 
 class ChildIndex;
 class MvTypeDefinition;
+class TeskElementFactory;
 class TeskFixedFont;
 class TeskFont;
 class TeskTexture;
@@ -365,6 +366,7 @@ public:
 
 private:
     friend class TeskElementDeleter;
+    friend class TeskElementFactory;
 
     void BuildFullName();
     void DeleteAllChildren();
@@ -385,6 +387,7 @@ private:
     bool IsOffScreen(const tagRECT& rect) const;
     bool DescribeTexture(TeskDrawRecord& record, const TeskTexture* texture) const;
 
+    const TeskElementFactory* m_Maker = nullptr; // only compared
     u32 m_ChildCount = 0;
     std::unique_ptr<ChildIndex> m_ChildIndex; // null until it is wanted
 

@@ -8,7 +8,7 @@
 #include "teskara/element/ElementWatch.h"
 #include "teskara/element/TeskElement.h"
 
-#include <vector>
+#include <algorithm>
 
 void TeskElementDeleter::Delete(TeskElement* element)
 {
@@ -52,20 +52,34 @@ void TeskElementFactory::Unregister()
 
 void TeskElementFactory::RemoveInstance(TeskElement* element)
 {
-    m_Instances.erase(element->ID);
+    if (element->m_Maker == this)
+        element->m_Maker = nullptr;
 }
 
 // One deletion may take others of the kind with it, so each is looked up when its turn comes.
 void TeskElementFactory::TearDown()
 {
     if (m_Name) {
-        for (const u32 id : std::vector<u32>(m_Instances.begin(), m_Instances.end())) {
+        for (const u32 id : Instances()) {
             if (TeskElement* element = g_UIManager.FindElementByID(id))
                 EndInstance(*element);
+            if (TeskElement* left = g_UIManager.FindElementByID(id))
+                RemoveInstance(left);
         }
     }
     Unregister();
-    m_Instances.clear();
+}
+
+// The ids of all that live, oldest first.
+std::vector<u32> TeskElementFactory::Instances() const
+{
+    std::vector<u32> ids;
+    for (const auto& [id, element] : g_UIManager.ElementsByID) {
+        if (element->m_Maker == this)
+            ids.push_back(id);
+    }
+    std::sort(ids.begin(), ids.end());
+    return ids;
 }
 
 // The element hears OnDestroy twice: here, and when its parent deletes it.
@@ -87,15 +101,8 @@ bool TeskElementFactory::MayCreate(TeskElement* parent)
 
 TeskElement* TeskElementFactory::Enter(TeskElement* element)
 {
-    if (!element)
-        return nullptr;
-
-    try {
-        m_Instances.insert(element->ID);
-    } catch (...) {
-        m_Deleter.Delete(element);
-        return nullptr;
-    }
+    if (element)
+        element->m_Maker = this;
     return element;
 }
 

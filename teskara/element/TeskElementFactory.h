@@ -7,7 +7,7 @@
 
 #include <concepts>
 #include <new>
-#include <unordered_set>
+#include <vector>
 
 class TeskElement;
 class XMLNode;
@@ -69,8 +69,8 @@ protected:
 
 private:
     void EndInstance(TeskElement& element);
+    std::vector<u32> Instances() const;
 
-    std::unordered_set<u32> m_Instances; // ids of those that live
     TeskElementDeleter m_Deleter;
     std::unique_ptr<utf8string> m_Name;
 };
