@@ -18,12 +18,10 @@ bool HasFailed(int status)
 // An error was caught, and lies on top of the stack. If it ends the whole call it is raised again.
 void LetLimitsPass(lua_State* thread, int status)
 {
-    ScriptBudget& budget = LuaState::Of(thread).Budget();
-    if (status == LUA_ERRMEM) {
-        budget.RunOutOfMemory();
-        luaL_error(thread, "%s", budget.WhySpent());
-    }
-    if (budget.WhySpent())
+    LuaState& state = LuaState::Of(thread);
+    if (status == LUA_ERRMEM)
+        state.RaiseOutOfMemory(thread);
+    if (state.Budget().WhySpent())
         lua_error(thread);
 }
 
@@ -95,7 +93,11 @@ int ResumeThread(lua_State* thread, lua_State* other, int arguments)
     }
     lua_xmove(thread, other, arguments);
     int results = 0;
-    const int status = lua_resume(other, thread, arguments, &results);
+    int status = LUA_OK;
+    {
+        const RunningThread running(other);
+        status = lua_resume(other, thread, arguments, &results);
+    }
     if (HasFailed(status)) {
         lua_xmove(other, thread, 1);
         LetLimitsPass(thread, status);

@@ -1,5 +1,7 @@
 #include "host/script/LuaState.h"
 
+#include <algorithm>
+#include <cstdio>
 #include <new>
 #include <stdexcept>
 
@@ -8,6 +10,18 @@ namespace host {
 namespace {
 
 constexpr int CountedAtOnce = 256; // instructions
+
+constexpr std::size_t LongestError = 1000; // characters
+constexpr const char* TooDeep = "stack overflow";
+
+// Whether an error begins with a name, a line and a colon.
+bool HasPlace(std::string_view error)
+{
+    constexpr std::string_view digits = "0123456789";
+    const std::size_t line = error.find(':') + 1;
+    const std::size_t end = line == 0 ? error.npos : error.find_first_not_of(digits, line);
+    return end != error.npos && end > line && error.substr(end).starts_with(": ");
+}
 
 // The text that is being compiled, in two pieces.
 struct SourceReader {
@@ -27,12 +41,12 @@ struct SourceReader {
 
 } // namespace
 
-LuaState::LuaState(const ScriptLimits& limits)
-    : m_Budget(limits), m_Main(lua_newstate(Allocate, this)), m_Thread(m_Main)
+LuaState::LuaState(const ScriptLimits& limits) : m_Budget(limits), m_Main(lua_newstate(Allocate, this))
 {
     if (!m_Main)
         throw std::bad_alloc();
 
+    m_Thread = m_Main;
     lua_atpanic(
         m_Main, [](lua_State*) -> int { throw std::runtime_error("an error of a script's that nobody caught"); });
 
@@ -54,12 +68,19 @@ LuaState& LuaState::Of(lua_State* thread)
 bool LuaState::Call(int arguments, int results)
 {
     lua_State* thread = m_Thread;
-    const int status = lua_pcall(thread, arguments, results, 0);
-    if (status == LUA_OK)
-        return true;
-
-    TakeError(thread, status);
-    return false;
+    const int handler = lua_gettop(thread) - arguments; // where the function lies now
+    if (!lua_checkstack(thread, 1)) {
+        lua_settop(thread, handler - 1);
+        m_Error = TooDeep;
+        return false;
+    }
+    lua_pushcfunction(thread, HandleError);
+    lua_insert(thread, handler);
+    const int status = lua_pcall(thread, arguments, results, handler);
+    if (status != LUA_OK)
+        TakeError(thread, status);
+    lua_remove(thread, handler);
+    return status == LUA_OK;
 }
 
 int LuaState::Compile(std::string_view prefix, std::string_view text, const char* name)
@@ -79,17 +100,43 @@ int LuaState::Compile(std::string_view prefix, std::string_view text, const char
 
 void LuaState::TakeError(lua_State* thread, int status)
 {
+    const bool isException = status < 0; // one of C++'s, and what lies there is no error
     if (status == LUA_ERRMEM)
         m_Budget.RunOutOfMemory();
-    if (status == LUA_ERRMEM && m_Budget.WhySpent())
+    if (status == LUA_ERRMEM)
         m_Error = m_Budget.WhySpent();
+    else if (isException)
+        m_Error = "the host could not do it";
     else if (lua_type(thread, -1) == LUA_TSTRING)
-        m_Error = lua_tostring(thread, -1);
+        m_Error.assign(lua_tostring(thread, -1), std::min<std::size_t>(lua_rawlen(thread, -1), LongestError));
     else if (lua_isinteger(thread, -1))
         m_Error = std::to_string(lua_tointeger(thread, -1));
     else
         m_Error = std::string("the error is a ") + luaL_typename(thread, -1) + " value";
     lua_pop(thread, 1);
+    if (!HasPlace(m_Error))
+        m_Error.insert(0, m_Place);
+    m_Place[0] = '\0';
+}
+
+void LuaState::NotePlace(lua_State* thread)
+{
+    m_Place[0] = '\0';
+    lua_Debug where;
+    for (int level = 0; lua_getstack(thread, level, &where); ++level) {
+        lua_getinfo(thread, "Sl", &where);
+        if (where.currentline > 0) {
+            std::snprintf(m_Place, sizeof m_Place, "%s:%d: ", where.short_src, where.currentline);
+            return;
+        }
+    }
+}
+
+int LuaState::RaiseOutOfMemory(lua_State* thread)
+{
+    m_Budget.RunOutOfMemory();
+    lua_pushfstring(thread, "%s%s", m_Place, m_Budget.WhySpent());
+    return lua_error(thread);
 }
 
 void LuaState::AddFunction(lua_State* thread, const char* name, lua_CFunction function, void* owner)
@@ -101,7 +148,18 @@ void LuaState::AddFunction(lua_State* thread, const char* name, lua_CFunction fu
 
 void* LuaState::Allocate(void* state, void* block, std::size_t oldSize, std::size_t size)
 {
-    return static_cast<LuaState*>(state)->m_Budget.Reallocate(block, oldSize, size);
+    LuaState& self = *static_cast<LuaState*>(state);
+    void* moved = self.m_Budget.Reallocate(block, oldSize, size);
+    if (!moved && size > 0 && self.m_Thread)
+        self.NotePlace(self.m_Thread); // Lua doesn't ask for it when memory runs out
+    return moved;
+}
+
+// It is called where the error is raised, and leaves it as it is.
+int LuaState::HandleError(lua_State* thread)
+{
+    Of(thread).NotePlace(thread);
+    return 1;
 }
 
 void LuaState::CountInstructions(lua_State* thread, lua_Debug* where)

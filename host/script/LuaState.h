@@ -59,8 +59,15 @@ public:
 
     const std::string& Error() const { return m_Error; }
 
-    // Takes the error that lies on top of a thread's stack, and gives it as a text.
+    // Takes the error that lies on top of a thread's stack, and makes it a text that begins with its place if that is
+    // known.
     void TakeError(lua_State* thread, int status);
+
+    // Notes the place where a thread is, in case its error doesn't say it.
+    void NotePlace(lua_State* thread);
+
+    // Memory ran out: raises the error that says where.
+    int RaiseOutOfMemory(lua_State* thread);
 
     // Registers a function of the host's on top of the stack under a name in the table below it. owner: what it gets
     // back by Owner.
@@ -75,12 +82,14 @@ private:
 
     static constexpr int SpareSlots = 16;
 
+    static int HandleError(lua_State* thread);
     static void* Allocate(void* state, void* block, std::size_t oldSize, std::size_t size);
     static void CountInstructions(lua_State* thread, lua_Debug* where);
 
     ScriptBudget m_Budget;
+    lua_State* m_Thread = nullptr;
     lua_State* m_Main;
-    lua_State* m_Thread;
+    char m_Place[LUA_IDSIZE + 16] = ""; // "chunk:line: "
     std::string m_Error;
 };
 

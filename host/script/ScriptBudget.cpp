@@ -75,12 +75,12 @@ void* ScriptBudget::Reallocate(void* block, std::size_t oldSize, std::size_t siz
         return nullptr;
     }
 
-    // Who makes large blocks fills them: that takes its time, in however few instructions.
-    if (size > oldSize && size >= LargeBlock && SpendSteps(size / BytesOfStep))
-        return nullptr;
-
     const std::size_t most = m_Depth > 0 ? m_MostBytes : m_Limits.AllBytes;
     if (size > oldSize && m_Bytes - oldSize + size > most)
+        return nullptr;
+
+    // Who makes large blocks fills them: that takes its time, in however few instructions.
+    if (size > oldSize && size >= LargeBlock && SpendSteps(size / BytesOfStep))
         return nullptr;
 
     void* moved = std::realloc(block, size);

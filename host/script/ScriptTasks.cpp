@@ -83,6 +83,8 @@ bool ScriptTasks::Resume(ScriptTask& task)
         lua_pop(task.Thread(), results);
         return status == LUA_YIELD;
     }
+    if (status != LUA_ERRMEM)
+        m_State.NotePlace(task.Thread());
     m_State.TakeError(task.Thread(), status);
     SayWhyFailed(task.Name());
     return false;

@@ -154,7 +154,7 @@ TEST(HostedEventsDeathTest, ARunawayScriptEndsWithOneLineAndTheInterfaceGoesOn)
         EXPECT_EQ("test.xml: frame \"Main\" OnLeftClick: 1: stopped, since it ran too many instructions\n", ui.Lines());
         ui.Load(Main("OnLeftClick", "local t = {}\nwhile true do\nt[#t + 1] = 'x' .. #t end"));
         ui.Click(5, 5);
-        EXPECT_EQ("test.xml: frame \"Main\" OnLeftClick: stopped, since it took too much memory\n", ui.Lines());
+        EXPECT_EQ("test.xml: frame \"Main\" OnLeftClick: 3: stopped, since it took too much memory\n", ui.Lines());
         EXPECT_EQ("ok", ui.Run("Result = 'ok'"));
         EXPECT_EQ("", ui.Lines());
     });
@@ -182,7 +182,7 @@ TEST(HostedEventsDeathTest, AFailureInEveryFrameIsToldOfOnce)
         ui.Load(Main("OnRender", "Count = (Count or 0) + 1 if Count % 2 == 0 then error('even', 0) end"));
         for (int frame = 0; frame < 4; ++frame)
             ui.Frame();
-        EXPECT_EQ("test.xml: frame \"Main\" OnRender: even\ntest.xml: frame \"Main\" OnRender: even\n", ui.Lines());
+        EXPECT_EQ("test.xml: frame \"Main\" OnRender: 1: even\ntest.xml: frame \"Main\" OnRender: 1: even\n", ui.Lines());
     });
 }
 

@@ -271,16 +271,35 @@ TEST_F(LuaSandbox, CallsThatGoTooDeepFail)
 
 TEST_F(LuaSandbox, ErrorsThatAreNoTextsAreNamed)
 {
-    EXPECT_EQ("the error is a table value", Run("error({})"));
-    EXPECT_EQ("the error is a nil value", Run("error()"));
-    EXPECT_EQ("42", Run("error(42, 0)"));
+    EXPECT_EQ("script:1: the error is a table value", Run("error({})"));
+    EXPECT_EQ("script:2: the error is a nil value", Run("\nerror()"));
+    EXPECT_EQ("script:1: 42", Run("error(42, 0)"));
     EXPECT_EQ("false why handled",
         Run("local ok, why = xpcall(error, function(why) return why .. ' handled' end, 'why') "
             "return tostring(ok) .. ' ' .. why"));
     EXPECT_EQ("true 3",
         Run("local ok, sum = xpcall(function(a, b) return a + b end, error, 1, 2) "
             "return tostring(ok) .. ' ' .. sum"));
-    EXPECT_EQ("the error is a function value", Run("error(print or pcall)"));
+    EXPECT_EQ("script:1: the error is a function value", Run("error(print or pcall)"));
+}
+
+TEST_F(LuaSandbox, EveryErrorSaysItsLine)
+{
+    EXPECT_EQ("script:3: why", Run("local f = function()\n\nerror('why', 0) end f()"));
+    EXPECT_EQ("script:2: invalid order function for sorting",
+        Run("local t = {} for i = 1, 100 do t[i] = i end\ntable.sort(t, function() return true end)"));
+    EXPECT_EQ("script:2: attempt to yield from outside a coroutine", Run("\ncoroutine.yield()"));
+    EXPECT_EQ("script:2: C stack overflow", Run("local function f()\nreturn coroutine.wrap(f)() end\n\nf()"));
+    EXPECT_EQ("script:2: stopped, since it took too much memory", Run("\nlocal s = ('x'):rep(1 << 30)"));
+    EXPECT_EQ("script:3: stopped, since it took too much memory", Run("local t = {}\nfor i = 1, 1e9 do\nt[i] = i end"));
+    EXPECT_EQ("script:2: stopped, since it took too much memory", Run("local function f()\nreturn 1 + f() end\nf()"));
+    EXPECT_EQ("script:3: stopped, since it took too much memory",
+        Run("pcall(coroutine.wrap(function()\nlocal s = 'x' while true do\ns = s .. s end end))\n"));
+}
+
+TEST_F(LuaSandbox, ALongErrorIsCut)
+{
+    EXPECT_EQ(1000u, Run("error(('x'):rep(100000))").size());
 }
 
 TEST_F(LuaSandbox, TimeIsBoundedWhereInstructionsAreLong)
