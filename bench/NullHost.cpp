@@ -69,9 +69,10 @@ u32 NullHost::DrawText(u32, const char*, const tagRECT&, u32, u32)
 
 void NullHost::MeasureText(u32, const char* text, int& width)
 {
-    width = 0;
+    int total = 0;
     while (*text++)
-        width += ByteWidth;
+        total += ByteWidth;
+    width = total;
 }
 
 bool NullHost::GetGlyphMetrics(u32, u32, u32, float* before, float* glyph, float* after)
