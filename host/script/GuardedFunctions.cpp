@@ -149,6 +149,7 @@ int Load(lua_State* thread)
     const char* text = luaL_checklstring(thread, 1, &length);
     const char* name = luaL_optstring(thread, 2, "=load");
     const bool hasVariables = !lua_isnone(thread, 3);
+    LuaState::CheckSource(thread, {text, length});
     const int status = luaL_loadbufferx(thread, text, length, name, "t");
     if (HasFailed(status)) {
         LetLimitsPass(thread, status);

@@ -87,6 +87,7 @@ int LuaState::Compile(std::string_view prefix, std::string_view text, const char
 {
     int reference = LUA_NOREF;
     Protect([&](lua_State* thread) {
+        CheckSource(thread, text);
         SourceReader reader{prefix, text};
         const int status = lua_load(thread, SourceReader::Read, &reader, name, "t");
         if (status == LUA_ERRMEM)
@@ -96,6 +97,15 @@ int LuaState::Compile(std::string_view prefix, std::string_view text, const char
         reference = luaL_ref(thread, LUA_REGISTRYINDEX);
     });
     return reference;
+}
+
+void LuaState::CheckSource(lua_State* thread, std::string_view text)
+{
+    ScriptBudget& budget = Of(thread).m_Budget;
+    if (text.size() > budget.Limits().SourceBytes)
+        luaL_error(thread, "the script is too long");
+    if (const char* why = budget.Spend(text.size()))
+        luaL_error(thread, "%s", why);
 }
 
 void LuaState::TakeError(lua_State* thread, int status)

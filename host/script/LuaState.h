@@ -57,6 +57,9 @@ public:
     // compile, and Error says why. The name stands before the line in each message.
     int Compile(std::string_view prefix, std::string_view text, const char* name);
 
+    // Raises an error in a script that is about to compile a text, if that is too much.
+    static void CheckSource(lua_State* thread, std::string_view text);
+
     const std::string& Error() const { return m_Error; }
 
     // Takes the error that lies on top of a thread's stack, and makes it a text that begins with its place if that is

@@ -13,6 +13,8 @@ struct ScriptLimits {
     std::chrono::milliseconds Time{2000}; // for what takes long in few instructions
     std::size_t CallBytes = 16 * 1024 * 1024; // more than there was before the call
     std::size_t AllBytes = 64 * 1024 * 1024; // what scripts may keep between calls
+    std::size_t SourceBytes = 64 * 1024; // of a script; compiling some takes time by the square of their length
+    std::size_t TextBytes = 64 * 1024; // of a text that is handed to the toolkit
 };
 
 // Counts what scripts take, and says when it is too much.
@@ -30,6 +32,8 @@ public:
 
     // The same for work that is done outside of them, in steps that take about as long. Cheap for few.
     const char* SpendSteps(u64 steps);
+
+    const ScriptLimits& Limits() const { return m_Limits; }
 
     // Memory ran out.
     void RunOutOfMemory();

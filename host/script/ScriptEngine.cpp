@@ -13,8 +13,20 @@ namespace host {
 
 namespace {
 
-// Temporary texts live at least until so many others were made.
-constexpr std::size_t TempTextsKept = 256;
+// Temporary texts live at least until so many others were made; of long ones there are fewer.
+constexpr std::size_t MostTempTexts = 256;
+constexpr std::size_t FewestTempTexts = 16;
+constexpr std::size_t MostTempBytes = 1024 * 1024;
+
+constexpr std::size_t LongestLine = 4096; // that print writes
+
+// What only bounds harm is no matter of the user's own scripts.
+ScriptLimits LimitsFor(ScriptTrust trust, ScriptLimits limits)
+{
+    if (trust == ScriptTrust::Full)
+        limits.SourceBytes = limits.TextBytes = limits.CallBytes;
+    return limits;
+}
 
 bool IsWord(std::string_view text, std::string_view lowerWord)
 {
@@ -56,9 +68,10 @@ bool ReadNumber(const _MvTypeVar& value, const HostTypes& types, double& number)
 ScriptEngine::ScriptEngine(Console& console, ScriptTrust trust, const ScriptLimits& limits)
     : m_Console(console),
       m_Objects(m_State, [this](lua_State* thread, MvTypeDefinition& type) { m_Access.FillMetatable(thread, type); }),
-      m_State(limits), Values(Types, m_Objects), Globals(m_State, trust), Scripts(m_State, Values, console, m_Frame),
-      Tasks(m_State, console, Scripts.Depth()), m_Evaluator({m_State, Globals, Values, TopLevel, Scripts, console}),
-      Sequences(m_Evaluator), m_Access(Values), m_FrameVariables(m_State, Globals)
+      m_State(LimitsFor(trust, limits)), Values(Types, m_Objects), Globals(m_State, trust),
+      Scripts(m_State, Values, console, m_Frame), Tasks(m_State, console, Scripts.Depth()),
+      m_Evaluator({m_State, Globals, Values, TopLevel, Scripts, console}), Sequences(m_Evaluator), m_Access(Values),
+      m_FrameVariables(m_State, Globals)
 {
     Globals.Add([this](lua_State* thread) {
         AddFunctions(thread);
@@ -169,8 +182,12 @@ char* ScriptEngine::MakeTempBuffer(std::size_t size, const char* text)
 {
     std::string& kept = m_TempTexts.emplace_back(text ? text : "");
     kept.resize(std::max(size, kept.size() + 1));
-    if (m_TempTexts.size() > TempTextsKept)
+    m_TempBytes += kept.size();
+    while (
+        m_TempTexts.size() > MostTempTexts || (m_TempBytes > MostTempBytes && m_TempTexts.size() > FewestTempTexts)) {
+        m_TempBytes -= m_TempTexts.front().size();
         m_TempTexts.pop_front();
+    }
     return kept.data();
 }
 
@@ -256,7 +273,7 @@ int ScriptEngine::Print(lua_State* thread)
     auto& engine = LuaState::OwnerOf<ScriptEngine>(thread);
     std::string line;
     const int count = lua_gettop(thread);
-    for (int index = 1; index <= count; ++index) {
+    for (int index = 1; index <= count && line.size() < LongestLine; ++index) {
         if (index > 1)
             line += ' ';
         if (engine.Values.AppendText(thread, index, line))
@@ -264,7 +281,7 @@ int ScriptEngine::Print(lua_State* thread)
         line += luaL_tolstring(thread, index, nullptr);
         lua_pop(thread, 1);
     }
-    engine.m_Console.PrintText(line);
+    engine.m_Console.PrintText(line.substr(0, LongestLine));
     return 0;
 }
 
@@ -289,9 +306,11 @@ int ScriptEngine::RunCommand(lua_State* thread)
 int ScriptEngine::ExpandText(lua_State* thread)
 {
     auto& engine = LuaState::OwnerOf<ScriptEngine>(thread);
-    const char* text = luaL_checkstring(thread, 1);
+    luaL_checkstring(thread, 1);
+    lua_settop(thread, 1);
+    ArgumentTexts text(thread, engine.Values, 1);
     const RunningThread running(thread);
-    const std::string expanded = engine.Sequences.Expand(text);
+    const std::string expanded = engine.Sequences.Expand(text.Texts()[0]);
     lua_pushlstring(thread, expanded.data(), expanded.size());
     return 1;
 }

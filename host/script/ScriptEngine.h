@@ -96,6 +96,7 @@ private:
     FrameVariables m_FrameVariables;
     std::unordered_map<u32, std::shared_ptr<Query>> m_Queries;
     std::deque<std::string> m_TempTexts; // the latest ones
+    std::size_t m_TempBytes = 0;
     u32 m_LastQuery = 0;
     u32 m_LastClass = 0;
 };

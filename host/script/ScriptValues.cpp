@@ -13,6 +13,7 @@ namespace host {
 namespace {
 
 constexpr std::size_t NumberSize = 40;
+constexpr std::size_t BytesOfStep = 16; // of a text that is handed over in the time of an instruction
 constexpr int LuaDigits = 14; // as many as Lua itself writes
 
 using NumberText = char[NumberSize];
@@ -238,6 +239,8 @@ ArgumentTexts::ArgumentTexts(lua_State* thread, const ScriptValues& values, int 
     if (m_Count > Most)
         luaL_error(thread, "too many arguments");
 
+    ScriptBudget& budget = LuaState::Of(thread).Budget();
+    std::size_t bytes = 0;
     for (int index = 0; index < m_Count; ++index) {
         const int place = first + index;
         if (lua_type(thread, place) != LUA_TSTRING) {
@@ -248,8 +251,13 @@ ArgumentTexts::ArgumentTexts(lua_State* thread, const ScriptValues& values, int 
             lua_replace(thread, place);
         }
         m_Texts[index] = const_cast<char*>(lua_tostring(thread, place)); // nobody writes there
+        bytes += lua_rawlen(thread, place);
+        if (lua_rawlen(thread, place) > budget.Limits().TextBytes)
+            luaL_argerror(thread, index + 1, "the text is too long");
     }
     m_Texts[m_Count] = nullptr;
+    if (const char* why = budget.SpendSteps(bytes / BytesOfStep))
+        luaL_error(thread, "%s", why);
 }
 
 } // namespace host

@@ -40,7 +40,7 @@ private:
 };
 
 // The texts that a call in Lua hands to the toolkit: what lies on the stack from a place on. It lies there as texts
-// afterwards. Raises an error in the script if something cannot be one.
+// afterwards. Raises an error in the script if something cannot be one, and if it is too much.
 class ArgumentTexts
 {
 public:

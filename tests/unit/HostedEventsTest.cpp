@@ -205,6 +205,14 @@ TEST(HostedEventsDeathTest, PrintedLinesSayWhoItWas)
     });
 }
 
+TEST(HostedEventsDeathTest, PrintedLinesAreCut)
+{
+    WithInterface([](HostedInterface& ui) {
+        ui.Run("print(('x'):rep(100000), 'more')");
+        EXPECT_EQ("test.xml: frame \"Tester\" OnLoad: " + std::string(4096, 'x') + '\n', ui.Lines());
+    });
+}
+
 TEST(HostedEventsDeathTest, LinesOfTheToolkitSayWhoItWas)
 {
     WithInterface([](HostedInterface& ui) {

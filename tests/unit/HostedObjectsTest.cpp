@@ -112,6 +112,10 @@ TEST(HostedObjectsDeathTest, MistakesAreErrorsThatSayWhatIsMeant)
         EXPECT_NE(std::string::npos, why("UIElement('Panel'):SetAlpha(nil)").find("a text, a number, a truth value"));
         EXPECT_NE(std::string::npos, why("member(5, 'Width')").find("an object of the interface is needed"));
         EXPECT_EQ("too many arguments\n", why("UIElement('Panel'):SetAlpha(table.unpack({}, 1, 200))"));
+        EXPECT_NE(
+            std::string::npos, why("UIElement('Panel'):SetMetadata('k', ('x'):rep(70000))").find("text is too long"));
+        EXPECT_EQ("stopped, since it ran too many instructions\n",
+            why("local text = ('x'):rep(60000) for i = 1, 1e5 do UIElement('Panel'):SetMetadata(i, text) end"));
         EXPECT_EQ("FALSE", ui.Run("Result = getmetatable(UIElement('Tester'))"));
     });
 }

@@ -147,6 +147,25 @@ TEST(HostedSequencesDeathTest, DoNotEvaluateEachOtherWithoutEnd)
     });
 }
 
+TEST(HostedSequencesDeathTest, ManyTextsAreNotAllKept)
+{
+    WithInterface([](HostedInterface& ui) {
+        ui.Run("Value = 1");
+        const std::string tail(1000, 'x');
+        for (int text = 0; text < 2000; ++text)
+            EXPECT_EQ(std::to_string(text) + " 1" + tail, ui.Expand(std::to_string(text) + " ${Value}" + tail));
+        const std::string longText(3000, 'y');
+        EXPECT_EQ(longText + "1", ui.Expand(longText + "${Value}"));
+        _MvTypeVar value;
+        EXPECT_TRUE(ui.Scripts().ParseTypedValue("Time", value, 0));
+        const std::string first = value.Value.Text;
+        const char* kept = value.Value.Text;
+        for (int text = 0; text < 15; ++text)
+            EXPECT_TRUE(ui.Scripts().MakeTempBuffer(1024 * 1024, "other"));
+        EXPECT_EQ(first, kept) << "the last few are there whatever their size";
+    });
+}
+
 TEST(HostedSequencesDeathTest, AreKeptByTheirId)
 {
     WithInterface([](HostedInterface& ui) {

@@ -236,6 +236,14 @@ TEST_F(LuaSandbox, TablesAreGoneThroughAsEver)
     EXPECT_EQ("5", Run("return (table.unpack(setmetatable({5}, {__len = function() return 1 end})))"));
 }
 
+TEST_F(LuaSandbox, WhatTakesLongToCompileIsNotCompiled)
+{
+    const std::string choices = "local text = 'x = a' .. (' or b'):rep(";
+    EXPECT_NE(std::string::npos, Run(choices + "40000) return load(text)").find("the script is too long"));
+    ExpectStopped(choices + "4000) while true do load(text) end", TooMany);
+    ExpectStopped("x = a" + std::string(100000, '\n'), "the script is too long");
+}
+
 TEST_F(LuaSandbox, PatternsWithoutEndAreStopped)
 {
     ExpectStopped("return ('a'):rep(40):find(('a*'):rep(20) .. 'b')", TooMany);
