@@ -102,23 +102,36 @@ bool Atoms::Run(u32 id, int argc, char** argv, const _MvTypeVar* self, const Tes
     if (atom->Where.empty())
         Describe(*atom, id, owner);
 
-    const ScriptCall call(m_State);
     const TrailStep step(m_Console.Trail(), atom->Where);
+    const ScriptCall call(m_State);
     const Running running(*this, self);
-    const int parameters = static_cast<int>(atom->ParameterTypes.size());
+    const ScriptBudget& budget = m_State.Budget();
+    if (!budget.IsOutermost()) // whoever is outermost is to blame if it has to be stopped
+        return RunBody(*atom, id, argc, argv, text);
+    if (!atom->Rest.IsOver(budget.Frame()))
+        return false;
+
+    const bool ran = RunBody(*atom, id, argc, argv, text);
+    atom->Rest.Note(budget.WhySpent(), budget.Frame());
+    return ran;
+}
+
+bool Atoms::RunBody(Atom& atom, u32 id, int argc, char** argv, std::string* text)
+{
+    const int parameters = static_cast<int>(atom.ParameterTypes.size());
     const bool isReady = m_State.Protect([&](lua_State* thread) {
         luaL_checkstack(thread, parameters + 2, nullptr);
-        atom->Function.Push(thread);
-        m_Values.Push(thread, running.Self);
+        atom.Function.Push(thread);
+        m_Values.Push(thread, Self());
         for (int index = 0; index < parameters; ++index) {
             if (index < argc)
-                ScriptValues::PushArgument(thread, atom->ParameterTypes[static_cast<std::size_t>(index)], argv[index]);
+                ScriptValues::PushArgument(thread, atom.ParameterTypes[static_cast<std::size_t>(index)], argv[index]);
             else
                 lua_pushnil(thread);
         }
     });
     if (!isReady || !m_State.Call(parameters + 1, text ? 1 : 0)) {
-        SayWhyFailed(*atom, id);
+        SayWhyFailed(atom, id);
         return false;
     }
     if (text) {

@@ -2,6 +2,7 @@
 
 #include "host/script/CallTrail.h"
 #include "host/script/LuaState.h"
+#include "host/script/ScriptRest.h"
 #include "host/script/ScriptValues.h"
 #include "teskara/core/Types.h"
 
@@ -60,6 +61,7 @@ private:
         std::string Where; // file, element and event, once it has run
         std::string LastError;
         u32 LastErrorFrame = 0;
+        ScriptRest Rest;
     };
 
     // An atom that runs, inside another or not.
@@ -80,6 +82,7 @@ private:
         std::string Why;
     };
 
+    bool RunBody(Atom& atom, u32 id, int argc, char** argv, std::string* text);
     bool CompileBody(Atom& atom, u32 id, const AtomSource& source);
     void Describe(Atom& atom, u32 id, const TeskElement* owner) const;
     void SayWhyFailed(Atom& atom, u32 id);

@@ -69,6 +69,13 @@ bool DataSequences::WriteProcessed(u32 sequence, char* buffer, u32 size)
     return kept != nullptr;
 }
 
+void DataSequences::ForgetRecent()
+{
+    m_Recent.clear();
+    m_Older.clear();
+    m_RecentBytes = 0;
+}
+
 DataSequences::Shared DataSequences::Parse(std::string_view text)
 {
     if (const auto recent = m_Recent.find(text); recent != m_Recent.end())

@@ -33,6 +33,9 @@ public:
     // The kept text; null if there is no such sequence.
     std::shared_ptr<const Sequence> Find(u32 sequence) const;
 
+    // Forgets the texts that are not kept, until they are used again.
+    void ForgetRecent();
+
     // Parses a text once while it is in use.
     std::shared_ptr<const Sequence> Parse(std::string_view text);
 

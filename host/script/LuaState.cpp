@@ -65,6 +65,25 @@ LuaState& LuaState::Of(lua_State* thread)
     return **static_cast<LuaState**>(lua_getextraspace(thread));
 }
 
+bool LuaState::Collect()
+{
+    lua_gc(m_Main, LUA_GCCOLLECT);
+    return m_Budget.HasRoom();
+}
+
+void LuaState::MakeRoom()
+{
+    if (std::exchange(m_IsMakingRoom, true))
+        return;
+
+    if (!Collect() && m_Relief) {
+        m_Relief();
+        if (!Collect())
+            m_Budget.AcceptBytes();
+    }
+    m_IsMakingRoom = false;
+}
+
 bool LuaState::Call(int arguments, int results)
 {
     lua_State* thread = m_Thread;

@@ -4,6 +4,7 @@
 
 #include <lua.hpp>
 
+#include <functional>
 #include <string>
 #include <string_view>
 #include <type_traits>
@@ -28,6 +29,15 @@ public:
     lua_State* Thread() const { return m_Thread; }
 
     ScriptBudget& Budget() { return m_Budget; }
+
+    // relief: called when no script runs and they keep too much, to take from them what they keep.
+    void SetRelief(std::function<void()> relief) { m_Relief = std::move(relief); }
+
+    // Collects what nobody keeps. True: there is room again.
+    bool Collect();
+
+    // Makes room for what is to be kept.
+    void MakeRoom();
 
     // Calls what stands on the thread's stack: the function and its arguments. False: it failed, the stack is as if
     // nothing had been called, and Error says why.
@@ -94,6 +104,8 @@ private:
     lua_State* m_Main;
     char m_Place[LUA_IDSIZE + 16] = ""; // "chunk:line: "
     std::string m_Error;
+    std::function<void()> m_Relief;
+    bool m_IsMakingRoom = false;
 };
 
 // Keeps a value of Lua's alive, by its number in the registry; LUA_NOREF for none.
@@ -132,13 +144,17 @@ private:
 class ScriptCall
 {
 public:
-    explicit ScriptCall(LuaState& state) : m_Budget(state.Budget()) { m_Budget.Begin(); }
-    ~ScriptCall() { m_Budget.End(); }
+    explicit ScriptCall(LuaState& state) : m_State(state) { m_State.Budget().Begin(); }
+    ~ScriptCall()
+    {
+        if (m_State.Budget().End() && m_State.Budget().IsFull())
+            m_State.MakeRoom();
+    }
     ScriptCall(const ScriptCall&) = delete;
     ScriptCall& operator=(const ScriptCall&) = delete;
 
 private:
-    ScriptBudget& m_Budget;
+    LuaState& m_State;
 };
 
 // While a function of the host's that may come back to scripts is called by a thread.

@@ -8,11 +8,25 @@ namespace host {
 
 namespace {
 
+// What all calls of a frame may take, and each one behind that.
+constexpr u64 FrameInstructions = 50'000'000;
+constexpr u64 LateInstructions = 100'000;
+constexpr std::chrono::milliseconds FrameTime{1000};
+constexpr std::chrono::milliseconds LateTime{20};
+
 constexpr u64 StepsAtOnce = 256;
 constexpr std::size_t LargeBlock = 4096;
 constexpr std::size_t BytesOfStep = 64; // that are filled in the time of an instruction
 
 } // namespace
+
+void ScriptBudget::BeginFrame()
+{
+    ++m_Frame;
+    m_IsLate = false;
+    m_FrameInstructions = 0;
+    m_FrameTime = {};
+}
 
 void ScriptBudget::Begin()
 {
@@ -21,10 +35,22 @@ void ScriptBudget::Begin()
 
     m_Instructions = 0;
     m_Steps = 0;
-    m_End = {};
-    m_MostBytes = std::min(m_Bytes + m_Limits.CallBytes, m_Limits.AllBytes);
+    m_MostBytes = std::min(m_Bytes, m_Limits.AllBytes) + m_Limits.CallBytes;
     m_WhySpent = nullptr;
     m_IsTold = false;
+}
+
+bool ScriptBudget::End()
+{
+    if (--m_Depth > 0)
+        return false;
+
+    if (m_Frame > 0 && m_Instructions > 0) {
+        m_FrameInstructions += m_Instructions;
+        m_FrameTime += std::chrono::steady_clock::now() - m_Start;
+        m_IsLate = m_FrameInstructions > FrameInstructions || m_FrameTime > FrameTime;
+    }
+    return true;
 }
 
 const char* ScriptBudget::Spend(u64 instructions)
@@ -35,12 +61,14 @@ const char* ScriptBudget::Spend(u64 instructions)
     // The clock is first asked for here: most calls are over before that.
     const auto now = std::chrono::steady_clock::now();
     if (m_Instructions == 0)
-        m_End = now + m_Limits.Time;
+        m_Start = now;
     m_Instructions += instructions;
     if (m_Instructions > m_Limits.Instructions)
         m_WhySpent = "stopped, since it ran too many instructions";
-    else if (now > m_End)
+    else if (now > m_Start + m_Limits.Time)
         m_WhySpent = "stopped, since it ran too long";
+    else if (m_IsLate && (m_Instructions > LateInstructions || now > m_Start + LateTime))
+        m_WhySpent = "stopped, since scripts ran too long in this frame";
     return m_WhySpent;
 }
 
@@ -75,7 +103,7 @@ void* ScriptBudget::Reallocate(void* block, std::size_t oldSize, std::size_t siz
         return nullptr;
     }
 
-    const std::size_t most = m_Depth > 0 ? m_MostBytes : m_Limits.AllBytes;
+    const std::size_t most = m_Depth > 0 ? m_MostBytes : m_Limits.AllBytes + m_Limits.CallBytes;
     if (size > oldSize && m_Bytes - oldSize + size > most)
         return nullptr;
 

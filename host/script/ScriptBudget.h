@@ -2,6 +2,7 @@
 
 #include "teskara/core/Types.h"
 
+#include <algorithm>
 #include <chrono>
 #include <cstddef>
 
@@ -21,11 +22,23 @@ struct ScriptLimits {
 class ScriptBudget
 {
 public:
-    explicit ScriptBudget(const ScriptLimits& limits) : m_Limits(limits) { }
+    explicit ScriptBudget(const ScriptLimits& limits) : m_Limits(limits), m_FullBytes(limits.AllBytes) { }
 
-    // Calls may lie inside each other; the outermost begins anew.
+    // A new frame. All calls in it together have limits as well, behind which each may take only little.
+    void BeginFrame();
+    u32 Frame() const { return m_Frame; }
+
+    // Calls may lie inside each other; the outermost begins anew. True: the outermost has ended.
     void Begin();
-    void End() { --m_Depth; }
+    bool End();
+    bool IsOutermost() const { return m_Depth == 1; }
+
+    // Scripts keep more than they may. They have room if it is clearly less.
+    bool IsFull() const { return m_Bytes > m_FullBytes; }
+    bool HasRoom() const { return m_Bytes < m_Limits.AllBytes / 4 * 3; }
+
+    // Nothing more can be freed: they are full when they keep clearly more than now.
+    void AcceptBytes() { m_FullBytes = std::max(m_Limits.AllBytes, m_Bytes + m_Limits.AllBytes / 4); }
 
     // Counts instructions. Null, or why the script has to stop; from then on, until the outermost call ends.
     const char* Spend(u64 instructions);
@@ -50,11 +63,16 @@ public:
 private:
     ScriptLimits m_Limits;
     u32 m_Depth = 0;
+    u32 m_Frame = 0; // 0: frames don't count
+    bool m_IsLate = false; // the frame's limits are spent
+    u64 m_FrameInstructions = 0;
+    std::chrono::steady_clock::duration m_FrameTime{};
     u64 m_Instructions = 0;
     u64 m_Steps = 0; // not yet among the instructions
-    std::chrono::steady_clock::time_point m_End;
+    std::chrono::steady_clock::time_point m_Start;
     std::size_t m_Bytes = 0;
     std::size_t m_MostBytes = 0; // in this call
+    std::size_t m_FullBytes;
     const char* m_WhySpent = nullptr;
     bool m_IsTold = false;
 };

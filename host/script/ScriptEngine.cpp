@@ -73,6 +73,7 @@ ScriptEngine::ScriptEngine(Console& console, ScriptTrust trust, const ScriptLimi
       m_Evaluator({m_State, Globals, Values, TopLevel, Scripts, console}), Sequences(m_Evaluator), m_Access(Values),
       m_FrameVariables(m_State, Globals)
 {
+    m_State.SetRelief([this] { MakeRoom(); });
     Globals.Add([this](lua_State* thread) {
         AddFunctions(thread);
         m_Access.AddFunctions(thread);
@@ -83,6 +84,7 @@ ScriptEngine::ScriptEngine(Console& console, ScriptTrust trust, const ScriptLimi
 void ScriptEngine::BeginFrame(const FrameState& frame)
 {
     Scripts.SayRefusal({});
+    m_State.Budget().BeginFrame();
     m_Frame = frame;
     m_FrameVariables.Set(frame);
     Tasks.Advance(frame.Ticks);
@@ -248,6 +250,16 @@ void ScriptEngine::AddFunctions(lua_State* thread)
     LuaState::AddFunction(thread, "print", Print, this);
     LuaState::AddFunction(thread, "command", RunCommand, this);
     LuaState::AddFunction(thread, "expand", ExpandText, this);
+}
+
+// Scripts keep too much. Whose it is nobody knows; if it stayed, all of them would fail for ever.
+void ScriptEngine::MakeRoom()
+{
+    m_Console.PrintText("scripts keep too much memory: their variables are cleared");
+    Globals.ClearVariables();
+    Sequences.ForgetRecent();
+    if (!m_State.Collect())
+        Tasks.EndAll();
 }
 
 bool ScriptEngine::ReadValue(const Sequence& sequence, _MvTypeVar& result)

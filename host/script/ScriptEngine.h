@@ -64,6 +64,7 @@ private:
     };
 
     void AddFunctions(lua_State* thread);
+    void MakeRoom();
     bool ReadValue(const Sequence& sequence, _MvTypeVar& result);
     void SayError(const std::string& subject);
     static int Print(lua_State* thread);

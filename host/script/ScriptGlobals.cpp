@@ -154,6 +154,20 @@ void ScriptGlobals::Add(const std::function<void(lua_State* thread)>& adder)
     });
 }
 
+void ScriptGlobals::ClearVariables()
+{
+    m_State.Protect([](lua_State* thread) {
+        lua_pushglobaltable(thread);
+        for (lua_pushnil(thread); lua_next(thread, 1);) {
+            lua_pushvalue(thread, 2);
+            lua_pushnil(thread);
+            lua_rawset(thread, 1);
+            lua_settop(thread, 2);
+        }
+        lua_settop(thread, 0);
+    });
+}
+
 void ScriptGlobals::PushNamed(lua_State* thread) const
 {
     lua_rawgeti(thread, LUA_REGISTRYINDEX, LUA_RIDX_GLOBALS);

@@ -24,6 +24,9 @@ public:
     // Calls nothing and takes no memory.
     void PushNamed(lua_State* thread) const;
 
+    // Takes their values from all variables.
+    void ClearVariables();
+
     // Adds names: adder finds the table of the host's names on top of the stack.
     void Add(const std::function<void(lua_State* thread)>& adder);
 

@@ -23,6 +23,8 @@ void ScriptTask::SetUserInput(const char* text)
 
 bool ScriptTask::IsDue(u32 now) const
 {
+    if (m_IsEnded)
+        return true;
     if (m_WaitsForAnswer)
         return !HasDialog();
     return !m_WakeTick || static_cast<i32>(now - *m_WakeTick) >= 0;

@@ -30,6 +30,10 @@ public:
     void WaitUntil(u32 tick) { m_WakeTick = tick; }
     void WaitForAnswer() { m_WaitsForAnswer = true; }
 
+    // It must not go on: it is due at once, and then ends.
+    void End() { m_IsEnded = true; }
+    bool IsEnded() const { return m_IsEnded; }
+
     // Whether it can go on.
     bool IsDue(u32 now) const;
     bool HasDialog() const;
@@ -46,6 +50,7 @@ private:
     std::optional<std::string> m_Answer;
     std::optional<u32> m_WakeTick;
     bool m_WaitsForAnswer = false;
+    bool m_IsEnded = false;
 };
 
 } // namespace host

@@ -64,11 +64,22 @@ void ScriptTasks::Advance(u32 now)
             std::erase_if(m_Tasks, [&](const auto& other) { return other.get() == task; });
 }
 
+void ScriptTasks::EndAll()
+{
+    for (const auto& task : m_Tasks)
+        task->End();
+}
+
 // False: the task has ended.
 bool ScriptTasks::Resume(ScriptTask& task)
 {
-    const ScriptCall call(m_State);
+    if (task.IsEnded()) {
+        const TrailStep step(m_Console.Trail(), task.Name());
+        m_Console.PrintText("ended, since scripts keep too much memory");
+        return false;
+    }
     const TrailStep step(m_Console.Trail(), task.Name());
+    const ScriptCall call(m_State);
     ScriptTask* outer = std::exchange(m_Current, &task);
     task.GoOn();
     int status = LUA_OK;

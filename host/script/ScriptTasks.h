@@ -34,6 +34,9 @@ public:
     // Lets go on what has waited long enough. now: milliseconds.
     void Advance(u32 now);
 
+    // Ends all scripts that run, in the next frame, with a line for each.
+    void EndAll();
+
     // The script that runs now; null if none does.
     ScriptTask* Current() const { return m_Current; }
 

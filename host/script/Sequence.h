@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/script/LuaState.h"
+#include "host/script/ScriptRest.h"
 
 #include <string>
 #include <vector>
@@ -29,6 +30,7 @@ struct SequencePart {
     LuaReference Function; // of an expression
     LuaReference NameKey; // of a path, the name it begins with as a text of Lua's
     mutable bool IsErrorSaid = false;
+    mutable ScriptRest Rest;
 };
 
 // A text with parts that are evaluated at each use.

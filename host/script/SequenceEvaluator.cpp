@@ -148,8 +148,19 @@ void SequenceEvaluator::AppendPart(const Sequence& sequence, const SequencePart&
 SequenceEvaluator::Place SequenceEvaluator::Evaluate(
     const Sequence& sequence, const SequencePart& part, const Frame& frame)
 {
-    if (m_Depth > MostNested || !lua_checkstack(frame.Thread, 8))
+    const ScriptBudget& budget = m_In.State.Budget();
+    if (m_Depth > MostNested || !lua_checkstack(frame.Thread, 8) || !part.Rest.IsOver(budget.Frame()))
         return Place::Nowhere;
+
+    const Place place = EvaluateChecked(sequence, part, frame);
+    if (budget.IsOutermost()) // else somebody else may be to blame
+        part.Rest.Note(budget.WhySpent(), budget.Frame());
+    return place;
+}
+
+SequenceEvaluator::Place SequenceEvaluator::EvaluateChecked(
+    const Sequence& sequence, const SequencePart& part, const Frame& frame)
+{
     if (part.PartKind == SequencePart::Kind::Expression)
         return EvaluateExpression(sequence, part, frame);
     return part.PartKind == SequencePart::Kind::Path ? EvaluatePath(sequence, part, frame) : Place::Nowhere;

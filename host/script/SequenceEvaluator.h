@@ -75,6 +75,7 @@ private:
     bool EvaluateWhole(const Sequence& sequence, const Frame& frame, _MvTypeVar& value);
     void AppendPart(const Sequence& sequence, const SequencePart& part, std::string& text);
     Place Evaluate(const Sequence& sequence, const SequencePart& part, const Frame& frame);
+    Place EvaluateChecked(const Sequence& sequence, const SequencePart& part, const Frame& frame);
     Place EvaluateExpression(const Sequence& sequence, const SequencePart& part, const Frame& frame);
     Place EvaluatePath(const Sequence& sequence, const SequencePart& part, const Frame& frame);
     Place Start(const Sequence& sequence, const SequencePart& part, const Frame& frame);
