@@ -56,9 +56,11 @@ void TeskElementFactory::RemoveInstance(TeskElement* element)
         element->m_Maker = nullptr;
 }
 
-// One deletion may take others of the kind with it, so each is looked up when its turn comes.
+// One deletion may take others of the kind with it, so each is looked up when its turn comes. Scripts that run meanwhile
+// make no new ones: those would be left when the code of the kind is gone.
 void TeskElementFactory::TearDown()
 {
+    m_Ending = true;
     if (m_Name) {
         for (const u32 id : Instances()) {
             if (TeskElement* element = g_UIManager.FindElementByID(id))
@@ -91,9 +93,9 @@ void TeskElementFactory::EndInstance(TeskElement& element)
         element.Parent->DeleteChild(&element);
 }
 
-bool TeskElementFactory::MayCreate(TeskElement* parent)
+bool TeskElementFactory::MayCreate(TeskElement* parent) const
 {
-    if (g_UIManager.IsTearingDown())
+    if (m_Ending || g_UIManager.IsTearingDown())
         return false;
 
     return !parent || (!parent->IsGoing() && parent->Depth < Limits::ElementDepth);

@@ -58,8 +58,9 @@ protected:
     // Deletes all that live and unregisters. Called by the end of each concrete factory.
     void TearDown();
 
-    // Whether an element may be made there now: not while the tree is torn down, too deep, or under a dying parent.
-    static bool MayCreate(TeskElement* parent);
+    // Whether an element may be made there now: not while the tree or the kind is torn down, too deep, or under a dying
+    // parent.
+    bool MayCreate(TeskElement* parent) const;
 
     // Enters a new element without markup; null stays null.
     TeskElement* Enter(TeskElement* element);
@@ -73,6 +74,7 @@ private:
 
     TeskElementDeleter m_Deleter;
     std::unique_ptr<utf8string> m_Name;
+    bool m_Ending = false;
 };
 
 // An element class that searches under the mouse just as its base does.

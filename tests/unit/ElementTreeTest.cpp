@@ -5,6 +5,7 @@
 #include "tests/unit/ToolkitTest.h"
 
 #include <climits>
+#include <memory>
 
 namespace {
 
@@ -190,4 +191,21 @@ TEST_F(ElementTreeTest, TheSpreadOfAPositionReachesAllBelowAndWraps)
     EXPECT_EQ(-1, child.AbsoluteY);
     EXPECT_EQ(INT_MIN + 1, grandchild.AbsoluteX);
     EXPECT_EQ(0, grandchild.AbsoluteY);
+}
+
+// The code of a kind may go with its factory, and with it every element that was left.
+TEST_F(ElementTreeTest, AKindThatEndsMakesNoNewElements)
+{
+    auto factory = std::make_unique<TeskFactory<ClientElement>>("testclient");
+    Load(R"(<testclient name="Old"><OnUnload>remake</OnUnload></testclient>)");
+    TeskElement* made = g_UIManager.Screen;
+    Host.Scripts["remake"] = [&made](TeskElement&) {
+        made = g_UIManager.LoadElement(g_UIManager.Screen, "testclient", "New");
+    };
+    Host.TakeCalls();
+    factory.reset();
+    EXPECT_EQ(nullptr, made);
+    EXPECT_EQ("PrintLine \"CreateUIElement failed on 'New' under 'screen'\"\n", Host.TakeCalls());
+    EXPECT_EQ(nullptr, g_UIManager.FindElement("Old"));
+    EXPECT_EQ(nullptr, g_UIManager.FindElement("New"));
 }
