@@ -2,7 +2,35 @@
 
 #include "teskara/core/CUIManager.h"
 #include "teskara/element/ElementWatch.h"
+#include "teskara/element/TeskElementFactory.h"
 #include "tests/unit/reentrancy/Bomb.h"
+
+#include <memory>
+#include <string>
+
+namespace {
+
+// Those of the elements under test end first.
+struct ForeignKinds {
+    TeskFactory<ListeningElement> Listeners{"listening"};
+    TeskFactory<ForeignFrame> Frames{"foreignframe"};
+    TeskFactory<ForeignElement> Elements{"foreign"};
+};
+
+std::unique_ptr<ForeignKinds> g_Kinds;
+
+} // namespace
+
+void BeginForeignKinds()
+{
+    if (!g_Kinds)
+        g_Kinds = std::make_unique<ForeignKinds>();
+}
+
+void EndForeignKinds()
+{
+    g_Kinds.reset();
+}
 
 bool ForeignElement::FromXML(XMLNode* node, XMLNode* templateNode)
 {
@@ -35,6 +63,15 @@ bool ForeignElement::OnLMouseDoubleClick(_Point2i& point)
     return false;
 }
 
+bool ForeignElement::OnKeyDown(unsigned int key)
+{
+    const ElementWatch self(*this);
+    TeskElement::OnKeyDown(key);
+    if (self.Exists())
+        Reach("refused key");
+    return false;
+}
+
 void ForeignElement::OnLMouseDownOther(TeskElement*)
 {
     Reach("OnLMouseDownOther");
@@ -52,8 +89,14 @@ void ForeignElement::OnDestroy()
 
 void ForeignElement::Reach(const char* place) const
 {
-    if (Name == "self")
-        g_Bomb.Reach(place);
+    g_Bomb.Reach(Name == "self" ? std::string(place) : std::string(place) + " of the child");
+}
+
+TeskTexture* ForeignFrame::TextureFromXML(XMLNode* node, const char* tag, XMLNode* templateNode)
+{
+    TeskTexture* texture = TeskFrame::TextureFromXML(node, tag, templateNode);
+    g_Bomb.Reach("TextureFromXML");
+    return texture;
 }
 
 void ListeningElement::OnNotify(TeskElement* source, unsigned int code, unsigned long long value)

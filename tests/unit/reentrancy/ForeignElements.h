@@ -1,8 +1,10 @@
 #pragma once
 
+#include "teskara/controls/TeskFrame.h"
 #include "teskara/element/TeskElement.h"
 
-// A kind that is not the toolkit's, which calls out from its own operations.
+// A kind that is not the toolkit's, which calls out from its own operations: as the element under test, and as a child
+// of it.
 class ForeignElement : public TeskElement
 {
 public:
@@ -12,12 +14,22 @@ public:
     void SizeRecalculated(bool changed) override;
     void Render() override;
     bool OnLMouseDoubleClick(_Point2i& point) override;
+    bool OnKeyDown(unsigned int key) override;
     void OnLMouseDownOther(TeskElement* taker) override;
     void OnCreate() override;
     void OnDestroy() override;
 
 private:
     void Reach(const char* place) const;
+};
+
+// A frame that is not the toolkit's, and reads its texture in its own way.
+class ForeignFrame : public TeskFrame
+{
+public:
+    using TeskFrame::TeskFrame;
+
+    TeskTexture* TextureFromXML(XMLNode* node, const char* tag, XMLNode* templateNode) override;
 };
 
 // The parent of the element under test: hears what it tells.
@@ -28,3 +40,7 @@ public:
 
     void OnNotify(TeskElement* source, unsigned int code, unsigned long long value) override;
 };
+
+// The kinds above are there from the first to the second.
+void BeginForeignKinds();
+void EndForeignKinds();

@@ -42,6 +42,7 @@ constexpr Kind Kinds[] = {
     {"commandcheckbox", IsCheckBox | RunsCommand | Calculates,                 CommandMarkup,  nullptr},
     {"hudelement",      FollowsHeldMouse | EvaluatesText | SetsText | HasFont, HudMarkup,      nullptr},
     {"tooltip",         IsTooltip,                                             FrameMarkup,    PrepareTooltip},
+    {"foreignframe",    IsFrame | ReadsTextures,                               FrameMarkup,    nullptr},
     {"foreign",         Follows | IsForeign,                                   "",             nullptr},
 };
 // clang-format on

@@ -4,7 +4,6 @@
 
 #include "host/probe/TreeChecker.h"
 #include "teskara/core/CUIManager.h"
-#include "teskara/element/TeskElementFactory.h"
 #include "teskara/element/TeskScreen.h"
 #include "tests/unit/FreshProcess.h"
 #include "tests/unit/ToolkitTest.h"
@@ -35,6 +34,7 @@ protected:
     ReentrancyMatrix()
     {
         F1(&m_Host);
+        BeginForeignKinds();
         m_Host.WriteFile(SceneFile, SceneMarkup(GetParam()));
         m_Host.WriteFile(PartFile, PartMarkup());
     }
@@ -42,12 +42,14 @@ protected:
     ~ReentrancyMatrix() override
     {
         ClearScene();
+        EndForeignKinds();
         F1(&Host);
     }
 
     void ClearScene()
     {
         g_Bomb.Disarm();
+        BeginForeignKinds(); // without them their elements could not be deleted
         g_UIManager.Reset();
         g_UIManager.ClearTemplates();
         g_UIManager.RemoveSkin("Dark");
@@ -125,7 +127,7 @@ protected:
         BuildScene();
         g_Bomb.Arm(place.Name, Bomb::Fuse::Once, [] { g_UIManager.Shutdown(); });
         place.Drive();
-        EXPECT_TRUE(g_Bomb.WentOff());
+        ASSERT_TRUE(g_Bomb.WentOff());
         GoOn();
         EXPECT_EQ(std::nullopt, FindTreeFault());
         EXPECT_TRUE(g_UIManager.ElementsByID.empty());
@@ -136,10 +138,6 @@ protected:
     }
 
     MatrixHost m_Host;
-
-private:
-    TeskFactory<ForeignElement> m_Foreign{"foreign"};
-    TeskFactory<ListeningElement> m_Listening{"listening"};
 };
 
 // Named so that it comes first, while a process of its own is cheap.

@@ -2,6 +2,7 @@
 
 #include "teskara/core/CUIManager.h"
 #include "teskara/element/TeskElement.h"
+#include "tests/unit/reentrancy/ForeignElements.h"
 #include "tests/unit/reentrancy/Kinds.h"
 #include "tests/unit/reentrancy/Scene.h"
 
@@ -211,9 +212,14 @@ void CallAddChild()
     Tell(Self(), "AddChild", {"frame", "New", "<frame><OnLoad>OnLoad</OnLoad></frame>"});
 }
 
-void CallSetWidthOfParent()
+void CallSetHeightOfParent()
 {
-    Tell(g_UIManager.FindElement("Parent@Grand"), "SetWidth", {"300"});
+    Tell(g_UIManager.FindElement("Parent@Grand"), "SetHeight", {"300"});
+}
+
+void CallSetTexture()
+{
+    Tell(Self(), "SetTexture", {"<T Filename='#other'/>"});
 }
 
 void CallSetWrap()
@@ -239,10 +245,12 @@ constexpr Place Places[] = {
     // what an element says and does as it comes
     {"FromXML",              "load",                  IsForeign,     Load},
     {"LoadElementPosition",  "load",                  EveryKind,     Load},
+    {"TextureFromXML",       "load",                  ReadsTextures, Load},
     {"SizeRecalculated",     "load",                  IsForeign,     Load},
     {"OnCreate",             "load",                  IsForeign,     Load},
     {"OnLoad",               "load",                  EveryKind,     Load},
     {"PrintLine",            "load",                  EveryKind,     Load},
+    {"PrintLine of a script", "load",                 EveryKind,     Load},
 
     // and as it goes
     {"OnUnload",             "delete self",           EveryKind,     DeleteSelf},
@@ -254,12 +262,16 @@ constexpr Place Places[] = {
     {"SaveElementPosition",  "delete grandparent",    EveryKind,     DeleteGrandparent},
     {"OnDestroy",            "delete self",           IsForeign,     DeleteSelf},
     {"OnDestroy",            "delete grandparent",    IsForeign,     DeleteGrandparent},
+    {"OnDestroy",            "end of the kind",       IsForeign,     EndForeignKinds},
+    {"OnUnload",             "end of the kind",       EveryKind,     EndForeignKinds},
     {"notification 51",      "delete self",           EveryKind,     DeleteSelf},
     {"notification 51",      "delete child",          EveryKind,     DeleteOwnChild},
 
     // a frame
     {"OnRender",             "frame",                 EveryKind,     Frame},
+    {"OnRender of the child", "frame",                EveryKind,     Frame},
     {"Render",               "frame",                 IsForeign,     Frame},
+    {"Render of the child",  "frame",                 EveryKind,     Frame},
     {"DataParse",            "frame",                 ExpandsText,   Frame},
     {"RetrieveProcessedText", "frame",                EvaluatesText, Frame},
     {"Calculate",            "frame",                 Calculates,    Frame},
@@ -296,6 +308,7 @@ constexpr Place Places[] = {
     {"OnKeyboardExit",       "press nothing",         EveryKind,     PressNothingWithFocus},
     {"OnKeyDown",            "key",                   EveryKind,     PressKey},
     {"OnKeyUp",              "key",                   EveryKind,     ReleaseKey},
+    {"refused key",          "key",                   IsForeign,     PressKey},
 
     // what scripts call
     {"OnUnload",             "Destroy",               EveryKind,     CallDestroy},
@@ -304,7 +317,9 @@ constexpr Place Places[] = {
     {"OnRightClick",         "RightClick",            EveryKind,     CallRightClick},
     {"OnKeyboardEnter",      "SetFocus",              EveryKind,     CallSetFocus},
     {"OnLoad",               "AddChild",              EveryKind,     CallAddChild},
-    {"SizeRecalculated",     "SetWidth",              IsForeign,     CallSetWidthOfParent},
+    {"SizeRecalculated",     "SetHeight",             IsForeign,     CallSetHeightOfParent},
+    {"SizeRecalculated of the child", "SetHeight",    EveryKind,     CallSetHeightOfParent},
+    {"TextureFromXML",       "SetTexture",            ReadsTextures, CallSetTexture},
     {"Calculate",            "SetWrap",               ExpandsText | SetsText, CallSetWrap},
     {"ParseTypedValue",      "Copy",                  HasTexture,    CallCopyTexture},
 

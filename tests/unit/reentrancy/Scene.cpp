@@ -21,6 +21,15 @@ std::string SiblingMarkup(const char* name, int x)
         + "</X><Y>0</Y><Width>20</Width><Height>90</Height><BackgroundColor>ff000000</BackgroundColor></frame>";
 }
 
+// What stands in the element under test. The unknown kind and the script that does not compile make the load print lines.
+std::string ChildrenMarkup()
+{
+    return std::string("<Children><frame name='Child'><Width>3</Width><Height>r40</Height><OnLeftDown>") + BrokenScript
+        + "</OnLeftDown><OnRender>" + ChildPlace
+        + "</OnRender></frame><foreign name='Inner'><Y>20</Y><Width>3</Width>"
+          "<Height>r30</Height></foreign><unknown name='Nobody'/></Children>";
+}
+
 bool Dispatch(_MvTypeVar object, const char* method, std::initializer_list<const char*> arguments)
 {
     if (!object.Type)
@@ -57,7 +66,6 @@ TeskElement* Self()
     return g_UIManager.FindElement(SelfName);
 }
 
-// The unknown kind among the children makes the load print lines.
 std::string SceneMarkup(const Kind& kind)
 {
     std::string look = "<Template name='Look'><Width>50</Width><StorePosition>1</StorePosition>";
@@ -69,8 +77,7 @@ std::string SceneMarkup(const Kind& kind)
     const std::string self = "<" + word
         + " name='Self' Template='Look'><X>10</X><Y>10</Y><Height>r50</Height>"
           "<BackgroundColor>ff000000</BackgroundColor><AutoTooltip>${hint}</AutoTooltip><FadeDelay>5</FadeDelay>"
-        + kind.Markup + "<Children><frame name='Child'><Width>5</Width></frame><unknown name='Nobody'/></Children></"
-        + word + ">";
+        + kind.Markup + ChildrenMarkup() + "</" + word + ">";
     return look
         + "<frame name='Grand'><Width>100%</Width><Height>100</Height><Children>"
           "<listening name='Parent'><Width>100</Width><Height>100</Height><Children>"

@@ -20,6 +20,10 @@ constexpr char YoungerName[] = "Younger@Parent@Grand";
 constexpr char TooltipName[] = "Auto Tooltip";
 constexpr char TooltipPlace[] = "OnRender of the tooltip";
 
+// So does that of the first child; its other one does not compile.
+constexpr char ChildPlace[] = "OnRender of the child";
+constexpr char BrokenScript[] = "broken";
+
 constexpr const char* EventNames[] = {"OnLoad", "OnUnload", "OnLeftClick", "OnRightClick", "OnDoubleLeftClick",
     "OnDoubleRightClick", "OnMouseEnter", "OnMouseExit", "OnMouseMove", "OnMouseWheel", "OnKeyboardEnter",
     "OnKeyboardExit", "OnKeyUp", "OnKeyDown", "OnLeftDown", "OnRightDown", "OnRender"};
