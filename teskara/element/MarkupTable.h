@@ -8,6 +8,7 @@
 
 #include <cstddef>
 #include <string_view>
+#include <utility>
 
 // The values that a control reads from markup, as a constant table in the order of reading:
 //
@@ -141,34 +142,46 @@ constexpr MarkupForm<OwnerOf<Field>> Place = {
         control.*Field = static_cast<TypeOf<Field>>(source.Position(tag, control.*Position));
     }};
 
-// The fields of what follows own what they are given.
+// Puts what a virtual operation makes into a field, which owns it. A kind that is not ours may end the control by it, and
+// then there is no field any more.
+template <class Pointer, class Make> void KeepMade(TeskElement& control, Pointer& field, Make make)
+{
+    const ElementWatch self(control);
+    Pointer made(make());
+    if (self.Exists())
+        field = std::move(made);
+}
+
 template <auto Field>
 constexpr MarkupForm<OwnerOf<Field>> Texture = {
     "texture", [](OwnerOf<Field>& control, const MarkupSource& source, TagName tag, MarkupDefault) {
-        (control.*Field).reset(control.TextureFromXML(source.Node(), tag.Text, source.Template()));
+        KeepMade(control, control.*Field,
+            [&] { return control.TextureFromXML(source.Node(), tag.Text, source.Template()); });
     }};
 
 template <auto Field>
 constexpr MarkupForm<OwnerOf<Field>> Font = {
     "font", [](OwnerOf<Field>& control, const MarkupSource& source, TagName tag, MarkupDefault) {
-        (control.*Field).reset(control.FontFromXML(source.Node(), tag.Text, source.Template()));
+        KeepMade(
+            control, control.*Field, [&] { return control.FontFromXML(source.Node(), tag.Text, source.Template()); });
     }};
 
 template <auto Field>
 constexpr MarkupForm<OwnerOf<Field>> FixedFont = {
     "fixed font", [](OwnerOf<Field>& control, const MarkupSource& source, TagName tag, MarkupDefault) {
-        (control.*Field).reset(control.FixedFontFromXML(source.Node(), tag.Text, source.Template()));
+        KeepMade(control, control.*Field,
+            [&] { return control.FixedFontFromXML(source.Node(), tag.Text, source.Template()); });
     }};
 
 // A script; the default is the list of its arguments. A script that does not compile is reported, and the report may
-// end the element, but then there is nothing to keep.
+// end the element.
 template <auto Field>
 constexpr MarkupForm<OwnerOf<Field>> Script = {
     "script", [](OwnerOf<Field>& control, const MarkupSource& source, TagName tag, MarkupDefault arguments) {
         if (!source.Child(tag))
             return;
-        if (auto* script = control.EmbeddedScriptFromXML(source.Node(), tag.Text, source.Template(), arguments.Text))
-            (control.*Field).reset(script);
+        KeepMade(control, control.*Field,
+            [&] { return control.EmbeddedScriptFromXML(source.Node(), tag.Text, source.Template(), arguments.Text); });
     }};
 
 // The same for the scripts that every element has.
@@ -177,8 +190,8 @@ constexpr MarkupForm<TeskElement> Event = {
     "script", [](TeskElement& element, const MarkupSource& source, TagName tag, MarkupDefault arguments) {
         if (!source.Child(tag))
             return;
-        if (auto* script = element.EmbeddedScriptFromXML(source.Node(), tag.Text, source.Template(), arguments.Text))
-            (element.Events.*Field).reset(script);
+        KeepMade(element, element.Events.*Field,
+            [&] { return element.EmbeddedScriptFromXML(source.Node(), tag.Text, source.Template(), arguments.Text); });
     }};
 
 } // namespace Markup

@@ -14,6 +14,7 @@ namespace {
 struct ForeignKinds {
     TeskFactory<ListeningElement> Listeners{"listening"};
     TeskFactory<ForeignFrame> Frames{"foreignframe"};
+    TeskFactory<ForeignText> Texts{"foreigntext"};
     TeskFactory<ForeignElement> Elements{"foreign"};
 };
 
@@ -97,6 +98,21 @@ TeskTexture* ForeignFrame::TextureFromXML(XMLNode* node, const char* tag, XMLNod
     TeskTexture* texture = TeskFrame::TextureFromXML(node, tag, templateNode);
     g_Bomb.Reach("TextureFromXML");
     return texture;
+}
+
+TeskEmbeddedScript* ForeignFrame::EmbeddedScriptFromXML(
+    XMLNode* node, const char* tag, XMLNode* templateNode, const char* arguments)
+{
+    TeskEmbeddedScript* script = TeskFrame::EmbeddedScriptFromXML(node, tag, templateNode, arguments);
+    g_Bomb.Reach("EmbeddedScriptFromXML");
+    return script;
+}
+
+TeskFont* ForeignText::FontFromXML(XMLNode* node, const char* tag, XMLNode* templateNode)
+{
+    TeskFont* font = TeskText::FontFromXML(node, tag, templateNode);
+    g_Bomb.Reach("FontFromXML");
+    return font;
 }
 
 void ListeningElement::OnNotify(TeskElement* source, unsigned int code, unsigned long long value)

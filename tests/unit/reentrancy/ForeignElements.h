@@ -1,6 +1,7 @@
 #pragma once
 
 #include "teskara/controls/TeskFrame.h"
+#include "teskara/controls/TeskText.h"
 #include "teskara/element/TeskElement.h"
 
 // A kind that is not the toolkit's, which calls out from its own operations: as the element under test, and as a child
@@ -23,13 +24,23 @@ private:
     void Reach(const char* place) const;
 };
 
-// A frame that is not the toolkit's, and reads its texture in its own way.
+// Kinds that derive from the toolkit's, and read some of their markup in their own way.
 class ForeignFrame : public TeskFrame
 {
 public:
     using TeskFrame::TeskFrame;
 
     TeskTexture* TextureFromXML(XMLNode* node, const char* tag, XMLNode* templateNode) override;
+    TeskEmbeddedScript* EmbeddedScriptFromXML(
+        XMLNode* node, const char* tag, XMLNode* templateNode, const char* arguments) override;
+};
+
+class ForeignText : public TeskText
+{
+public:
+    using TeskText::TeskText;
+
+    TeskFont* FontFromXML(XMLNode* node, const char* tag, XMLNode* templateNode) override;
 };
 
 // The parent of the element under test: hears what it tells.

@@ -9,6 +9,7 @@ namespace {
 constexpr u64 SendsPresses = Sends(1) | Sends(6) | Sends(7) | Sends(8) | Sends(10) | Sends(11) | Sends(15);
 constexpr u64 Follows = FollowsMouse | FollowsHeldMouse;
 constexpr u64 IsFrame = Follows | SendsPresses | Sends(14) | HasTexture | SetsTexture;
+constexpr u64 IsText = Follows | ExpandsText | SetsText | HasFont;
 constexpr u64 IsPressed = Follows | Sends(1) | Sends(6) | EvaluatesText | SetsText | HasFont | HasTexture;
 constexpr u64 IsButton = IsPressed | SetsTexture;
 constexpr u64 IsCheckBox = IsPressed | SetsCheck;
@@ -35,13 +36,14 @@ void PrepareTooltip()
 // clang-format off
 constexpr Kind Kinds[] = {
     {"frame",           IsFrame,                                               FrameMarkup,    nullptr},
-    {"text",            Follows | ExpandsText | SetsText | HasFont,            TextMarkup,     nullptr},
+    {"text",            IsText,                                                TextMarkup,     nullptr},
     {"button",          IsButton,                                              ButtonMarkup,   nullptr},
     {"checkbox",        IsCheckBox,                                            CheckBoxMarkup, nullptr},
     {"commandbutton",   IsButton | RunsCommand,                                CommandMarkup,  nullptr},
     {"commandcheckbox", IsCheckBox | RunsCommand | Calculates,                 CommandMarkup,  nullptr},
     {"hudelement",      FollowsHeldMouse | EvaluatesText | SetsText | HasFont, HudMarkup,      nullptr},
     {"tooltip",         IsTooltip,                                             FrameMarkup,    PrepareTooltip},
+    {"foreigntext",     IsText | ReadsFonts,                                   TextMarkup,     nullptr},
     {"foreignframe",    IsFrame | ReadsTextures,                               FrameMarkup,    nullptr},
     {"foreign",         Follows | IsForeign,                                   "",             nullptr},
 };

@@ -10,7 +10,8 @@ enum Trait : u64 {
     FollowsMouse = u64{1} << 20, // runs OnMouseMove as the mouse comes by
     FollowsHeldMouse = u64{1} << 21, // runs OnMouseMove between press and release
     IsForeign = u64{1} << 22, // not the toolkit's: its own operations call out
-    ReadsTextures = u64{1} << 33, // in its own way
+    ReadsTextures = u64{1} << 33, // and scripts in its own way
+    ReadsFonts = u64{1} << 34, // in its own way
     ExpandsText = u64{1} << 23, // has a text that is expanded at each use
     EvaluatesText = u64{1} << 24, // has a text that is parsed once and evaluated at each use
     Calculates = u64{1} << 25, // has a text that is a number

@@ -246,6 +246,8 @@ constexpr Place Places[] = {
     {"FromXML",              "load",                  IsForeign,     Load},
     {"LoadElementPosition",  "load",                  EveryKind,     Load},
     {"TextureFromXML",       "load",                  ReadsTextures, Load},
+    {"EmbeddedScriptFromXML", "load",                 ReadsTextures, Load},
+    {"FontFromXML",          "load",                  ReadsFonts,    Load},
     {"SizeRecalculated",     "load",                  IsForeign,     Load},
     {"OnCreate",             "load",                  IsForeign,     Load},
     {"OnLoad",               "load",                  EveryKind,     Load},
