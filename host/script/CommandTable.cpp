@@ -27,6 +27,11 @@ void CommandTable::Remove(const char* name)
     m_Commands.erase(ToLower(name));
 }
 
+bool CommandTable::Has(const std::string& name) const
+{
+    return m_Commands.count(ToLower(name)) != 0;
+}
+
 int CommandTable::Execute(std::vector<std::string> words) const
 {
     if (words.empty())

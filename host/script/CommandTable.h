@@ -19,6 +19,8 @@ public:
     void Add(const char* name, Command command);
     void Remove(const char* name);
 
+    bool Has(const std::string& name) const;
+
     // Runs the command that the first word names.
     int Execute(std::vector<std::string> words) const;
 

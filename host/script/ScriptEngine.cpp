@@ -96,6 +96,13 @@ int ScriptEngine::ExecuteCommand(const char* line)
     std::vector<std::string> words;
     for (CommandWord& word : SplitCommandLine(line))
         words.push_back(word.IsQuoted ? std::move(word.Text) : Sequences.Expand(word.Text));
+    return ExecuteWords(std::move(words));
+}
+
+int ScriptEngine::ExecuteWords(std::vector<std::string> words)
+{
+    if (!words.empty() && !Commands.Has(words[0]))
+        m_Console.PrintText("There is no command '" + words[0] + "'");
     return Commands.Execute(std::move(words));
 }
 
@@ -310,7 +317,7 @@ int ScriptEngine::RunCommand(lua_State* thread)
     }
     const CommandStep step(engine.m_Console.Trail(), words.Texts()[0]);
     lua_pushinteger(
-        thread, engine.Commands.Execute(std::vector<std::string>(words.Texts(), words.Texts() + words.Count())));
+        thread, engine.ExecuteWords(std::vector<std::string>(words.Texts(), words.Texts() + words.Count())));
     return 1;
 }
 

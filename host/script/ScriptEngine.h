@@ -33,7 +33,7 @@ public:
     // A frame begins: its values can be seen, and scripts that wait go on. now: milliseconds.
     void BeginFrame(const FrameState& frame);
 
-    // Runs a command line: its words without quotes are evaluated first. -1: there is no such command.
+    // Runs a command line: its words without quotes are evaluated first. -1: there is no such command, which is told.
     int ExecuteCommand(const char* line);
 
     // Evaluates an arithmetic expression of Lua's. False: it gives no number.
@@ -63,6 +63,7 @@ private:
         bool IsErrorSaid = false;
     };
 
+    int ExecuteWords(std::vector<std::string> words);
     void AddFunctions(lua_State* thread);
     void MakeRoom();
     bool ReadValue(const Sequence& sequence, _MvTypeVar& result);

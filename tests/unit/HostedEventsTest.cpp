@@ -36,6 +36,18 @@ TEST(HostedEventsDeathTest, ParametersHaveTheTypesThatTheyWereWrittenWith)
     });
 }
 
+TEST(HostedEventsDeathTest, ACommandThatDoesNotExistIsTold)
+{
+    WithInterface([](HostedInterface& ui) {
+        ui.Load(Main("OnLeftClick", "Result = command('bogus 1 2') + command('Bogus', 1)"));
+        ui.Click(20, 30);
+        EXPECT_EQ("-2", ui.Expand("${Result}"));
+        EXPECT_EQ("test.xml: frame \"Main\" OnLeftClick: There is no command 'bogus'\n"
+                  "test.xml: frame \"Main\" OnLeftClick: There is no command 'Bogus'\n",
+            ui.Lines());
+    });
+}
+
 struct ParameterRow {
     const char* Type;
     const char* Text;
@@ -182,7 +194,8 @@ TEST(HostedEventsDeathTest, AFailureInEveryFrameIsToldOfOnce)
         ui.Load(Main("OnRender", "Count = (Count or 0) + 1 if Count % 2 == 0 then error('even', 0) end"));
         for (int frame = 0; frame < 4; ++frame)
             ui.Frame();
-        EXPECT_EQ("test.xml: frame \"Main\" OnRender: 1: even\ntest.xml: frame \"Main\" OnRender: 1: even\n", ui.Lines());
+        EXPECT_EQ(
+            "test.xml: frame \"Main\" OnRender: 1: even\ntest.xml: frame \"Main\" OnRender: 1: even\n", ui.Lines());
     });
 }
 
