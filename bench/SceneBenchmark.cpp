@@ -130,11 +130,13 @@ void ChangingTexts(benchmark::State& state)
     state.SetLabel(ElementCount());
 }
 
-// Named by the numbers under which other toolkits report the same work, so that results lie side by side.
+// Named by the numbers under which other toolkits report the same work, so that results lie side by side. Those that keep
+// their drawing from frame to frame report what it takes without that as W2b; to us both are the same.
 BENCHMARK(MemoryOfScene)->Name("W8")->Iterations(1);
 BENCHMARK(LoadScene)->Name("W1.element")->Repetitions(9)->Iterations(3);
 BENCHMARK(UnloadScene)->Name("W1.unload")->Repetitions(5)->Iterations(3);
 BENCHMARK(FrameOfScene)->Name("W2")->Repetitions(9);
+BENCHMARK(FrameOfScene)->Name("W2b")->Repetitions(9);
 BENCHMARK(ChangingTexts)->Name("W3")->Repetitions(9);
 
 } // namespace
