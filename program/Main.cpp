@@ -4,6 +4,7 @@
 
 #include <iostream>
 #include <string>
+#include <vector>
 
 namespace {
 
@@ -12,6 +13,17 @@ std::string UsageOf(const CLI::App& app)
 {
     const auto chosen = app.get_subcommands();
     return chosen.empty() ? app.help() : chosen.front()->help(app.get_name());
+}
+
+// A word that nobody knows is told of before what is missing: mostly it was meant to be that.
+std::string WhyRefused(const CLI::App& app, const CLI::ParseError& error)
+{
+    const bool isIncomplete = error.get_exit_code() == static_cast<int>(CLI::ExitCodes::RequiredError);
+    const std::vector<std::string> unknown = isIncomplete ? app.remaining(true) : std::vector<std::string>();
+    if (unknown.empty())
+        return error.what();
+    const bool isOption = unknown.front().starts_with('-');
+    return (isOption ? "There is no option " : "There is no subcommand ") + unknown.front();
 }
 
 } // namespace
@@ -32,7 +44,7 @@ int main(int argc, char** argv)
         if (error.get_exit_code() == static_cast<int>(CLI::ExitCodes::Success))
             return app.exit(error);
 
-        std::cerr << "teskara: " << error.what() << "\n\n" << UsageOf(app);
+        std::cerr << "teskara: " << WhyRefused(app, error) << "\n\n" << UsageOf(app);
         return ExitUsage;
     }
     return exitCode;
