@@ -119,6 +119,93 @@ void AskMember(const _MvTypeVar& object, u8 argument)
     CallMethod(result, static_cast<u8>(argument / std::size(MemberWords) * 13u));
 }
 
+// --- The longer ones of the acts
+
+void DeleteFocus(TeskElement&, u8)
+{
+    DeleteElement(g_UIManager.FindElementByID(g_UIManager.FocusElementID));
+}
+
+void DeleteMouseOver(TeskElement&, u8)
+{
+    DeleteElement(g_UIManager.FindElementByID(g_UIManager.MouseOverElementID));
+}
+
+void ToggleAnother(TeskElement&, u8 argument)
+{
+    if (TeskElement* other = FindByPlace(argument))
+        other->Show(!other->Visible);
+}
+
+void MoveAnotherDown(TeskElement&, u8 argument)
+{
+    if (TeskElement* other = FindByPlace(argument))
+        other->MoveZDown();
+}
+
+void ReplaceTemplate(TeskElement&, u8)
+{
+    g_UIManager.AddTemplate(Template, "<Template><Width>7</Width></Template>");
+}
+
+void Load(TeskElement&, u8 argument)
+{
+    g_UIManager.LoadInterfaceXML(argument & 2u ? Scene : Part, argument % 2 != 0, g_UIManager.FindSkin(Skin));
+}
+
+void Unload(TeskElement&, u8 argument)
+{
+    g_UIManager.UnloadInterfaceXML(argument & 2u ? Scene : Part);
+}
+
+void MoveMouse(TeskElement&, u8 argument)
+{
+    _Point2i point = PointFrom(argument);
+    g_UIManager.OnMouseMove(point);
+}
+
+void NestedKey(TeskElement&, u8 argument)
+{
+    g_UIManager.OnKeyDown(argument);
+    g_UIManager.OnKeyUp(argument);
+}
+
+void Size(TeskElement& self, u8 argument)
+{
+    self.Width = static_cast<u32>(NumberFrom(argument));
+    self.RecalculateChildrenSize();
+}
+
+void Place(TeskElement& self, u8 argument)
+{
+    self.X = NumberFrom(argument);
+    self.RecalculateSize(true);
+}
+
+void SetStrata(TeskElement& self, u8 argument)
+{
+    self.Strata = static_cast<i8>(argument);
+    self.MoveZTop(false);
+}
+
+void ClickThrough(TeskElement& self, u8 argument)
+{
+    self.LeftClickThru = argument % 2 != 0;
+    self.RightClickThru = argument % 3 != 0;
+}
+
+void CaptureTheMouse(TeskElement& self, u8 argument)
+{
+    g_UIManager.MouseCaptureElementID = argument % 2 ? self.ID : 0;
+}
+
+void Fade(TeskElement& self, u8 argument)
+{
+    self.FadeDelay = argument;
+    self.FadeDuration = argument;
+    self.FadeState = argument % 5;
+}
+
 // clang-format off
 constexpr HostileAct Acts[] = {
     {"nothing",            [](TeskElement&, u8) { }},
@@ -128,40 +215,40 @@ constexpr HostileAct Acts[] = {
     {"delete next",        [](TeskElement& self, u8) { DeleteElement(self.Next); }},
     {"delete first child", [](TeskElement& self, u8) { DeleteElement(self.FirstChild); }},
     {"delete another",     [](TeskElement&, u8 argument) { DeleteElement(FindByPlace(argument)); }},
-    {"delete focus",       [](TeskElement&, u8) { DeleteElement(g_UIManager.FindElementByID(g_UIManager.FocusElementID)); }},
-    {"delete mouse over",  [](TeskElement&, u8) { DeleteElement(g_UIManager.FindElementByID(g_UIManager.MouseOverElementID)); }},
+    {"delete focus",       DeleteFocus},
+    {"delete mouse over",  DeleteMouseOver},
     {"reset",              [](TeskElement&, u8) { g_UIManager.Reset(); }},
     {"hide",               [](TeskElement& self, u8) { self.Show(false); g_UIManager.SetFocusElement(); }},
-    {"toggle another",     [](TeskElement&, u8 argument) { if (TeskElement* other = FindByPlace(argument)) other->Show(!other->Visible); }},
+    {"toggle another",     ToggleAnother},
     {"move to top",        [](TeskElement& self, u8) { self.MoveZTop(true); }},
     {"move to bottom",     [](TeskElement& self, u8) { self.MoveZBottom(); }},
     {"move up",            [](TeskElement& self, u8) { self.MoveZUp(); }},
-    {"move another down",  [](TeskElement&, u8 argument) { if (TeskElement* other = FindByPlace(argument)) other->MoveZDown(); }},
+    {"move another down",  MoveAnotherDown},
     {"remove templates",   [](TeskElement&, u8) { g_UIManager.ClearTemplates(); }},
-    {"replace template",   [](TeskElement&, u8) { g_UIManager.AddTemplate(Template, "<Template><Width>7</Width></Template>"); }},
+    {"replace template",   ReplaceTemplate},
     {"remove skin",        [](TeskElement&, u8) { g_UIManager.RemoveSkin(Skin); }},
-    {"load",               [](TeskElement&, u8 argument) { g_UIManager.LoadInterfaceXML(argument & 2u ? Scene : Part, argument % 2 != 0, g_UIManager.FindSkin(Skin)); }},
+    {"load",               Load},
     {"load into self",     [](TeskElement& self, u8) { g_UIManager.LoadInterfaceXML(&self, Part, false, nullptr); }},
-    {"unload",             [](TeskElement&, u8 argument) { g_UIManager.UnloadInterfaceXML(argument & 2u ? Scene : Part); }},
+    {"unload",             Unload},
     {"focus self",         [](TeskElement& self, u8) { g_UIManager.SetFocusElement(&self); }},
     {"focus another",      [](TeskElement&, u8 argument) { g_UIManager.SetFocusElement(FindByPlace(argument)); }},
     {"focus nobody",       [](TeskElement&, u8) { g_UIManager.SetFocusElement(nullptr); }},
     {"ask for focus",      [](TeskElement&, u8) { g_UIManager.GetFocusElement(); }},
-    {"move mouse",         [](TeskElement&, u8 argument) { _Point2i point = PointFrom(argument); g_UIManager.OnMouseMove(point); }},
+    {"move mouse",         MoveMouse},
     {"nested input",       [](TeskElement&, u8 argument) { NestInput(argument); }},
-    {"nested key",         [](TeskElement&, u8 argument) { g_UIManager.OnKeyDown(argument); g_UIManager.OnKeyUp(argument); }},
+    {"nested key",         NestedKey},
     {"nested frame",       [](TeskElement&, u8) { g_UIManager.Render(); }},
     {"click own",          ClickOwn},
     {"call own method",    [](TeskElement& self, u8 argument) { CallMethod(AsObject(self), argument); }},
     {"ask own member",     [](TeskElement& self, u8 argument) { AskMember(AsObject(self), argument); }},
     {"notify",             [](TeskElement& self, u8 argument) { self.NotifyParent(argument % 16u, argument); }},
-    {"size",               [](TeskElement& self, u8 argument) { self.Width = static_cast<u32>(NumberFrom(argument)); self.RecalculateChildrenSize(); }},
-    {"place",              [](TeskElement& self, u8 argument) { self.X = NumberFrom(argument); self.RecalculateSize(true); }},
-    {"set strata",         [](TeskElement& self, u8 argument) { self.Strata = static_cast<i8>(argument); self.MoveZTop(false); }},
-    {"click through",      [](TeskElement& self, u8 argument) { self.LeftClickThru = argument % 2 != 0; self.RightClickThru = argument % 3 != 0; }},
-    {"capture the mouse",  [](TeskElement& self, u8 argument) { g_UIManager.MouseCaptureElementID = argument % 2 ? self.ID : 0; }},
+    {"size",               Size},
+    {"place",              Place},
+    {"set strata",         SetStrata},
+    {"click through",      ClickThrough},
+    {"capture the mouse",  CaptureTheMouse},
     {"forget the mouse",   [](TeskElement&, u8) { g_UIManager.ResetMouseState(); }},
-    {"fade",               [](TeskElement& self, u8 argument) { self.FadeDelay = argument; self.FadeDuration = argument; self.FadeState = argument % 5; }},
+    {"fade",               Fade},
     {"throw",              [](TeskElement&, u8) { throw std::runtime_error("thrown by a script"); }},
 };
 // clang-format on

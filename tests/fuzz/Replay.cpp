@@ -1,5 +1,5 @@
-// Stands in for the fuzzer's engine: runs a fuzz target over each file it is given, and with "--vary COUNT" over so many
-// variations of each as well. A file's name is printed before it runs, so that the last name before a crash is the
+// Stands in for the fuzzer's engine: runs a fuzz target over each file it is given, and with "--vary COUNT" over that
+// many variations of each as well. A file's name is printed before it runs, so that the last name before a crash is the
 // culprit. Variations depend on nothing but the file, so the same command finds the same crash again.
 
 #include <algorithm>

@@ -1,5 +1,6 @@
-// A sequence of what a host does: input, frames, the passing of time, and mischief that its scripts will do. Each step is
-// a byte and what the step reads after it; the first byte of all varies the scene. The tree is checked after every step.
+// A sequence of what a host does: input, frames, the passing of time, and mischief that its scripts will do. Each step
+// is a byte and what the step reads after it; the first byte of all varies the scene. The tree is checked after every
+// step.
 
 #include "host/probe/TreeChecker.h"
 #include "teskara/core/CUIManager.h"

@@ -1,5 +1,5 @@
-// Whole interface files through the loader, with a host that refuses at random and scripts that do harm, then frames and
-// some input. The first byte says how many of the following bytes are decisions; the rest is the file.
+// Whole interface files through the loader, with a host that refuses at random and scripts that do harm, then frames
+// and some input. The first byte says how many of the following bytes are decisions; the rest is the file.
 
 #include "host/probe/TreeChecker.h"
 #include "teskara/core/CUIManager.h"

@@ -21,7 +21,8 @@ std::string SiblingMarkup(const char* name, int x)
         + "</X><Y>0</Y><Width>20</Width><Height>90</Height><BackgroundColor>ff000000</BackgroundColor></frame>";
 }
 
-// What stands in the element under test. The unknown kind and the script that does not compile make the load print lines.
+// What stands in the element under test. The unknown kind and the script that does not compile make the load print
+// lines.
 std::string ChildrenMarkup()
 {
     return std::string("<Children><frame name='Child'><Width>3</Width><Height>r40</Height><OnLeftDown>") + BrokenScript
