@@ -93,9 +93,9 @@ void TeskElementFactory::EndInstance(TeskElement& element)
         element.Parent->DeleteChild(&element);
 }
 
-bool TeskElementFactory::MayCreate(TeskElement* parent) const
+bool TeskElementFactory::MayCreateUnder(TeskElement* parent)
 {
-    if (m_Ending || g_UIManager.IsTearingDown())
+    if (g_UIManager.IsTearingDown())
         return false;
 
     return !parent || (!parent->IsGoing() && parent->Depth < Limits::ElementDepth);

@@ -22,6 +22,11 @@ public:
     virtual void Delete(TeskElement* element);
 };
 
+// An element class that searches under the mouse just as its base does.
+template <class T>
+concept SearchesAsTheBase =
+    std::same_as<decltype(&T::FindMouseOver), TeskElement* (TeskElement::*)(_Point2i&, TeskElement*)>;
+
 // Makes and ends the elements of one kind and knows those that live. A host adds a kind of its own with
 //
 //     TeskFactory<MyElement> factory("mykind");
@@ -34,6 +39,10 @@ public:
     virtual ~TeskElementFactory();
     TeskElementFactory(const TeskElementFactory&) = delete;
     TeskElementFactory& operator=(const TeskElementFactory&) = delete;
+
+    // Makes an element of that very class, for controls that need it as a part: a factory may have been replaced. The
+    // part still ends by the factory of its kind. Null: it could not be made.
+    template <class T> static T* New(const char* kind, TeskElement* parent, const char* name);
 
     // Makes an element under parent, which may be null. Null: it could not be made.
     virtual TeskElement* Create(TeskElement* parent, const char* name) = 0;
@@ -58,9 +67,11 @@ protected:
     // Deletes all that live and unregisters. Called by the end of each concrete factory.
     void TearDown();
 
-    // Whether an element may be made there now: not while the tree or the kind is torn down, too deep, or under a dying
-    // parent.
-    bool MayCreate(TeskElement* parent) const;
+    // Whether an element may be made there now: not while the tree is torn down, too deep, or under a dying parent.
+    static bool MayCreateUnder(TeskElement* parent);
+
+    // The same, and not while the kind is torn down.
+    bool MayCreate(TeskElement* parent) const { return !m_Ending && MayCreateUnder(parent); }
 
     // Enters a new element without markup; null stays null.
     TeskElement* Enter(TeskElement* element);
@@ -77,10 +88,19 @@ private:
     bool m_Ending = false;
 };
 
-// An element class that searches under the mouse just as its base does.
-template <class T>
-concept SearchesAsTheBase =
-    std::same_as<decltype(&T::FindMouseOver), TeskElement* (TeskElement::*)(_Point2i&, TeskElement*)>;
+template <class T> T* TeskElementFactory::New(const char* kind, TeskElement* parent, const char* name)
+{
+    if (!MayCreateUnder(parent))
+        return nullptr;
+
+    try {
+        T* element = new T(kind, parent, name);
+        element->FoundInsideOnly = SearchesAsTheBase<T>;
+        return element;
+    } catch (...) {
+        return nullptr;
+    }
+}
 
 // The factory of one element class, which is made from (kind word, parent, name).
 template <class T> class TeskFactory : public TeskElementFactory
@@ -99,15 +119,6 @@ public:
 private:
     TeskElement* Construct(TeskElement* parent, const char* name)
     {
-        if (!MayCreate(parent))
-            return nullptr;
-
-        try {
-            T* element = new T(GetName(), parent, name);
-            element->FoundInsideOnly = SearchesAsTheBase<T>;
-            return element;
-        } catch (...) {
-            return nullptr;
-        }
+        return MayCreate(parent) ? New<T>(GetName(), parent, name) : nullptr;
     }
 };
