@@ -147,13 +147,16 @@ void TeskTexture::Set(const char* filename, u32 colorKey)
     ColorKey = colorKey;
 }
 
-void TeskTexture::SetFrom(const TeskTexture& source)
+bool TeskTexture::SetFrom(const TeskTexture& source)
 {
-    if (&source == this || !TryAssign(Filename, source.Filename.c_str()))
-        return;
+    if (&source == this)
+        return true;
+    if (!TryAssign(Filename, source.Filename.c_str()))
+        return false;
 
     ReleaseImage();
     CopyFields(source);
+    return true;
 }
 
 void TeskTexture::ReleaseImage()

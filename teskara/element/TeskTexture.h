@@ -44,8 +44,11 @@ public:
     // Names another image and keeps all the rest. This and SetFrom change nothing if memory ran out.
     void Set(const char* filename, u32 colorKey);
 
-    // Takes over everything from another texture but its loaded image.
-    void SetFrom(const TeskTexture& source);
+    // Takes over everything from another texture but its loaded image. False: memory ran out.
+    bool SetFrom(const TeskTexture& source);
+
+    // Gives the loaded image back. The next use loads it again.
+    void ReleaseImage();
 
     utf8string Filename; // empty: no image, only ColorMask
     mutable u32 TextureID = 0; // host's, 0 while not loaded
@@ -70,7 +73,6 @@ public:
 private:
     explicit TeskTexture(const char* filename);
 
-    void ReleaseImage();
     void CopyFields(const TeskTexture& source);
     void ReadTriangle(XMLNode* triangle);
     void ReadColorMaskAttribute(XMLNode* node, XMLNode* templateNode);
