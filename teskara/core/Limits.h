@@ -59,6 +59,9 @@ inline constexpr u64 TableSlots = 1000000;
 inline constexpr std::size_t ChildWalkFactor = 4;
 inline constexpr std::size_t ChildWalkSteps = 64;
 
+// Steps of a filler that are drawn; no screen shows more.
+inline constexpr u32 FillerSteps = 16384;
+
 // Text buffers, with their terminators: what doesn't fit is cut, and the rest is always terminated.
 
 inline constexpr std::size_t TextBuffer512 = 512;

@@ -1,0 +1,21 @@
+#include "teskara/controls/GaugeScale.h"
+
+#include <cmath>
+
+float GaugeScale::Hold(float value, Overflow overflow) const
+{
+    if (!(value >= 0) || m_Range == 0)
+        return 0;
+    if (!(value >= m_Range))
+        return value;
+    if (overflow == Overflow::Stops)
+        return m_Range;
+
+    const bool hasRemainder = std::isfinite(value);
+    return hasRemainder ? std::fmod(value, m_Range) : 0;
+}
+
+float GaugeScale::ShareOf(float value) const
+{
+    return m_Range == 0 ? 1 : value / m_Range;
+}
