@@ -6,9 +6,12 @@
 #include "teskara/controls/TeskCommandButton.h"
 #include "teskara/controls/TeskCommandCheckBox.h"
 #include "teskara/controls/TeskFrame.h"
+#include "teskara/controls/TeskGauge.h"
+#include "teskara/controls/TeskGaugeFiller.h"
 #include "teskara/controls/TeskHudElement.h"
 #include "teskara/controls/TeskText.h"
 #include "teskara/controls/TeskTooltip.h"
+#include "teskara/controls/TeskVariableGauge.h"
 #include "teskara/core/BoundedText.h"
 #include "teskara/core/CUIManager.h"
 #include "teskara/core/HostCalls.h"
@@ -48,8 +51,8 @@ PendingFactory g_CommandEntry("commandentry");
 PendingFactory g_Console("console");
 PendingFactory g_ContextMenu("contextmenu");
 TeskFactory<TeskFrame> g_Frame("frame");
-PendingFactory g_Gauge("gauge");
-PendingFactory g_GaugeFiller("gaugefiller");
+TeskFactory<TeskGauge> g_Gauge("gauge");
+TeskFactory<TeskGaugeFiller> g_GaugeFiller("gaugefiller");
 TeskFactory<TeskHudElement> g_HudElement("hudelement");
 PendingFactory g_ListBox("listbox");
 PendingFactory g_MapBlip("mapblip");
@@ -69,7 +72,7 @@ PendingFactory g_TextEdit("textedit");
 PendingFactory g_TextEntry("textentry");
 TeskFactory<TeskTooltip> g_Tooltip("tooltip");
 PendingFactory g_Tree("tree");
-PendingFactory g_VariableGauge("variablegauge");
+TeskFactory<TeskVariableGauge> g_VariableGauge("variablegauge");
 PendingFactory g_VariableSlider("variableslider");
 PendingFactory g_WindowClient("windowclient");
 PendingFactory g_Window("window");

@@ -7,6 +7,7 @@
 #include "teskara/script/TeskElementType.h"
 #include "teskara/script/TeskFontType.h"
 #include "teskara/script/TeskFrameType.h"
+#include "teskara/script/TeskGaugeType.h"
 #include "teskara/script/TeskHudElementType.h"
 #include "teskara/script/TeskMessageBoxType.h"
 #include "teskara/script/TeskTextType.h"
@@ -108,7 +109,7 @@ constexpr TypeRow Types[] = {
     {"teskcombobox", &pTeskComboBoxType, &pTeskListBoxType, Nameless},
     {"teskconsole", &pTeskConsoleType, &pTeskFrameType, Nameless},
     {"teskfont", &pTeskFontType, nullptr, Make<TeskFontType>},
-    {"teskgauge", &pTeskGaugeType, &pTeskFrameType, Nameless},
+    {"teskgauge", &pTeskGaugeType, &pTeskFrameType, Make<TeskGaugeType>},
     {"teskhudelement", &pTeskHudElementType, &pTeskElementType, Make<TeskHudElementType>},
     {"teskmapblip", &pTeskMapBlipType, &pTeskFrameType, Nameless},
     {"teskmap", &pTeskMapType, &pTeskElementType, Nameless},

@@ -70,6 +70,7 @@ constexpr TypeNames AllNames[] = {
         "Text Down Checked Font Texture TexturePressed TextureHover TextureChecked TextureCheckedPressed "
         "TextureCheckedHover",
         "SetText SetChecked UnsetChecked ToggleChecked"},
+    {"teskgauge", 0, "Border Vertical Range Value", "SetRange SetValue"},
     {"teskhudelement", 0, "Text Group Font UpdateInterval", "SetText SetGroup SetUpdateInterval"},
     {"tesktooltip", 0, "Font Lines Line", "Reset Print SetLine"},
 };

@@ -1,0 +1,102 @@
+#include "teskara/controls/TeskGauge.h"
+
+#include "teskara/controls/GaugeScale.h"
+#include "teskara/controls/PressTextures.h"
+#include "teskara/controls/TeskGaugeFiller.h"
+#include "teskara/core/AsciiCase.h"
+#include "teskara/core/BoundedText.h"
+#include "teskara/element/MarkupTable.h"
+#include "teskara/element/TeskElementFactory.h"
+#include "teskara/script/TypeGlobals.h"
+
+namespace {
+
+constexpr char Kind[] = "gauge";
+
+constexpr u32 HeightWithoutMarkup = 16;
+
+// clang-format off
+constexpr MarkupValue<TeskGauge> GaugeValues[] = {
+    {"Vertical",   Markup::Toggle<&TeskGauge::Vertical>,    false},
+    {"Range",      Markup::Float<&TeskGauge::Range>,        0.0f},
+    {"TopTexture", Markup::Texture<&TeskGauge::TopTexture>, {}},
+};
+// clang-format on
+
+} // namespace
+
+TeskGauge::TeskGauge(const char* type, TeskElement* parent, const char* name)
+    : TeskFrame(type, parent, name), InFiller(dynamic_cast<TeskGaugeFiller*>(parent) != nullptr)
+{
+    Height = HeightWithoutMarkup;
+}
+
+bool TeskGauge::FromXML(XMLNode* node, XMLNode* templateNode)
+{
+    templateNode = TemplateFor(node, templateNode, Kind);
+    const MarkupSource source(node, templateNode);
+    if (!TeskFrame::FromXML(node, templateNode) || !ReadMarkup(*this, GaugeValues, source))
+        return false;
+
+    MaskTextures(source, {Texture.get(), TopTexture.get()});
+    XMLNode* filler = source.Child("Filler");
+    return !filler || MakeFiller(filler);
+}
+
+// Computes the filler's size at once: the gauge's own may never change. False: the gauge was deleted meanwhile.
+bool TeskGauge::MakeFiller(XMLNode* node)
+{
+    Filler = TeskElementFactory::New<TeskGaugeFiller>("gaugefiller", this, "filler");
+    if (!Filler)
+        return true;
+
+    const ElementWatch self(*this);
+    const ElementWatch filler(Filler);
+    const bool read = Filler->FromXML(node);
+    if (!filler.Exists())
+        return self.Exists();
+
+    if (read)
+        Filler->RecalculateSize(true);
+    else
+        DeleteChild(Filler);
+    return self.Exists();
+}
+
+bool TeskGauge::IsTypeOf(const char* word)
+{
+    return EqualsNoCase(TextOrEmpty(word), Kind) || TeskFrame::IsTypeOf(word);
+}
+
+MvTypeDefinition* TeskGauge::GetMvType()
+{
+    return pTeskGaugeType;
+}
+
+void TeskGauge::Render()
+{
+    const ElementWatch self(*this);
+    TeskFrame::Render();
+    if (!self.Exists())
+        return;
+
+    if (Border != 0)
+        TexturedRectBordered(ScreenRect(), TopTexture.get(), Border);
+    else
+        TexturedRect(ScreenRect(), TopTexture.get());
+}
+
+void TeskGauge::OnNotify(TeskElement* source, unsigned int code, unsigned long long value)
+{
+    if (code == NotifyChildGoing && source == Filler)
+        Filler = nullptr;
+    TeskFrame::OnNotify(source, code, value);
+}
+
+void TeskGauge::SetValue(float value)
+{
+    using enum GaugeScale::Overflow;
+    Value = GaugeScale(Range).Hold(value, InFiller ? WrapsAround : Stops);
+    if (Filler)
+        Filler->SetValue(Value);
+}
