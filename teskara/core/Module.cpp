@@ -9,9 +9,11 @@
 #include "teskara/controls/TeskGauge.h"
 #include "teskara/controls/TeskGaugeFiller.h"
 #include "teskara/controls/TeskHudElement.h"
+#include "teskara/controls/TeskSlider.h"
 #include "teskara/controls/TeskText.h"
 #include "teskara/controls/TeskTooltip.h"
 #include "teskara/controls/TeskVariableGauge.h"
+#include "teskara/controls/TeskVariableSlider.h"
 #include "teskara/core/BoundedText.h"
 #include "teskara/core/CUIManager.h"
 #include "teskara/core/HostCalls.h"
@@ -63,7 +65,7 @@ PendingFactory g_MessageBox("messagebox");
 PendingFactory g_ScriptInputBox("scriptinputbox");
 PendingFactory g_ScriptMessageBox("scriptmessagebox");
 PendingFactory g_ScrollBar("scrollbar");
-PendingFactory g_Slider("slider");
+TeskFactory<TeskSlider> g_Slider("slider");
 PendingFactory g_TabControl("tabcontrol");
 PendingFactory g_TableCell("tablecell");
 PendingFactory g_Table("table");
@@ -73,7 +75,7 @@ PendingFactory g_TextEntry("textentry");
 TeskFactory<TeskTooltip> g_Tooltip("tooltip");
 PendingFactory g_Tree("tree");
 TeskFactory<TeskVariableGauge> g_VariableGauge("variablegauge");
-PendingFactory g_VariableSlider("variableslider");
+TeskFactory<TeskVariableSlider> g_VariableSlider("variableslider");
 PendingFactory g_WindowClient("windowclient");
 PendingFactory g_Window("window");
 

@@ -10,6 +10,7 @@
 #include "teskara/script/TeskGaugeType.h"
 #include "teskara/script/TeskHudElementType.h"
 #include "teskara/script/TeskMessageBoxType.h"
+#include "teskara/script/TeskSliderType.h"
 #include "teskara/script/TeskTextType.h"
 #include "teskara/script/TeskTextureType.h"
 #include "teskara/script/TeskTooltipType.h"
@@ -115,7 +116,7 @@ constexpr TypeRow Types[] = {
     {"teskmap", &pTeskMapType, &pTeskElementType, Nameless},
     {"teskmessagebox", &pTeskMessageBoxType, &pTeskElementType, Make<TeskMessageBoxType>},
     {"teskscrollbar", &pTeskScrollBarType, &pTeskElementType, Nameless},
-    {"teskslider", &pTeskSliderType, &pTeskElementType, Nameless},
+    {"teskslider", &pTeskSliderType, &pTeskElementType, Make<TeskSliderType>},
     {"tesktab", &pTeskTabType, &pTeskFrameType, Nameless},
     {"tesktabcontrol", &pTeskTabControlType, &pTeskFrameType, Nameless},
     {"tesktext", &pTeskTextType, &pTeskElementType, Make<TeskTextType>},

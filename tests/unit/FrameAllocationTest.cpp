@@ -90,3 +90,16 @@ TEST_F(FrameAllocationTest, AHudElementThatIsUpdatedReusesItsMemory)
     EXPECT_EQ(memory, hud.CurrentText->data());
     EXPECT_EQ("Another one that is as long, or not", *hud.CurrentText);
 }
+
+TEST_F(FrameAllocationTest, GaugesAndSlidersAllocateNothing)
+{
+    Load("<variablegauge name='G'><Width>100</Width><Height>20</Height><Range>10</Range><Data>5</Data>"
+         "<TopTexture Filename='#a name that is longer than a short text'/><Filler><Width>100%</Width>"
+         "<Height>100%</Height><Repeat>5</Repeat><Texture Filename='#a name that is longer than a short text'>"
+         "<right>9</right></Texture></Filler></variablegauge>"
+         "<variableslider name='S'><Width>100</Width><Height>20</Height><Range>10</Range>"
+         "<Data>V</Data><VariableRange>1</VariableRange><Texture Filename='#fill'/>"
+         "<HandleTexture Filename='#fill'/></variableslider>");
+    AllocationsOfFrames(2);
+    EXPECT_EQ(0u, AllocationsOfFrames(100));
+}

@@ -71,6 +71,7 @@ constexpr TypeNames AllNames[] = {
         "TextureCheckedHover",
         "SetText SetChecked UnsetChecked ToggleChecked"},
     {"teskgauge", 0, "Border Vertical Range Value", "SetRange SetValue"},
+    {"teskslider", 0, "Border Range Value Vertical Texture HandleTexture", "SetRange SetValue"},
     {"teskhudelement", 0, "Text Group Font UpdateInterval", "SetText SetGroup SetUpdateInterval"},
     {"tesktooltip", 0, "Font Lines Line", "Reset Print SetLine"},
 };
