@@ -9,6 +9,7 @@
 #include "teskara/controls/TeskGauge.h"
 #include "teskara/controls/TeskGaugeFiller.h"
 #include "teskara/controls/TeskHudElement.h"
+#include "teskara/controls/TeskScrollBar.h"
 #include "teskara/controls/TeskSlider.h"
 #include "teskara/controls/TeskText.h"
 #include "teskara/controls/TeskTooltip.h"
@@ -64,7 +65,7 @@ PendingFactory g_MapView("mapview");
 PendingFactory g_MessageBox("messagebox");
 PendingFactory g_ScriptInputBox("scriptinputbox");
 PendingFactory g_ScriptMessageBox("scriptmessagebox");
-PendingFactory g_ScrollBar("scrollbar");
+TeskFactory<TeskScrollBar> g_ScrollBar("scrollbar");
 TeskFactory<TeskSlider> g_Slider("slider");
 PendingFactory g_TabControl("tabcontrol");
 PendingFactory g_TableCell("tablecell");

@@ -10,6 +10,7 @@
 #include "teskara/script/TeskGaugeType.h"
 #include "teskara/script/TeskHudElementType.h"
 #include "teskara/script/TeskMessageBoxType.h"
+#include "teskara/script/TeskScrollBarType.h"
 #include "teskara/script/TeskSliderType.h"
 #include "teskara/script/TeskTextType.h"
 #include "teskara/script/TeskTextureType.h"
@@ -115,7 +116,7 @@ constexpr TypeRow Types[] = {
     {"teskmapblip", &pTeskMapBlipType, &pTeskFrameType, Nameless},
     {"teskmap", &pTeskMapType, &pTeskElementType, Nameless},
     {"teskmessagebox", &pTeskMessageBoxType, &pTeskElementType, Make<TeskMessageBoxType>},
-    {"teskscrollbar", &pTeskScrollBarType, &pTeskElementType, Nameless},
+    {"teskscrollbar", &pTeskScrollBarType, &pTeskElementType, Make<TeskScrollBarType>},
     {"teskslider", &pTeskSliderType, &pTeskElementType, Make<TeskSliderType>},
     {"tesktab", &pTeskTabType, &pTeskFrameType, Nameless},
     {"tesktabcontrol", &pTeskTabControlType, &pTeskFrameType, Nameless},

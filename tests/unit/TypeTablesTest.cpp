@@ -72,6 +72,7 @@ constexpr TypeNames AllNames[] = {
         "SetText SetChecked UnsetChecked ToggleChecked"},
     {"teskgauge", 0, "Border Vertical Range Value", "SetRange SetValue"},
     {"teskslider", 0, "Border Range Value Vertical Texture HandleTexture", "SetRange SetValue"},
+    {"teskscrollbar", 0, "Value Range Vertical", "SetValue RaiseValue LowerValue SetRange"},
     {"teskhudelement", 0, "Text Group Font UpdateInterval", "SetText SetGroup SetUpdateInterval"},
     {"tesktooltip", 0, "Font Lines Line", "Reset Print SetLine"},
 };

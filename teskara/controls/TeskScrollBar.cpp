@@ -1,0 +1,203 @@
+#include "teskara/controls/TeskScrollBar.h"
+
+#include "teskara/controls/TeskButton.h"
+#include "teskara/controls/TeskSlider.h"
+#include "teskara/core/AsciiCase.h"
+#include "teskara/core/BoundedText.h"
+#include "teskara/core/MarkupReading.h"
+#include "teskara/element/MarkupTable.h"
+#include "teskara/element/TeskElementFactory.h"
+#include "teskara/script/TypeGlobals.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr char Kind[] = "scrollbar";
+constexpr char VerticalTemplate[] = "verticalscrollbar";
+constexpr char ButtonKind[] = "button";
+constexpr char SliderKind[] = "slider";
+
+// clang-format off
+constexpr MarkupValue<TeskScrollBar> ScrollBarValues[] = {
+    {"Vertical", Markup::Toggle<&TeskScrollBar::Vertical>, false},
+    {"Range",    Markup::Integer<&TeskScrollBar::Range>,   0},
+};
+// clang-format on
+
+// Where a template has a button of a scroll bar: as an element of its own, or as its images alone.
+struct ButtonTags {
+    const char* Name;
+    TagName Element;
+    const char* Texture;
+    const char* TextureHover;
+    const char* TexturePressed;
+};
+
+constexpr ButtonTags UpTags = {"up", "UpButton", "UpTexture", "UpTextureHover", "UpTexturePressed"};
+constexpr ButtonTags DownTags = {"down", "DownButton", "DownTexture", "DownTextureHover", "DownTexturePressed"};
+
+// Loads a part as an element of its kind. False: it failed, or the bar is gone. A part without markup is none.
+template <class Part>
+bool LoadPart(TeskScrollBar& bar, Part* TeskScrollBar::*field, const char* kind, const char* name, XMLNode* node)
+{
+    if (!node)
+        return true;
+
+    const ElementWatch watch(bar);
+    auto* part = dynamic_cast<Part*>(g_UIManager.LoadElement(&bar, kind, name, node, nullptr));
+    if (!part || !watch.Exists())
+        return false;
+
+    bar.*field = part;
+    return true;
+}
+
+// Makes a part and has it filled. False: the bar is gone.
+template <class Part, class Fill>
+bool CreatePart(TeskScrollBar& bar, Part* TeskScrollBar::*field, const char* kind, const char* name, Fill fill)
+{
+    const ElementWatch watch(bar);
+    Part* part = TeskElementFactory::New<Part>(kind, &bar, name);
+    if (!part)
+        return true;
+
+    bar.*field = part;
+    fill(*part);
+    return watch.Exists();
+}
+
+void FillButton(TeskButton& button, const ButtonTags& tags, XMLNode* templateNode)
+{
+    if (XMLNode* node = XMLHelper::GetChild(templateNode, tags.Element)) {
+        button.FromXML(node, nullptr);
+        return;
+    }
+
+    button.Create({}, nullptr);
+    button.Texture.reset(button.TextureFromXML(nullptr, tags.Texture, templateNode));
+    button.TextureHover.reset(button.TextureFromXML(nullptr, tags.TextureHover, templateNode));
+    button.TexturePressed.reset(button.TextureFromXML(nullptr, tags.TexturePressed, templateNode));
+}
+
+// A slider with markup of its own stands upright, whatever way the bar lies; some interfaces are drawn that way.
+void FillSlider(TeskSlider& slider, const _CreateScrollBar& record, XMLNode* templateNode)
+{
+    if (XMLNode* node = XMLHelper::GetChild(templateNode, "Slider")) {
+        const ElementWatch watch(slider);
+        slider.FromXML(node, nullptr);
+        if (!watch.Exists())
+            return;
+
+        slider.Vertical = true;
+        slider.Range = record.Range;
+        return;
+    }
+    _CreateSlider values;
+    values.Range = record.Range;
+    values.Vertical = record.Vertical;
+    slider.Create(values, nullptr);
+    slider.Texture.reset(slider.TextureFromXML(nullptr, "SliderTexture", templateNode));
+    slider.HandleTexture.reset(slider.TextureFromXML(nullptr, "SliderHandleTexture", templateNode));
+}
+
+} // namespace
+
+bool TeskScrollBar::FromXML(XMLNode* node, XMLNode* templateNode)
+{
+    templateNode = TemplateFor(node, templateNode, Kind);
+    const MarkupSource source(node, templateNode);
+    if (!TeskElement::FromXML(node, templateNode) || !ReadMarkup(*this, ScrollBarValues, source))
+        return false;
+
+    XMLNode* up = XMLHelper::GetChild(templateNode, UpTags.Element);
+    XMLNode* down = XMLHelper::GetChild(templateNode, DownTags.Element);
+    return LoadPart(*this, &TeskScrollBar::Slider, SliderKind, "slider", source.Child("Slider"))
+        && LoadPart(*this, &TeskScrollBar::UpButton, ButtonKind, "UpButton", up)
+        && LoadPart(*this, &TeskScrollBar::DownButton, ButtonKind, "DownButton", down);
+}
+
+bool TeskScrollBar::IsTypeOf(const char* word)
+{
+    return EqualsNoCase(TextOrEmpty(word), Kind) || TeskElement::IsTypeOf(word);
+}
+
+MvTypeDefinition* TeskScrollBar::GetMvType()
+{
+    return pTeskScrollBarType;
+}
+
+void TeskScrollBar::Create(const _CreateScrollBar& record, XMLNode* templateNode)
+{
+    const MarkupReading reading;
+    if (!templateNode)
+        templateNode = g_UIManager.FindTemplate(record.Vertical ? VerticalTemplate : Kind);
+    CreateFrom(record);
+    Range = record.Range;
+    Vertical = record.Vertical;
+
+    const auto fillUp = [&](TeskButton& button) { FillButton(button, UpTags, templateNode); };
+    const auto fillDown = [&](TeskButton& button) { FillButton(button, DownTags, templateNode); };
+    const auto fillSlider = [&](TeskSlider& slider) { FillSlider(slider, record, templateNode); };
+    CreatePart(*this, &TeskScrollBar::UpButton, ButtonKind, UpTags.Name, fillUp)
+        && CreatePart(*this, &TeskScrollBar::DownButton, ButtonKind, DownTags.Name, fillDown)
+        && CreatePart(*this, &TeskScrollBar::Slider, SliderKind, "slider", fillSlider);
+}
+
+// What the parts have to say ends here, but for the value.
+void TeskScrollBar::OnNotify(TeskElement* source, unsigned int code, unsigned long long)
+{
+    if (code == NotifyChildGoing)
+        ForgetPart(source);
+    else if (!Slider)
+        return;
+    else if (code == NotifyLeftPressed && source == UpButton)
+        Slider->SetValue(Slider->Value + 1);
+    else if (code == NotifyLeftPressed && source == DownButton && Slider->Value != 0)
+        Slider->SetValue(Slider->Value - 1);
+    else if (code == NotifyValueChanged && source == Slider)
+        NotifyParent(NotifyValueChanged, Slider->Value);
+}
+
+void TeskScrollBar::ForgetPart(const TeskElement* part)
+{
+    if (part == UpButton)
+        UpButton = nullptr;
+    if (part == DownButton)
+        DownButton = nullptr;
+    if (part == Slider)
+        Slider = nullptr;
+}
+
+void TeskScrollBar::SetRange(unsigned int range)
+{
+    if (!Slider)
+        return;
+
+    Range = range;
+    Slider->Range = range;
+    Slider->SetValue(Slider->Value);
+}
+
+void TeskScrollBar::SetValue(unsigned int value)
+{
+    if (Slider)
+        Slider->SetValue(value);
+}
+
+void TeskScrollBar::RaiseValue(unsigned int amount)
+{
+    if (Slider)
+        Slider->SetValue(Slider->Value + amount);
+}
+
+void TeskScrollBar::LowerValue(unsigned int amount)
+{
+    if (Slider)
+        Slider->SetValue(Slider->Value - std::min(amount, Slider->Value));
+}
+
+unsigned int TeskScrollBar::GetValue()
+{
+    return Slider ? Slider->Value : 0;
+}
