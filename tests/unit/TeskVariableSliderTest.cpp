@@ -10,8 +10,8 @@ protected:
     // A slider with a range of 100 over a variable from 0 to 1.
     TeskVariableSlider& PlaceSlider(const std::string& markup = {})
     {
-        auto& slider = Place<TeskVariableSlider>("variableslider",
-            "<Range>100</Range><Data>Volume</Data>" + markup + "<VariableRange>1</VariableRange>");
+        auto& slider = Place<TeskVariableSlider>(
+            "variableslider", "<Range>100</Range><Data>Volume</Data>" + markup + "<VariableRange>1</VariableRange>");
         slider.Width = 105;
         Host.Recorded = RecordSequences;
         return slider;
