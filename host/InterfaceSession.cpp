@@ -29,8 +29,10 @@ InterfaceSession::InterfaceSession(SDL_Renderer* renderer, const Settings& setti
     g_UIManager.Render();
 }
 
+// The elements go while their scripts still have types and objects.
 InterfaceSession::~InterfaceSession()
 {
+    g_UIManager.Reset();
     g_UIManager.Shutdown();
     SetPlatform(nullptr);
 }

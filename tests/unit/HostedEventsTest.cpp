@@ -1,7 +1,8 @@
 // Events whose scripts are Lua: what they are given, and what is told when they fail.
 
 #include "teskara/core/CUIManager.h"
-#include "teskara/element/TeskElement.h"
+#include "teskara/element/TeskScreen.h"
+#include "tests/unit/FreshProcess.h"
 #include "tests/unit/HostedInterface.h"
 
 #include <gtest/gtest.h>
@@ -298,6 +299,25 @@ TEST(HostedEventsDeathTest, TheEndOfTheToolkitInsideAScriptHurtsNobody)
         EXPECT_EQ("NULLgone", ui.Expand("${Result}"));
         EXPECT_EQ("", ui.Lines());
     });
+}
+
+TEST(HostedEventsDeathTest, ScriptsThatSayGoodbyeHaveEverything)
+{
+    testing::internal::CaptureStderr();
+    InFreshProcess([] {
+        const host::Picture picture(64, 64);
+        host::InterfaceSession session(picture.Target(), {});
+        const TeskElement* element = g_UIManager.LoadElement(g_UIManager.Screen, "frame", "Main");
+        session.Host().Scripts().Commands.Add("see", [element](int, char**) {
+            EXPECT_EQ(element, g_UIManager.FindElement("Main"));
+            return 0;
+        });
+        session.Host().Scripts().Tasks.Start("bye.lua",
+            "UIElement('Main').AddChild('frame', 'Child', '<frame><OnUnload>command(\"see\") "
+            "print(UIElement(\"Child@Main\").Parent.Name)</OnUnload></frame>')");
+    });
+    const std::string lines = testing::internal::GetCapturedStderr();
+    EXPECT_NE(std::string::npos, lines.find("OnUnload: main\n")) << lines;
 }
 
 TEST(HostedEventsDeathTest, TrustedScriptsReachFiles)
