@@ -37,6 +37,14 @@ void ClickSelf()
         self->OnLMouseUp(point);
 }
 
+void DeleteParts()
+{
+    Delete("filler@Self@Parent@Grand");
+    Delete("slider@Self@Parent@Grand");
+    Delete("UpButton@Self@Parent@Grand");
+    Delete("DownButton@Self@Parent@Grand");
+}
+
 void LoadManyInto(TeskElement* parent)
 {
     const u32 id = parent ? parent->ID : 0;
@@ -54,6 +62,7 @@ constexpr Act Acts[] = {
     {"delete both siblings",  [] { Delete(ElderName); Delete(YoungerName); }},
     {"delete tooltip",        [] { Delete(TooltipName); }},
     {"delete own child",      [] { Delete("Child@Self@Parent@Grand"); }},
+    {"delete own parts",      DeleteParts},
     {"delete focus",          [] { DeleteByID(g_UIManager.FocusElementID); }},
     {"delete mouse over",     [] { DeleteByID(g_UIManager.MouseOverElementID); }},
     {"delete what is pressed", [] { DeleteByID(g_UIManager.LeftPressElementID); }},
@@ -117,6 +126,10 @@ constexpr ScriptAct ScriptActs[] = {
     {ScriptAct::This,   nullptr,   "SetTexture",    {},                           SetsTexture},
     {ScriptAct::This,   nullptr,   "SetTexture",    {"<T Filename='#other'/>"},   SetsTexture},
     {ScriptAct::This,   nullptr,   "SetChecked",    {},                           SetsCheck},
+    {ScriptAct::This,   nullptr,   "SetValue",      {"90"},                       HasValue},
+    {ScriptAct::This,   nullptr,   "SetRange",      {"3"},                        HasValue},
+    {ScriptAct::This,   nullptr,   "SetRange",      {"0"},                        HasValue},
+    {ScriptAct::This,   nullptr,   "RaiseValue",    {"2"},                        HasButtons},
     {ScriptAct::This,   nullptr,   "Print",         {"${more}"},                  SetsLines},
     {ScriptAct::This,   nullptr,   "SetLine",       {"0", "${more}"},             SetsLines},
     {ScriptAct::This,   nullptr,   "Reset",         {},                           SetsLines},

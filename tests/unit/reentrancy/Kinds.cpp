@@ -13,6 +13,10 @@ constexpr u64 IsText = Follows | ExpandsText | SetsText | HasFont;
 constexpr u64 IsPressed = Follows | Sends(1) | Sends(6) | EvaluatesText | SetsText | HasFont | HasTexture;
 constexpr u64 IsButton = IsPressed | SetsTexture;
 constexpr u64 IsCheckBox = IsPressed | SetsCheck;
+constexpr u64 IsGauge = IsFrame | HasValue;
+constexpr u64 IsSlider = Follows | Sends(4) | RunsOnChange | HasHandle | HasValue | HasTexture;
+constexpr u64 IsVariableSlider = IsSlider | EvaluatesText | ExpandsText;
+constexpr u64 IsScrollBar = Follows | Sends(4) | RunsOnChange | HasButtons | HasValue;
 constexpr u64 IsTooltip = SendsPresses | ExpandsText | SetsLines | HasFont | HasTexture | SetsTexture;
 
 constexpr char FrameMarkup[] = "<Texture Filename='#camera'/><Border>1</Border>";
@@ -25,6 +29,16 @@ constexpr char HudMarkup[] = "<Text>${words}</Text><Group>a</Group>";
 constexpr char CommandMarkup[] =
     "<Text>${words}</Text><Texture Filename='#a'/><Console>Status</Console><Command>check</Command>"
     "<CommandChecked>uncheck</CommandChecked><Data>${number}</Data>";
+
+// What they are made of lies away from where the mouse goes.
+constexpr char GaugeMarkup[] =
+    "<Texture Filename='#a'/><TopTexture Filename='#b'/><Border>1</Border><Range>10</Range><Data>${number}</Data>"
+    "<Filler><X>30</X><Width>10</Width><Height>100%</Height><Repeat>3</Repeat><Texture Filename='#c'><right>9</right>"
+    "</Texture></Filler>";
+constexpr char SliderMarkup[] = "<Texture Filename='#a'/><HandleTexture Filename='#b'/><Range>100</Range>"
+                                "<OnChange>OnChange</OnChange><Data>number</Data><VariableRange>1</VariableRange>";
+constexpr char ScrollBarMarkup[] = "<Range>100</Range><Slider><X>20</X><Width>10</Width><Height>50</Height><Vertical/>"
+                                   "<Range>100</Range><OnChange>OnChange</OnChange></Slider>";
 
 // A tooltip is loaded hidden and without lines.
 void PrepareTooltip()
@@ -42,6 +56,11 @@ constexpr Kind Kinds[] = {
     {"commandbutton",   IsButton | RunsCommand,                                CommandMarkup,  nullptr},
     {"commandcheckbox", IsCheckBox | RunsCommand | Calculates,                 CommandMarkup,  nullptr},
     {"hudelement",      FollowsHeldMouse | EvaluatesText | SetsText | HasFont, HudMarkup,      nullptr},
+    {"gauge",           IsGauge,                                               GaugeMarkup,    nullptr},
+    {"variablegauge",   IsGauge | EvaluatesText,                               GaugeMarkup,    nullptr},
+    {"slider",          IsSlider,                                              SliderMarkup,   nullptr},
+    {"variableslider",  IsVariableSlider,                                      SliderMarkup,   nullptr},
+    {"scrollbar",       IsScrollBar,                                           ScrollBarMarkup, nullptr},
     {"tooltip",         IsTooltip,                                             FrameMarkup,    PrepareTooltip},
     {"foreigntext",     IsText | ReadsFonts,                                   TextMarkup,     nullptr},
     {"foreignframe",    IsFrame | ReadsTextures,                               FrameMarkup,    nullptr},

@@ -22,6 +22,10 @@ enum Trait : u64 {
     SetsTexture = u64{1} << 30,
     SetsCheck = u64{1} << 31,
     SetsLines = u64{1} << 32,
+    HasValue = u64{1} << 35, // a value within a range, which scripts set
+    RunsOnChange = u64{1} << 36, // a script for changes of the value
+    HasHandle = u64{1} << 37, // a press sets the value
+    HasButtons = u64{1} << 38, // its parts change the value by steps, as scripts may
 };
 
 // It tells its parent so, of its own accord.

@@ -20,7 +20,7 @@ MatrixHost::MatrixHost()
 {
     Recorded = 0;
     NamesKeys = true;
-    for (const char* place : {TooltipPlace, ChildPlace})
+    for (const char* place : {TooltipPlace, ChildPlace, "OnChange"})
         Scripts[place] = [place](TeskElement&) { g_Bomb.Reach(place); };
     for (const char* event : EventNames)
         Scripts[event] = [event](TeskElement&) { g_Bomb.Reach(event); };

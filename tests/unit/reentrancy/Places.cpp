@@ -232,6 +232,24 @@ void CallCopyTexture()
     TellPart(Self(), "Texture", "Copy", {"UIElement[Self@Parent@Grand].Texture"});
 }
 
+void CallSetValue()
+{
+    Tell(Self(), "SetValue", {"50"});
+}
+
+void CallSetRangeBelowTheValue()
+{
+    CallSetValue();
+    Tell(Self(), "SetRange", {"20"});
+}
+
+// Where scroll bars have a button.
+void PressToTheRight()
+{
+    MoveTo(50, 15);
+    PressLeft();
+}
+
 // As if the mouse had not been moved for a while.
 void RestMouse()
 {
@@ -300,6 +318,10 @@ constexpr Place Places[] = {
     {"OnLMouseDownOther",    "press a sibling",       IsForeign,     PressSiblingWithFocus},
     {"ExecuteCommand",       "click",                 RunsCommand,   ClickLeft},
     {"SetOutputConsole",     "click",                 RunsCommand,   ClickLeft},
+    {"OnChange",             "press",                 RunsOnChange | HasHandle, ClickLeft},
+    {"OnChange",             "drag",                  RunsOnChange | HasHandle, DragMouse},
+    {"OnChange",             "press to the right",    RunsOnChange,  PressToTheRight},
+    {"DataParse",            "press",                 ExpandsText | HasHandle, ClickLeft},
 
     // the keyboard
     {"OnKeyboardEnter",      "focus",                 EveryKind,     FocusSelf},
@@ -323,10 +345,15 @@ constexpr Place Places[] = {
     {"SizeRecalculated of the child", "SetHeight",    EveryKind,     CallSetHeightOfParent},
     {"TextureFromXML",       "SetTexture",            ReadsTextures, CallSetTexture},
     {"Calculate",            "SetWrap",               ExpandsText | SetsText, CallSetWrap},
+    {"OnChange",             "SetValue",              RunsOnChange,  CallSetValue},
+    {"OnChange",             "SetRange",              RunsOnChange,  CallSetRangeBelowTheValue},
     {"ParseTypedValue",      "Copy",                  HasTexture,    CallCopyTexture},
 
     // what the parent hears
     {"notification 1",       "click",                 Sends(1),      ClickLeft},
+    {"notification 4",       "press",                 Sends(4) | HasHandle, ClickLeft},
+    {"notification 4",       "press to the right",    Sends(4),      PressToTheRight},
+    {"notification 4",       "SetValue",              Sends(4),      CallSetValue},
     {"notification 6",       "click",                 Sends(6),      ClickLeft},
     {"notification 7",       "click",                 Sends(7),      ClickRight},
     {"notification 8",       "click",                 Sends(8),      ClickRight},

@@ -14,6 +14,10 @@ namespace {
 
 constexpr i32 InsideSelf = 15;
 
+// Scroll bars take them from their template alone; other kinds pass over them.
+constexpr char ScrollBarButtons[] = "<UpButton><X>35</X><Width>10</Width><Height>20</Height></UpButton>"
+                                    "<DownButton><X>35</X><Y>20</Y><Width>10</Width><Height>20</Height></DownButton>";
+
 // A sibling that is high enough to be hit where the scene is empty else.
 std::string SiblingMarkup(const char* name, int x)
 {
@@ -72,7 +76,7 @@ std::string SceneMarkup(const Kind& kind)
     std::string look = "<Template name='Look'><Width>50</Width><StorePosition>1</StorePosition>";
     for (const char* event : EventNames)
         look += std::string("<") + event + ">" + event + "</" + event + ">";
-    look += "</Template><Template name='Deep'/>";
+    look += std::string(ScrollBarButtons) + "</Template><Template name='Deep'/>";
 
     const std::string word = kind.Name;
     const std::string self = "<" + word
