@@ -8,11 +8,17 @@
 
 namespace {
 
-// What any kind may read; kinds pass over what is not theirs.
+// What any kind may read; kinds pass over what is not theirs. A change runs the script of OnMouseMove.
 constexpr char Values[] =
     "<BackgroundColor>ff101010</BackgroundColor><Border>2</Border><BorderColor>ffffffff</BorderColor>"
     "<Text>a ${x} b</Text><Wrap>1</Wrap><AutoTooltip>${hint}</AutoTooltip><Command>c</Command>"
     "<CommandChecked>d</CommandChecked><Console>e</Console><Data>${n}</Data><Group>g</Group>"
+    "<Range>50</Range><VariableRange>2</VariableRange><Offset>0.5</Offset><OnChange>8</OnChange>"
+    "<HandleTexture Filename='#fill'/><TopTexture Filename='#fill'/>"
+    "<Filler><Width>60</Width><Height>50%</Height><Repeat>3</Repeat><Texture Filename='#fill'><right>9</right>"
+    "</Texture></Filler><Slider><Width>20</Width><Height>60</Height><Range>50</Range><OnChange>8</OnChange></Slider>"
+    "<UpButton><X>30</X><Width>20</Width><Height>20</Height></UpButton>"
+    "<DownButton><X>30</X><Y>30</Y><Width>20</Width><Height>20</Height></DownButton>"
     "<StorePosition>1</StorePosition><FadeDuration>40</FadeDuration><FadeAlpha>0.5</FadeAlpha>";
 
 std::string Tag(const char* name, const std::string& value)
@@ -35,7 +41,7 @@ std::string TemplateMarkup()
     return std::string("<Template name='all'>") + Values + events + "</Template>";
 }
 
-// Bits of the seed make some of the elements hidden, thin, textured, fading or always on top.
+// Bits of the seed make some of the elements hidden, thin, textured, fading, upright or always on top.
 std::string Variation(u8 bits)
 {
     std::string text;
@@ -49,6 +55,8 @@ std::string Variation(u8 bits)
         text += Tag("AlwaysOnTop", "1");
     if (bits % 3 == 2)
         text += Tag("UpdateInterval", "2");
+    if (bits % 6 == 5)
+        text += Tag("Vertical", "1") + Tag("Repeat", "-1");
     return text;
 }
 
