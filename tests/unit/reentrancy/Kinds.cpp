@@ -8,16 +8,18 @@ namespace {
 
 constexpr u64 SendsPresses = Sends(1) | Sends(6) | Sends(7) | Sends(8) | Sends(10) | Sends(11) | Sends(15);
 constexpr u64 Follows = FollowsMouse | FollowsHeldMouse;
-constexpr u64 IsFrame = Follows | SendsPresses | Sends(14) | HasTexture | SetsTexture;
-constexpr u64 IsText = Follows | ExpandsText | SetsText | HasFont;
-constexpr u64 IsPressed = Follows | Sends(1) | Sends(6) | EvaluatesText | SetsText | HasFont | HasTexture;
+constexpr u64 PassesOn = Sends(51); // what others have to say of themselves
+constexpr u64 IsFrame = Follows | PassesOn | SendsPresses | Sends(14) | HasTexture | SetsTexture;
+constexpr u64 IsText = Follows | PassesOn | ExpandsText | SetsText | HasFont;
+constexpr u64 IsPressed = Follows | PassesOn | Sends(1) | Sends(6) | EvaluatesText | SetsText | HasFont | HasTexture;
 constexpr u64 IsButton = IsPressed | SetsTexture;
 constexpr u64 IsCheckBox = IsPressed | SetsCheck;
+constexpr u64 IsHudElement = FollowsHeldMouse | PassesOn | EvaluatesText | SetsText | HasFont;
 constexpr u64 IsGauge = IsFrame | HasValue;
-constexpr u64 IsSlider = Follows | Sends(4) | RunsOnChange | HasHandle | HasValue | HasTexture;
+constexpr u64 IsSlider = Follows | PassesOn | Sends(4) | RunsOnChange | HasHandle | HasValue | HasTexture;
 constexpr u64 IsVariableSlider = IsSlider | EvaluatesText | ExpandsText;
 constexpr u64 IsScrollBar = Follows | Sends(4) | RunsOnChange | HasButtons | HasValue;
-constexpr u64 IsTooltip = SendsPresses | ExpandsText | SetsLines | HasFont | HasTexture | SetsTexture;
+constexpr u64 IsTooltip = PassesOn | SendsPresses | ExpandsText | SetsLines | HasFont | HasTexture | SetsTexture;
 
 constexpr char FrameMarkup[] = "<Texture Filename='#camera'/><Border>1</Border>";
 constexpr char TextMarkup[] = "<Wrap>1</Wrap><Text>${words}</Text>";
@@ -49,22 +51,22 @@ void PrepareTooltip()
 
 // clang-format off
 constexpr Kind Kinds[] = {
-    {"frame",           IsFrame,                                               FrameMarkup,    nullptr},
-    {"text",            IsText,                                                TextMarkup,     nullptr},
-    {"button",          IsButton,                                              ButtonMarkup,   nullptr},
-    {"checkbox",        IsCheckBox,                                            CheckBoxMarkup, nullptr},
-    {"commandbutton",   IsButton | RunsCommand,                                CommandMarkup,  nullptr},
-    {"commandcheckbox", IsCheckBox | RunsCommand | Calculates,                 CommandMarkup,  nullptr},
-    {"hudelement",      FollowsHeldMouse | EvaluatesText | SetsText | HasFont, HudMarkup,      nullptr},
-    {"gauge",           IsGauge,                                               GaugeMarkup,    nullptr},
-    {"variablegauge",   IsGauge | EvaluatesText,                               GaugeMarkup,    nullptr},
-    {"slider",          IsSlider,                                              SliderMarkup,   nullptr},
-    {"variableslider",  IsVariableSlider,                                      SliderMarkup,   nullptr},
-    {"scrollbar",       IsScrollBar,                                           ScrollBarMarkup, nullptr},
-    {"tooltip",         IsTooltip,                                             FrameMarkup,    PrepareTooltip},
-    {"foreigntext",     IsText | ReadsFonts,                                   TextMarkup,     nullptr},
-    {"foreignframe",    IsFrame | ReadsTextures,                               FrameMarkup,    nullptr},
-    {"foreign",         Follows | IsForeign,                                   "",             nullptr},
+    {"frame",           IsFrame,                               FrameMarkup,     nullptr},
+    {"text",            IsText,                                TextMarkup,      nullptr},
+    {"button",          IsButton,                              ButtonMarkup,    nullptr},
+    {"checkbox",        IsCheckBox,                            CheckBoxMarkup,  nullptr},
+    {"commandbutton",   IsButton | RunsCommand,                CommandMarkup,   nullptr},
+    {"commandcheckbox", IsCheckBox | RunsCommand | Calculates, CommandMarkup,   nullptr},
+    {"hudelement",      IsHudElement,                          HudMarkup,       nullptr},
+    {"gauge",           IsGauge,                               GaugeMarkup,     nullptr},
+    {"variablegauge",   IsGauge | EvaluatesText,               GaugeMarkup,     nullptr},
+    {"slider",          IsSlider,                              SliderMarkup,    nullptr},
+    {"variableslider",  IsVariableSlider,                      SliderMarkup,    nullptr},
+    {"scrollbar",       IsScrollBar,                           ScrollBarMarkup, nullptr},
+    {"tooltip",         IsTooltip,                             FrameMarkup,     PrepareTooltip},
+    {"foreigntext",     IsText | ReadsFonts,                   TextMarkup,      nullptr},
+    {"foreignframe",    IsFrame | ReadsTextures,               FrameMarkup,     nullptr},
+    {"foreign",         Follows | PassesOn | IsForeign,        "",              nullptr},
 };
 // clang-format on
 

@@ -28,7 +28,7 @@ enum Trait : u64 {
     HasButtons = u64{1} << 38, // its parts change the value by steps, as scripts may
 };
 
-// It tells its parent so, of its own accord.
+// It tells its parent so, of its own accord or for others.
 constexpr u64 Sends(u32 notification)
 {
     return u64{1} << notification;

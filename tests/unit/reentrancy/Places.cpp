@@ -285,7 +285,7 @@ constexpr Place Places[] = {
     {"OnDestroy",            "end of the kind",       IsForeign,     EndForeignKinds},
     {"OnUnload",             "end of the kind",       EveryKind,     EndForeignKinds},
     {"notification 51",      "delete self",           EveryKind,     DeleteSelf},
-    {"notification 51",      "delete child",          EveryKind,     DeleteOwnChild},
+    {"notification 51",      "delete child",          Sends(51),     DeleteOwnChild},
 
     // a frame
     {"OnRender",             "frame",                 EveryKind,     Frame},
