@@ -96,16 +96,16 @@ bool HostPlatform::EmptyClipboard()
     return SetClipboardText({});
 }
 
-bool HostPlatform::SetClipboardText(const std::u16string& text)
+bool HostPlatform::SetClipboardText(const std::string& text)
 {
     if (HasDisplay())
-        return SDL_SetClipboardText(WideToUtf8(text).c_str()) == 0;
+        return SDL_SetClipboardText(WideToUtf8(Utf8ToWide(text)).c_str()) == 0;
 
     m_OwnClipboard = text;
     return true;
 }
 
-bool HostPlatform::GetClipboardText(std::u16string& text)
+bool HostPlatform::GetClipboardText(std::string& text)
 {
     if (!HasDisplay()) {
         text = m_OwnClipboard;
@@ -115,7 +115,7 @@ bool HostPlatform::GetClipboardText(std::u16string& text)
         return false;
 
     char* narrow = SDL_GetClipboardText();
-    text = Utf8ToWide(narrow ? narrow : "");
+    text = narrow ? narrow : "";
     SDL_free(narrow);
     return !text.empty();
 }

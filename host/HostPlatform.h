@@ -28,14 +28,14 @@ public:
     bool OpenClipboard() override;
     void CloseClipboard() override;
     bool EmptyClipboard() override;
-    bool SetClipboardText(const std::u16string& text) override;
-    bool GetClipboardText(std::u16string& text) override;
+    bool SetClipboardText(const std::string& text) override;
+    bool GetClipboardText(std::string& text) override;
 
 private:
     const HostClock& m_Clock;
     Platform& m_System;
     u8 m_Typed[256] = {};
-    std::u16string m_OwnClipboard; // when there is no display
+    std::string m_OwnClipboard; // when there is no display
 };
 
 } // namespace host

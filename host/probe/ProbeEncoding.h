@@ -5,8 +5,7 @@
 #include <string>
 #include <string_view>
 
-// UTF-8 to UTF-16 and back. What is ill-formed becomes U+FFFD.
-std::u16string Utf16FromUtf8(std::string_view bytes);
+// What is ill-formed becomes U+FFFD.
 std::string Utf8FromUtf16(std::u16string_view units);
 
 // One byte of the code page Windows-1252.

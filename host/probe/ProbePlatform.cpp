@@ -39,7 +39,7 @@ bool ProbePlatform::EmptyClipboard()
     return true;
 }
 
-bool ProbePlatform::SetClipboardText(const std::u16string& text)
+bool ProbePlatform::SetClipboardText(const std::string& text)
 {
     if (!ClipboardWorks())
         return false;
@@ -48,7 +48,7 @@ bool ProbePlatform::SetClipboardText(const std::u16string& text)
     return true;
 }
 
-bool ProbePlatform::GetClipboardText(std::u16string& text)
+bool ProbePlatform::GetClipboardText(std::string& text)
 {
     if (!ClipboardWorks() || !ClipboardText)
         return false;

@@ -26,14 +26,14 @@ public:
     bool OpenClipboard() override;
     void CloseClipboard() override { }
     bool EmptyClipboard() override;
-    bool SetClipboardText(const std::u16string& text) override;
-    bool GetClipboardText(std::u16string& text) override;
+    bool SetClipboardText(const std::string& text) override;
+    bool GetClipboardText(std::string& text) override;
 
     u32 Tick = 10000;
     bool CapsLock = false;
     bool NumLock = false;
     std::map<u32, std::string> KeyTexts; // what a key gives in place of its own character
-    std::optional<std::u16string> ClipboardText;
+    std::optional<std::string> ClipboardText;
 
 private:
     bool ClipboardWorks() const { return !m_Refusals.Refuses(HostOperation::Clipboard); }

@@ -2,7 +2,6 @@
 
 #include "host/probe/ProbeCommands.h"
 
-#include "host/probe/ProbeEncoding.h"
 #include "host/probe/ProbeSession.h"
 #include "host/probe/ValueText.h"
 
@@ -95,9 +94,9 @@ void Clipboard(ProbeSession& session, const CommandCall& call)
 {
     auto& text = session.Platform.ClipboardText;
     if (call.Has(0))
-        text = Utf16FromUtf8(call.Rest(0));
+        text = call.Rest(0);
     else
-        session.Output.Result(text ? Quoted(Utf8FromUtf16(*text)) : "null");
+        session.Output.Result(text ? Quoted(*text) : "null");
 }
 
 void Position(ProbeSession& session, const CommandCall& call)

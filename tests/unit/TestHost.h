@@ -158,8 +158,8 @@ public:
     bool OpenClipboard() override { return false; }
     void CloseClipboard() override { }
     bool EmptyClipboard() override { return false; }
-    bool SetClipboardText(const std::u16string&) override { return false; }
-    bool GetClipboardText(std::u16string&) override { return false; }
+    bool SetClipboardText(const std::string&) override { return false; }
+    bool GetClipboardText(std::string&) override { return false; }
 
     u32 Ticks = 10000;
     std::set<std::u16string> Files;

@@ -45,12 +45,13 @@ public:
     // instead, and the text is then cut to what fits.
     virtual void RangeFailure() = 0;
 
-    // The clipboard. Open first, close last. Texts are UTF-16; reading gives false if there is no text.
+    // The clipboard. Open first, close last. A text is bytes that mean what the system's own texts mean; it goes in and
+    // comes out as it is. Reading gives false if there is no text.
     virtual bool OpenClipboard() = 0;
     virtual void CloseClipboard() = 0;
     virtual bool EmptyClipboard() = 0;
-    virtual bool SetClipboardText(const std::u16string& text) = 0;
-    virtual bool GetClipboardText(std::u16string& text) = 0;
+    virtual bool SetClipboardText(const std::string& text) = 0;
+    virtual bool GetClipboardText(std::string& text) = 0;
 };
 
 // The table in force. Never null: until a host sets its own, the system's.

@@ -75,8 +75,8 @@ public:
     bool OpenClipboard() override { return false; }
     void CloseClipboard() override { }
     bool EmptyClipboard() override { return false; }
-    bool SetClipboardText(const std::u16string&) override { return false; }
-    bool GetClipboardText(std::u16string&) override { return false; }
+    bool SetClipboardText(const std::string&) override { return false; }
+    bool GetClipboardText(std::string&) override { return false; }
 };
 
 } // namespace
