@@ -73,6 +73,16 @@ int ExecuteAtom(u32 atom, int argc, char** argv, _MvTypeVar* self) noexcept
     return Call(0, [&](HostObject& host) { return host.ExecuteAtom(atom, 0, argc, argv, self); });
 }
 
+int ExecuteAtomForText(u32 atom, int argc, char** argv, _MvTypeVar* self, char* output, u32 size) noexcept
+{
+    int result = 0;
+    CallForText(output, size, [&](HostObject& host) {
+        result = host.ExecuteAtomForText(atom, argc, argv, self, 0, output, size);
+        return true;
+    });
+    return result;
+}
+
 u32 FindAtom(const char* name) noexcept
 {
     return Call(u32{0}, [&](HostObject& host) { return host.FindAtom(name); });

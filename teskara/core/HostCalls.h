@@ -61,6 +61,9 @@ void PrintLine(const char* format, ...) noexcept __attribute__((format(printf, 1
 u32 CompileAtom(const std::string& source) noexcept;
 void ReleaseAtom(u32 atom) noexcept;
 int ExecuteAtom(u32 atom, int argc, char** argv, _MvTypeVar* self) noexcept;
+
+// size: of output, which is always terminated, and empty if the script gives no text.
+int ExecuteAtomForText(u32 atom, int argc, char** argv, _MvTypeVar* self, char* output, u32 size) noexcept;
 u32 FindAtom(const char* name) noexcept;
 int ExecuteCommand(const char* text) noexcept;
 
