@@ -1,5 +1,6 @@
 #include "tests/unit/TestHost.h"
 
+#include "teskara/core/BoundedText.h"
 #include "teskara/element/TeskElement.h"
 #include "teskara/script/MvTypeVar.h"
 
@@ -186,12 +187,27 @@ void TestHost::ReleaseAtom(u32 atom)
     m_Atoms.erase(atom);
 }
 
-int TestHost::ExecuteAtom(u32 atom, u32, int, char**, _MvTypeVar* self)
+int TestHost::ExecuteAtom(u32 atom, u32, int argc, char** argv, _MvTypeVar* self)
 {
+    ScriptArguments.assign(argv, argv + argc);
     const auto script = Scripts.find(m_Atoms[atom]);
     if (script != Scripts.end() && self)
         script->second(*static_cast<TeskElement*>(self->Value.Object));
     return 0;
+}
+
+// Atoms that have names are numbered by their place in the map, from the top of all numbers down.
+u32 TestHost::FindAtom(const char* name)
+{
+    const auto script = NamedScripts.find(name);
+    return script == NamedScripts.end() ? 0 : ~static_cast<u32>(std::distance(NamedScripts.begin(), script));
+}
+
+int TestHost::ExecuteAtomForText(u32 atom, int argc, char** argv, _MvTypeVar*, u32, char* output, u32 size)
+{
+    const auto script = std::next(NamedScripts.begin(), static_cast<std::ptrdiff_t>(~atom));
+    CopyBounded(output, size, script->second({argv, argv + argc}));
+    return 1;
 }
 
 bool TestHost::FindResourceFile(const char* name, char* path)

@@ -45,9 +45,10 @@ public:
 
     u32 CompileAtom(const char* source, u32 length) override;
     void ReleaseAtom(u32 atom) override;
-    int ExecuteAtomForText(u32, int, char**, _MvTypeVar*, u32, char*, u32) override { return 0; }
+    int ExecuteAtomForText(
+        u32 atom, int argc, char** argv, _MvTypeVar* self, u32 unused, char* output, u32 size) override;
     int ExecuteAtom(u32 atom, u32 unused, int argc, char** argv, _MvTypeVar* self) override;
-    u32 FindAtom(const char*) override { return 0; }
+    u32 FindAtom(const char* name) override;
 
     u32 PreParseSequence(const char* text, u32 keep) override;
     bool RetrieveOriginalText(u32 sequence, char* buffer, u32 size) override;
@@ -107,6 +108,12 @@ public:
 
     // What the body of a script does. A body that is not here does nothing.
     std::map<std::string, std::function<void(TeskElement& self)>> Scripts;
+
+    // What the last script was given.
+    std::vector<std::string> ScriptArguments;
+
+    // The scripts that have names, and what they answer to their arguments.
+    std::map<std::string, std::function<std::string(const std::vector<std::string>& arguments)>> NamedScripts;
 
     // What a command line does. One that is not here is unknown.
     std::map<std::string, std::function<void()>> Commands;
