@@ -1,6 +1,7 @@
 // The one place that knows every kind. Objects are made in the order in which they stand here: the manager, then the
 // factories, then the module's entry; they end in the reverse order.
 
+#include "teskara/collections/TeskListBox.h"
 #include "teskara/controls/TeskButton.h"
 #include "teskara/controls/TeskCheckBox.h"
 #include "teskara/controls/TeskCommandButton.h"
@@ -57,7 +58,7 @@ TeskFactory<TeskFrame> g_Frame("frame");
 TeskFactory<TeskGauge> g_Gauge("gauge");
 TeskFactory<TeskGaugeFiller> g_GaugeFiller("gaugefiller");
 TeskFactory<TeskHudElement> g_HudElement("hudelement");
-PendingFactory g_ListBox("listbox");
+TeskFactory<TeskListBox> g_ListBox("listbox");
 PendingFactory g_MapBlip("mapblip");
 PendingFactory g_MapBlipView("mapblipview");
 PendingFactory g_Map("map");

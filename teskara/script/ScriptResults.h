@@ -43,6 +43,15 @@ struct UintValue {
     }
 };
 
+struct Int64Value {
+    static constexpr const char* Name = "int64";
+    template <class Number> static MvTypeDefinition* Put(MvValue& value, Number number)
+    {
+        value.Integer64 = static_cast<i64>(number);
+        return pInt64Type;
+    }
+};
+
 struct BoolValue {
     static constexpr const char* Name = "bool";
     static MvTypeDefinition* Put(MvValue& value, bool flag)
@@ -143,6 +152,7 @@ private:
 
 template <auto Source> inline constexpr ResultOf<IntValue, Source> Int;
 template <auto Source> inline constexpr ResultOf<UintValue, Source> Uint;
+template <auto Source> inline constexpr ResultOf<Int64Value, Source> Int64;
 template <auto Source> inline constexpr ResultOf<BoolValue, Source> Bool;
 template <auto Source> inline constexpr ResultOf<FloatValue, Source> Float;
 template <auto Source> inline constexpr ResultOf<StringValue, Source> String;

@@ -9,6 +9,8 @@
 #include "teskara/script/TeskFrameType.h"
 #include "teskara/script/TeskGaugeType.h"
 #include "teskara/script/TeskHudElementType.h"
+#include "teskara/script/TeskListBoxItemType.h"
+#include "teskara/script/TeskListBoxType.h"
 #include "teskara/script/TeskMessageBoxType.h"
 #include "teskara/script/TeskScrollBarType.h"
 #include "teskara/script/TeskSliderType.h"
@@ -104,8 +106,8 @@ constexpr TypeRow Types[] = {
     {"teskara", &pTeskaraType, nullptr, Make<TeskaraType>},
     {"teskelement", &pTeskElementType, nullptr, Make<TeskElementType>},
     {"teskframe", &pTeskFrameType, &pTeskElementType, Make<TeskFrameType>},
-    {"tesklistboxitem", &pTeskListBoxItemType, nullptr, Nameless},
-    {"tesklistbox", &pTeskListBoxType, &pTeskElementType, Nameless},
+    {"tesklistboxitem", &pTeskListBoxItemType, nullptr, Make<TeskListBoxItemType>},
+    {"tesklistbox", &pTeskListBoxType, &pTeskElementType, Make<TeskListBoxType>},
     {"teskbutton", &pTeskButtonType, &pTeskElementType, Make<TeskButtonType>},
     {"teskcheckbox", &pTeskCheckBoxType, &pTeskElementType, Make<TeskCheckBoxType>},
     {"teskcombobox", &pTeskComboBoxType, &pTeskListBoxType, Nameless},
