@@ -1,6 +1,7 @@
 // The one place that knows every kind. Objects are made in the order in which they stand here: the manager, then the
 // factories, then the module's entry; they end in the reverse order.
 
+#include "teskara/collections/TeskComboBox.h"
 #include "teskara/collections/TeskListBox.h"
 #include "teskara/controls/TeskButton.h"
 #include "teskara/controls/TeskCheckBox.h"
@@ -48,7 +49,7 @@ public:
 
 TeskFactory<TeskButton> g_Button("button");
 TeskFactory<TeskCheckBox> g_CheckBox("checkbox");
-PendingFactory g_ComboBox("combobox");
+TeskFactory<TeskComboBox> g_ComboBox("combobox");
 TeskFactory<TeskCommandButton> g_CommandButton("commandbutton");
 TeskFactory<TeskCommandCheckBox> g_CommandCheckBox("commandcheckbox");
 PendingFactory g_CommandEntry("commandentry");

@@ -4,6 +4,7 @@
 #include "teskara/core/HostCalls.h"
 #include "teskara/script/TeskButtonType.h"
 #include "teskara/script/TeskCheckBoxType.h"
+#include "teskara/script/TeskComboBoxType.h"
 #include "teskara/script/TeskElementType.h"
 #include "teskara/script/TeskFontType.h"
 #include "teskara/script/TeskFrameType.h"
@@ -110,7 +111,7 @@ constexpr TypeRow Types[] = {
     {"tesklistbox", &pTeskListBoxType, &pTeskElementType, Make<TeskListBoxType>},
     {"teskbutton", &pTeskButtonType, &pTeskElementType, Make<TeskButtonType>},
     {"teskcheckbox", &pTeskCheckBoxType, &pTeskElementType, Make<TeskCheckBoxType>},
-    {"teskcombobox", &pTeskComboBoxType, &pTeskListBoxType, Nameless},
+    {"teskcombobox", &pTeskComboBoxType, &pTeskListBoxType, Make<TeskComboBoxType>},
     {"teskconsole", &pTeskConsoleType, &pTeskFrameType, Nameless},
     {"teskfont", &pTeskFontType, nullptr, Make<TeskFontType>},
     {"teskgauge", &pTeskGaugeType, &pTeskFrameType, Make<TeskGaugeType>},
