@@ -3,8 +3,8 @@
 #include "host/Console.h"
 #include "host/FrameState.h"
 #include "host/script/AtomSource.h"
-#include "host/script/EventNames.h"
 #include "teskara/core/CUIManager.h"
+#include "teskara/element/EventNames.h"
 #include "teskara/element/TeskElement.h"
 
 #include <charconv>

@@ -4,7 +4,7 @@
 #include "teskara/controls/SliderTrack.h"
 #include "teskara/core/AsciiCase.h"
 #include "teskara/core/BoundedText.h"
-#include "teskara/element/MarkupTable.h"
+#include "teskara/element/EventTable.h"
 #include "teskara/script/TypeGlobals.h"
 
 #include <algorithm>
@@ -35,6 +35,8 @@ constexpr MarkupValue<TeskSlider> SliderScripts[] = {
     {"OnChange", Markup::Script<&TeskSlider::OnChange>, ""},
 };
 // clang-format on
+
+const EventTable Events(SliderScripts);
 
 } // namespace
 

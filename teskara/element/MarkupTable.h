@@ -36,10 +36,12 @@ struct MarkupDefault {
     const char* Text = "";
 };
 
-// How a text becomes the field of a control: the name that people read, and the function.
+// How a text becomes the field of a control: the name that people read, and the function. If the field is a script, the
+// value is an event, and Script finds it.
 template <class Owner> struct MarkupForm {
     const char* Name;
     void (*Read)(Owner& control, const MarkupSource& source, TagName tag, MarkupDefault fallback);
+    const ScriptPointer& (*Script)(const Owner& control) = nullptr;
 };
 
 template <class Owner> struct MarkupValue {
@@ -173,25 +175,27 @@ constexpr MarkupForm<OwnerOf<Field>> FixedFont = {
             [&] { return control.FixedFontFromXML(source.Node(), tag.Text, source.Template()); });
     }};
 
-// A script; the default is the list of its arguments. A script that does not compile is reported, and the report may
-// end the element.
+// An event of a control; the default is the list of its script's arguments. The table must be made known, see
+// EventTable.h. A script that does not compile is reported, and the report may end the element.
 template <auto Field>
-constexpr MarkupForm<OwnerOf<Field>> Script = {
-    "script", [](OwnerOf<Field>& control, const MarkupSource& source, TagName tag, MarkupDefault arguments) {
+constexpr MarkupForm<OwnerOf<Field>> Script = {"script",
+    [](OwnerOf<Field>& control, const MarkupSource& source, TagName tag, MarkupDefault arguments) {
         if (!source.Child(tag))
             return;
         KeepMade(control, control.*Field,
             [&] { return control.EmbeddedScriptFromXML(source.Node(), tag.Text, source.Template(), arguments.Text); });
-    }};
+    },
+    [](const OwnerOf<Field>& control) -> const ScriptPointer& { return control.*Field; }};
 
-// The same for the scripts that every element has.
+// The same for the events that every element has.
 template <auto Field>
-constexpr MarkupForm<TeskElement> Event = {
-    "script", [](TeskElement& element, const MarkupSource& source, TagName tag, MarkupDefault arguments) {
+constexpr MarkupForm<TeskElement> Event = {"script",
+    [](TeskElement& element, const MarkupSource& source, TagName tag, MarkupDefault arguments) {
         if (!source.Child(tag))
             return;
         KeepMade(element, element.Events.*Field,
             [&] { return element.EmbeddedScriptFromXML(source.Node(), tag.Text, source.Template(), arguments.Text); });
-    }};
+    },
+    [](const TeskElement& element) -> const ScriptPointer& { return element.Events.*Field; }};
 
 } // namespace Markup

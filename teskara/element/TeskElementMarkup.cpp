@@ -1,6 +1,6 @@
 #include "teskara/core/BoundedText.h"
 #include "teskara/core/HostCalls.h"
-#include "teskara/element/MarkupTable.h"
+#include "teskara/element/EventTable.h"
 #include "teskara/element/TeskElement.h"
 
 namespace {
@@ -67,6 +67,8 @@ constexpr MarkupValue<TeskElement> ElementValues[] = {
     {"AutoTooltip",        TextUnlessEmpty,                                                   ""},
 };
 // clang-format on
+
+const EventTable Events(ElementValues);
 
 } // namespace
 

@@ -32,6 +32,7 @@ enum class CallOut : u8 {
     SaveElementPosition,
     LoadElementPosition,
     PrintLine,
+    Count,
 };
 
 // A host that refuses operations at random and whose scripts do something hostile to the tree: by default, as its

@@ -1,16 +1,12 @@
 #include "tests/fuzz/EventHost.h"
 
 #include "teskara/script/MvTypeVar.h"
-#include "tests/fuzz/EventScene.h"
 #include "tests/fuzz/HostileActs.h"
 
 #include <cstdlib>
 #include <cstring>
-#include <iterator>
 
 namespace {
-
-constexpr u8 EventCount = static_cast<u8>(std::size(EventNames));
 
 // Acts may begin others; an input ends all the same.
 constexpr u32 MostActs = 500;
@@ -121,7 +117,7 @@ bool EventHost::Refuses()
 
 void EventHost::CalledOut(CallOut place, TeskElement* self)
 {
-    Reach(static_cast<u8>(EventCount + static_cast<u8>(place)), self);
+    Reach(static_cast<u8>(place), self);
 }
 
 void EventHost::Reach(u8 place, TeskElement* self)

@@ -14,8 +14,12 @@ class EventHost final : public ChaosHost
 public:
     std::string Part; // what LocateFile finds by that name; all other names lead to File
 
-    // Numbers of the places where the host acts: the events first, then the other calls.
-    static constexpr u8 Places = 32;
+    // How many places there are where the host may act.
+    static constexpr u8 Places = 64;
+
+    // The places of the events in the order of EventNames, after those of the other calls. The body of each event's
+    // script is its place.
+    static constexpr u8 FirstEvent = static_cast<u8>(CallOut::Count);
 
     // Forgets all of it for a new input.
     void StartAnew();

@@ -1,22 +1,23 @@
 #include "tests/fuzz/EventScene.h"
 
 #include "teskara/core/CUIManager.h"
-#include "teskara/element/TeskElement.h"
+#include "teskara/element/EventNames.h"
 #include "teskara/element/TeskScreen.h"
+#include "tests/fuzz/EventHost.h"
 
 #include <set>
 
 namespace {
 
-// What any kind may read; kinds pass over what is not theirs. A change runs the script of OnMouseMove.
+// What any kind may read; kinds pass over what is not theirs.
 constexpr char Values[] =
     "<BackgroundColor>ff101010</BackgroundColor><Border>2</Border><BorderColor>ffffffff</BorderColor>"
     "<Text>a ${x} b</Text><Wrap>1</Wrap><AutoTooltip>${hint}</AutoTooltip><Command>c</Command>"
     "<CommandChecked>d</CommandChecked><Console>e</Console><Data>${n}</Data><Group>g</Group>"
-    "<Range>50</Range><VariableRange>2</VariableRange><Offset>0.5</Offset><OnChange>8</OnChange>"
+    "<Range>50</Range><VariableRange>2</VariableRange><Offset>0.5</Offset>"
     "<HandleTexture Filename='#fill'/><TopTexture Filename='#fill'/>"
     "<Filler><Width>60</Width><Height>50%</Height><Repeat>3</Repeat><Texture Filename='#fill'><right>9</right>"
-    "</Texture></Filler><Slider><Width>20</Width><Height>60</Height><Range>50</Range><OnChange>8</OnChange></Slider>"
+    "</Texture></Filler><Slider><Width>20</Width><Height>60</Height><Range>50</Range><OnChange>0</OnChange></Slider>"
     "<UpButton><X>30</X><Width>20</Width><Height>20</Height></UpButton>"
     "<DownButton><X>30</X><Y>30</Y><Width>20</Width><Height>20</Height></DownButton>"
     "<StorePosition>1</StorePosition><FadeDuration>40</FadeDuration><FadeAlpha>0.5</FadeAlpha>";
@@ -35,8 +36,8 @@ std::string Place(int x, int y, int width, int height)
 std::string TemplateMarkup()
 {
     std::string events;
-    int number = 0;
-    for (const char* event : EventNames)
+    int number = EventHost::FirstEvent;
+    for (const char* event : EventNames())
         events += Tag(event, std::to_string(number++));
     return std::string("<Template name='all'>") + Values + events + "</Template>";
 }

@@ -19,9 +19,10 @@ def names(file, pattern):
 ROW = r'^    \{"([a-z ]+)",'
 STEPS = names("events.cpp", re.compile(ROW, re.MULTILINE))
 ACTS = names("HostileActs.cpp", re.compile(ROW, re.MULTILINE))
-PLACES = names("EventScene.h", r'"(On[A-Za-z]+)"')
-PLACES |= {name: len(PLACES) + number for name, number in
-           names("ChaosHost.h", re.compile(r"^    ([A-Z][A-Za-z]+),$", re.MULTILINE)).items()}
+PLACES = names("ChaosHost.h", re.compile(r"^    ([A-Z][A-Za-z]+),$", re.MULTILINE))
+FIRST_EVENT = PLACES.pop("Count")
+PLACES |= {name: FIRST_EVENT + number for name, number in
+           names("../../teskara/element/TeskElementMarkup.cpp", r'\{"(On[A-Za-z]+)", +Markup::Event').items()}
 
 OVER_FIRST = 0x11  # where the first element of the scene lies
 OVER_SECOND = 0x13

@@ -146,6 +146,17 @@ TEST(HostedEventsDeathTest, AFailingScriptEndsWithOneLine)
     });
 }
 
+TEST(HostedEventsDeathTest, AFailingScriptIsNamedAfterTheEventOfItsControl)
+{
+    WithInterface([](HostedInterface& ui) {
+        ui.Load("<slider name=\"Main\"><Width>100</Width><Height>100</Height><Range>9</Range>"
+                "<OnChange>local nothing; nothing.x = 1</OnChange></slider>");
+        ui.Click(50, 5);
+        EXPECT_EQ(
+            "test.xml: slider \"Main\" OnChange: 1: attempt to index a nil value (local 'nothing')\n", ui.Lines());
+    });
+}
+
 TEST(HostedEventsDeathTest, AScriptThatDoesNotCompileEndsWithOneLine)
 {
     WithInterface([](HostedInterface& ui) {

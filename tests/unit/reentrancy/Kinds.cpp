@@ -38,7 +38,7 @@ constexpr char GaugeMarkup[] =
     "<Filler><X>30</X><Width>10</Width><Height>100%</Height><Repeat>3</Repeat><Texture Filename='#c'><right>9</right>"
     "</Texture></Filler>";
 constexpr char SliderMarkup[] = "<Texture Filename='#a'/><HandleTexture Filename='#b'/><Range>100</Range>"
-                                "<OnChange>OnChange</OnChange><Data>number</Data><VariableRange>1</VariableRange>";
+                                "<Data>number</Data><VariableRange>1</VariableRange>";
 constexpr char ScrollBarMarkup[] = "<Range>100</Range><Slider><X>20</X><Width>10</Width><Height>50</Height><Vertical/>"
                                    "<Range>100</Range><OnChange>OnChange</OnChange></Slider>";
 

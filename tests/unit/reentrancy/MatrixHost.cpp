@@ -1,5 +1,6 @@
 #include "tests/unit/reentrancy/MatrixHost.h"
 
+#include "teskara/element/EventNames.h"
 #include "tests/unit/reentrancy/Bomb.h"
 #include "tests/unit/reentrancy/Scene.h"
 
@@ -20,9 +21,9 @@ MatrixHost::MatrixHost()
 {
     Recorded = 0;
     NamesKeys = true;
-    for (const char* place : {TooltipPlace, ChildPlace, "OnChange"})
+    for (const char* place : {TooltipPlace, ChildPlace})
         Scripts[place] = [place](TeskElement&) { g_Bomb.Reach(place); };
-    for (const char* event : EventNames)
+    for (const char* event : EventNames())
         Scripts[event] = [event](TeskElement&) { g_Bomb.Reach(event); };
 }
 

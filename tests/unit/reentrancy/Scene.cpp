@@ -1,6 +1,7 @@
 #include "tests/unit/reentrancy/Scene.h"
 
 #include "teskara/core/CUIManager.h"
+#include "teskara/element/EventNames.h"
 #include "teskara/script/MvTypeDefinition.h"
 #include "tests/unit/reentrancy/Bomb.h"
 #include "tests/unit/reentrancy/Kinds.h"
@@ -74,7 +75,7 @@ TeskElement* Self()
 std::string SceneMarkup(const Kind& kind)
 {
     std::string look = "<Template name='Look'><Width>50</Width><StorePosition>1</StorePosition>";
-    for (const char* event : EventNames)
+    for (const char* event : EventNames())
         look += std::string("<") + event + ">" + event + "</" + event + ">";
     look += std::string(ScrollBarButtons) + "</Template><Template name='Deep'/>";
 

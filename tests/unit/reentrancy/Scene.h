@@ -24,10 +24,6 @@ constexpr char TooltipPlace[] = "OnRender of the tooltip";
 constexpr char ChildPlace[] = "OnRender of the child";
 constexpr char BrokenScript[] = "broken";
 
-constexpr const char* EventNames[] = {"OnLoad", "OnUnload", "OnLeftClick", "OnRightClick", "OnDoubleLeftClick",
-    "OnDoubleRightClick", "OnMouseEnter", "OnMouseExit", "OnMouseMove", "OnMouseWheel", "OnKeyboardEnter",
-    "OnKeyboardExit", "OnKeyUp", "OnKeyDown", "OnLeftDown", "OnRightDown", "OnRender"};
-
 // Null once it is gone.
 TeskElement* Self();
 
