@@ -83,6 +83,22 @@ void PushText(lua_State* thread, std::string_view text)
     lua_pushlstring(thread, text.data(), text.size());
 }
 
+// A slider writes its value with six decimals: here they are told from texts that look like numbers, like 1.50.
+std::string_view WithoutPadding(std::string_view text)
+{
+    constexpr std::size_t Decimals = 6;
+    const std::size_t point = text.find('.');
+    if (point == 0 || point == std::string_view::npos || text.size() - point - 1 != Decimals)
+        return text;
+    if (text.find_first_not_of("0123456789", point + 1) != std::string_view::npos)
+        return text;
+
+    text.remove_suffix(text.size() - text.find_last_not_of('0') - 1);
+    if (text.back() == '.')
+        text.remove_suffix(1);
+    return text;
+}
+
 } // namespace
 
 void ScriptValues::Push(lua_State* thread, const _MvTypeVar& value) const
@@ -126,6 +142,7 @@ void ScriptValues::Push(lua_State* thread, const _MvTypeVar& value) const
 
 void ScriptValues::PushVariable(lua_State* thread, std::string_view text)
 {
+    text = WithoutPadding(text);
     const char* end = text.data() + text.size();
     NumberText again;
     lua_Integer integer = 0;

@@ -21,7 +21,7 @@ public:
     // Pushes what a typed value is for scripts; nil if it is none. A float has the fewest digits that stand for it.
     void Push(lua_State* thread, const _MvTypeVar& value) const;
 
-    // Pushes the number or the truth value that reads as the text, else the text.
+    // Pushes the number or the truth value that reads as the text, else the text. Six decimals are a number's.
     static void PushVariable(lua_State* thread, std::string_view text);
 
     // Pushes an argument as the type asks that is written in an atom's list of parameters.

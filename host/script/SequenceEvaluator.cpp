@@ -17,6 +17,11 @@ constexpr std::size_t MostArguments = 32;
 constexpr std::string_view NoValue = "NULL";
 constexpr std::string_view ExpressionName = "expression";
 
+bool IsSet(const SequenceStep& step)
+{
+    return step.StepKind == SequenceStep::Kind::Method && step.Name == "Set";
+}
+
 // The arguments of a step as texts for the toolkit.
 class StepArguments
 {
@@ -184,12 +189,16 @@ SequenceEvaluator::Place SequenceEvaluator::EvaluatePath(
 {
     const std::vector<SequenceStep>& path = part.Path;
     const bool isVariable = path[0].Arguments.empty() && !m_In.Objects.Find(path[0].Name);
-    if (path.size() == 2 && isVariable && path[1].StepKind == SequenceStep::Kind::Method && path[1].Name == "Set")
+    const bool isSetting = isVariable && path.size() > 1 && IsSet(path.back());
+    if (isSetting && path.size() == 2)
         return SetVariable(sequence, part);
 
     Place place = Start(sequence, part, frame);
-    for (std::size_t index = 1; index < path.size() && place != Place::Nowhere; ++index)
+    for (std::size_t index = 1; index < path.size() && place != Place::Nowhere; ++index) {
+        if (isSetting && index + 2 == path.size() && place == Place::Stack && lua_istable(frame.Thread, -1))
+            return SetField(sequence, part, frame);
         place = TakeStep(path[index], frame, place);
+    }
     return place;
 }
 
@@ -231,6 +240,34 @@ SequenceEvaluator::Place SequenceEvaluator::SetVariable(const Sequence& sequence
         lua_settop(thread, 1);
     });
     if (isSet)
+        return Place::Stack;
+    SayError(sequence, part);
+    return Place::Nowhere;
+}
+
+// Sets a field of the table on top of the stack: the last two steps are its name and what it becomes.
+SequenceEvaluator::Place SequenceEvaluator::SetField(
+    const Sequence& sequence, const SequencePart& part, const Frame& frame)
+{
+    const SequenceStep& field = part.Path[part.Path.size() - 2];
+    StepArguments arguments;
+    if (field.StepKind != SequenceStep::Kind::Member || !field.Arguments.empty()
+        || !arguments.Read(*this, part.Path.back()) || arguments.Count() == 0)
+        return Place::Nowhere;
+
+    lua_pushcfunction(frame.Thread, [](lua_State* thread) {
+        lua_pushstring(thread, static_cast<const char*>(lua_touserdata(thread, 2)));
+        ScriptValues::PushVariable(thread, static_cast<const char*>(lua_touserdata(thread, 3)));
+        lua_pushvalue(thread, -1);
+        lua_replace(thread, 2);
+        lua_settable(thread, 1);
+        lua_settop(thread, 2);
+        return 1;
+    });
+    lua_insert(frame.Thread, -2);
+    lua_pushlightuserdata(frame.Thread, const_cast<char*>(field.Name.c_str()));
+    lua_pushlightuserdata(frame.Thread, const_cast<char*>(arguments.Texts()[0]));
+    if (m_In.State.Call(3, 1))
         return Place::Stack;
     SayError(sequence, part);
     return Place::Nowhere;

@@ -80,6 +80,7 @@ private:
     Place EvaluatePath(const Sequence& sequence, const SequencePart& part, const Frame& frame);
     Place Start(const Sequence& sequence, const SequencePart& part, const Frame& frame);
     Place SetVariable(const Sequence& sequence, const SequencePart& part);
+    Place SetField(const Sequence& sequence, const SequencePart& part, const Frame& frame);
     Place CallFunction(const Sequence& sequence, const SequencePart& part, const Frame& frame);
     Place TakeStep(const SequenceStep& step, const Frame& frame, Place place);
     Place ReadField(const SequenceStep& step, const Frame& frame);

@@ -87,6 +87,12 @@ TEST(HostedSequencesDeathTest, SetVariables)
             {"-5", "integer", "-5"},
             {"007", "string", "007"},
             {"1.50", "string", "1.50"},
+            {"1.500000", "float", "1.5"},
+            {"3.000000", "integer", "3"},
+            {"-0.250000", "float", "-0.25"},
+            {"1.2.345678", "string", "1.2.345678"},
+            {".500000", "string", ".500000"},
+            {"1.500000x", "string", "1.500000x"},
             {"1e3", "string", "1e3"},
             {"TRUE", "boolean", "TRUE"},
             {"true", "string", "true"},
@@ -106,6 +112,25 @@ TEST(HostedSequencesDeathTest, SetVariables)
         EXPECT_EQ("", ui.Lines());
         EXPECT_EQ("NULL", ui.Expand("${print:Set[7]}"));
         EXPECT_EQ("${print:Set[7]}: 'print' belongs to the host and cannot be assigned\n", ui.Lines());
+    });
+}
+
+TEST(HostedSequencesDeathTest, SetAFieldOfATable)
+{
+    WithInterface([](HostedInterface& ui) {
+        ui.Run("Mix = {Low = {Level = 1}}");
+        EXPECT_EQ("0.5", ui.Expand("${Mix.Low.Level:Set[0.500000]}"));
+        EXPECT_EQ("0.5", ui.Run("Result = Mix.Low.Level"));
+        EXPECT_EQ("a b", ui.Expand("${Mix.Name:Set[a b]}"));
+        EXPECT_EQ("a b", ui.Run("Result = Mix.Name"));
+
+        EXPECT_EQ("NULL", ui.Expand("${Mix.Low.Level:Set}"));
+        EXPECT_EQ("NULL", ui.Expand("${Mix.High.Level:Set[1]}"));
+        EXPECT_EQ("NULL", ui.Expand("${Mix.Name.Level:Set[1]}"));
+        EXPECT_EQ("NULL", ui.Expand("${Mix:Name:Set[1]}"));
+        EXPECT_EQ("", ui.Lines());
+        EXPECT_EQ("NULL", ui.Expand("${math.pi:Set[3]}"));
+        EXPECT_EQ("FALSE", ui.Run("Result = math.pi == 3"));
     });
 }
 
