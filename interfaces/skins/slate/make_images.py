@@ -153,6 +153,82 @@ def glow():
     draw("glow.png", size, size, color_at)
 
 
+def rim():
+    """The edge of a gauge, to lie over its bar: it takes the bar's corners off."""
+    size, radius = 16, 5
+
+    def color_at(x, y):
+        distance = rounded(x, y, 0, 0, size, size, radius)
+        return (*CARD_EDGE, 1 if -2 < distance <= 0 else 0)
+
+    draw("rim.png", size, size, color_at)
+
+
+def bar(name, left, right):
+    """What fills a gauge: brighter toward its end and along its upper edge."""
+    width, height = 96, 12
+
+    def color_at(x, y):
+        color = mix(left, right, x / width)
+        return (*mix(color, WHITE, 0.22 * max(0, 1 - y / 5)), 1)
+
+    draw(name, width, height, color_at)
+
+
+def segment_of_bar(name, width, height, left, top, right, bottom):
+    """One of the steps of a gauge that repeats its filler: white, to be tinted by a colour mask."""
+
+    def color_at(x, y):
+        return (*WHITE, 1 if rounded(x, y, left, top, right, bottom, 1) <= 0 else 0)
+
+    draw(name, width, height, color_at)
+
+
+def groove(name, width, height):
+    """The track of a slider: a groove along the middle of its longer side."""
+    middle_x, middle_y, half = width / 2, height / 2, 2
+
+    def color_at(x, y):
+        if width > height:
+            distance = rounded(x, y, 0, middle_y - half, width, middle_y + half, half)
+        else:
+            distance = rounded(x, y, middle_x - half, 0, middle_x + half, height, half)
+        return (*(mix(INSET_EDGE, WHITE, 0.14) if distance > -1 else INSET), 1 if distance <= 0 else 0)
+
+    draw(name, width, height, color_at)
+
+
+def handle(name, width, height, top, bottom):
+    """What is dragged along the track of a slider."""
+
+    def color_at(x, y):
+        distance = rounded(x, y, 0, 0, width, height, 2)
+        return (*mix(top, bottom, y / height), 1 if distance <= 0 else 0)
+
+    draw(name, width, height, color_at)
+
+
+def arrow(name, size, direction, color, plate=None):
+    """A small head of an arrow: up, down, left or right; on a plate of that colour, or on none."""
+    low, high, middle = size * 0.40, size * 0.60, size / 2
+    reach = size * 0.19
+    ends = {
+        "up": ((middle - reach, high), (middle, low), (middle + reach, high)),
+        "down": ((middle - reach, low), (middle, high), (middle + reach, low)),
+        "left": ((high, middle - reach), (low, middle), (high, middle + reach)),
+        "right": ((low, middle - reach), (high, middle), (low, middle + reach)),
+    }[direction]
+
+    def color_at(x, y):
+        if min(segment(x, y, *ends[0], *ends[1]), segment(x, y, *ends[1], *ends[2])) < 0.9:
+            return (*color, 1)
+        if plate and rounded(x, y, 1, 1, size - 1, size - 1, 3) <= 0:
+            return (*plate, 1)
+        return (*color, 0)
+
+    draw(name, size, size, color_at)
+
+
 def tile():
     """A white tile, to be tinted by a colour mask."""
 
@@ -221,3 +297,24 @@ check_box("checked_pressed.png", (52, 104, 204), (92, 162, 250), WHITE)
 
 panel("tooltip.png", 24, 6, (46, 56, 72), (88, 104, 130), sheen=0.15)
 panel("hud.png", 24, 8, (9, 12, 17), (70, 84, 106), fill_alpha=0.72, edge_alpha=0.8)
+
+rim()
+bar("bar.png", (64, 124, 232), (110, 184, 255))
+bar("bar_green.png", (44, 148, 108), (104, 220, 162))
+bar("bar_amber.png", (206, 126, 44), (255, 198, 104))
+bar("bar_red.png", (186, 58, 66), (248, 112, 108))
+segment_of_bar("segment.png", 10, 12, 1, 0, 9, 12)
+segment_of_bar("step.png", 12, 8, 0, 1, 12, 7)
+
+groove("groove.png", 48, 18)
+groove("groove_vertical.png", 18, 48)
+handle("handle.png", 5, 14, (170, 206, 250), (110, 168, 246))
+handle("handle_vertical.png", 14, 5, (170, 206, 250), (110, 168, 246))
+
+panel("list.png", 20, 4, INSET, INSET_EDGE)
+QUIET, LIT = (141, 153, 171), (214, 226, 242)
+for direction in ("up", "down", "left", "right"):
+    arrow(f"{direction}.png", 16, direction, QUIET)
+    arrow(f"{direction}_hover.png", 16, direction, LIT, PLATE)
+    arrow(f"{direction}_pressed.png", 16, direction, ACCENT, (33, 41, 54))
+arrow("drop.png", 28, "down", LIT)
