@@ -15,7 +15,7 @@
 std::size_t CopyBounded(char* to, std::size_t size, std::string_view from);
 
 // Formats into a buffer of size bytes: cut to what fits, always terminated. The format is a literal that uses only
-// %s, %d, %u and %%; texts that come from outside are arguments, never the format. Returns the number of bytes
+// %s, %d, %u, %X and %%; texts that come from outside are arguments, never the format. Returns the number of bytes
 // written, without the terminator.
 std::size_t FormatBounded(char* to, std::size_t size, const char* format, ...) TESKARA_PRINTF_LIKE(3, 4);
 

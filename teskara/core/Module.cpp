@@ -22,6 +22,7 @@
 #include "teskara/core/HostCalls.h"
 #include "teskara/core/platform/Platform.h"
 #include "teskara/element/TeskElementFactory.h"
+#include "teskara/windows/TeskContextMenu.h"
 
 CUIManager g_UIManager;
 
@@ -54,7 +55,7 @@ TeskFactory<TeskCommandButton> g_CommandButton("commandbutton");
 TeskFactory<TeskCommandCheckBox> g_CommandCheckBox("commandcheckbox");
 PendingFactory g_CommandEntry("commandentry");
 PendingFactory g_Console("console");
-PendingFactory g_ContextMenu("contextmenu");
+TeskFactory<TeskContextMenu> g_ContextMenu("contextmenu");
 TeskFactory<TeskFrame> g_Frame("frame");
 TeskFactory<TeskGauge> g_Gauge("gauge");
 TeskFactory<TeskGaugeFiller> g_GaugeFiller("gaugefiller");
