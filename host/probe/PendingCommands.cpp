@@ -10,10 +10,6 @@ void NotYet(ProbeSession&, const CommandCall& call)
 }
 
 constexpr ProbeCommand Commands[] = {
-    {"menu", "NAME <<", 0, AnyNumber, CommandForm::Words, NotYet},
-    {"menu-open", "NAME X Y", 0, AnyNumber, CommandForm::Words, NotYet},
-    {"menu-close", "NAME [up]", 0, AnyNumber, CommandForm::Words, NotYet},
-    {"menu-check", "NAME ID [on|off]", 0, AnyNumber, CommandForm::Words, NotYet},
     {"blip", "MAP add|update|label|size|remove|clear ...", 0, AnyNumber, CommandForm::Words, NotYet},
     {"index", "NAME TYPE [SUBTYPE]", 0, AnyNumber, CommandForm::Words, NotYet},
     {"index-add", "NAME VALUE...", 0, AnyNumber, CommandForm::Words, NotYet},

@@ -31,4 +31,5 @@ std::span<const ProbeCommand> DrawingCommands();
 std::span<const ProbeCommand> MarkupCommands();
 std::span<const ProbeCommand> InputCommands();
 std::span<const ProbeCommand> ScriptCommands();
+std::span<const ProbeCommand> MenuCommands();
 std::span<const ProbeCommand> PendingCommands();

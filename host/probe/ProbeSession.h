@@ -7,6 +7,7 @@
 #include "host/probe/ProbeDrawing.h"
 #include "host/probe/ProbeFactories.h"
 #include "host/probe/ProbeFiles.h"
+#include "host/probe/ProbeMenus.h"
 #include "host/probe/ProbeOutput.h"
 #include "host/probe/ProbePlatform.h"
 #include "host/probe/ProbePositions.h"
@@ -67,6 +68,7 @@ public:
     ProbeScripts Scripts;
     ProbePositions Positions;
     ProbeFactories Factories;
+    ProbeMenu::Menus Menus;
     RecordingHost Host;
 
 private:
