@@ -41,7 +41,7 @@ bool TeskComboBox::FromXML(XMLNode* node, XMLNode* templateNode)
 
     ClosedHeight = Height;
     const MarkupSource source(node, templateNode);
-    if (!ReadMarkup(*this, ComboValues, source) || !LoadList(source))
+    if (!ReadMarkup<ComboValues>(*this, source) || !LoadList(source))
         return false;
 
     const ElementWatch self(*this);

@@ -49,7 +49,7 @@ bool TeskListBox::FromXML(XMLNode* node, XMLNode* templateNode)
 {
     templateNode = TemplateFor(node, templateNode, Kind);
     const MarkupSource source(node, templateNode);
-    if (!TeskElement::FromXML(node, templateNode) || !ReadMarkup(*this, ListValues, source) || !Font)
+    if (!TeskElement::FromXML(node, templateNode) || !ReadMarkup<ListValues>(*this, source) || !Font)
         return false;
 
     TextColor = Font->Color;
@@ -61,7 +61,7 @@ bool TeskListBox::FromXML(XMLNode* node, XMLNode* templateNode)
     ScrollBar = bar;
     ScrollBar->Range = 1;
     ScrollBar->RecalculateSize(true);
-    if (!self.Exists() || !ReadMarkup(*this, ListTexture, source))
+    if (!self.Exists() || !ReadMarkup<ListTexture>(*this, source))
         return false;
 
     MaskTextures(source, {Texture.get()});

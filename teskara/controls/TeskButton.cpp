@@ -39,7 +39,7 @@ bool TeskButton::FromXML(XMLNode* node, XMLNode* templateNode)
         return false;
 
     const MarkupSource source(node, templateNode);
-    if (!ReadMarkup(*this, ButtonValues, source) || !ReadMarkup(*this, ButtonTextures, source))
+    if (!ReadMarkup<ButtonValues>(*this, source) || !ReadMarkup<ButtonTextures>(*this, source))
         return false;
 
     MaskTextures(source, {Texture.get(), TexturePressed.get(), TextureHover.get()});
@@ -69,7 +69,7 @@ void TeskButton::Create(const _CreateButton& record, XMLNode* templateNode)
     BackgroundColor = record.BackgroundColor ? record.BackgroundColor : source.Hex("BackgroundColor", 0);
     Font.reset(TeskFont::New(this, record.Font, templateNode));
     if (record.TexturesFromTemplate)
-        ReadMarkup(*this, ButtonTextures, source);
+        ReadMarkup<ButtonTextures>(*this, source);
 }
 
 void TeskButton::Render()

@@ -49,7 +49,7 @@ bool TeskCheckBox::FromXML(XMLNode* node, XMLNode* templateNode)
         return false;
 
     const MarkupSource source(node, templateNode);
-    if (!ReadMarkup(*this, CheckBoxValues, source))
+    if (!ReadMarkup<CheckBoxValues>(*this, source))
         return false;
 
     MaskTextures(source,

@@ -24,7 +24,7 @@ bool TeskCommandButton::FromXML(XMLNode* node, XMLNode* templateNode)
     if (!TeskButton::FromXML(node, templateNode))
         return false;
 
-    return ReadMarkup(*this, CommandButtonValues, {node, templateNode});
+    return ReadMarkup<CommandButtonValues>(*this, {node, templateNode});
 }
 
 bool TeskCommandButton::IsTypeOf(const char* word)

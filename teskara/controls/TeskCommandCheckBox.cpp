@@ -28,7 +28,7 @@ bool TeskCommandCheckBox::FromXML(XMLNode* node, XMLNode* templateNode)
     if (!TeskCheckBox::FromXML(node, templateNode))
         return false;
 
-    return ReadMarkup(*this, CommandCheckBoxValues, {node, templateNode});
+    return ReadMarkup<CommandCheckBoxValues>(*this, {node, templateNode});
 }
 
 bool TeskCommandCheckBox::IsTypeOf(const char* word)

@@ -27,7 +27,7 @@ bool TeskFrame::FromXML(XMLNode* node, XMLNode* templateNode)
     if (!TeskElement::FromXML(node, templateNode))
         return false;
 
-    return ReadMarkup(*this, FrameValues, {node, templateNode});
+    return ReadMarkup<FrameValues>(*this, {node, templateNode});
 }
 
 bool TeskFrame::IsTypeOf(const char* word)

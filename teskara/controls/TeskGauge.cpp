@@ -35,7 +35,7 @@ bool TeskGauge::FromXML(XMLNode* node, XMLNode* templateNode)
 {
     templateNode = TemplateFor(node, templateNode, Kind);
     const MarkupSource source(node, templateNode);
-    if (!TeskFrame::FromXML(node, templateNode) || !ReadMarkup(*this, GaugeValues, source))
+    if (!TeskFrame::FromXML(node, templateNode) || !ReadMarkup<GaugeValues>(*this, source))
         return false;
 
     MaskTextures(source, {Texture.get(), TopTexture.get()});

@@ -131,7 +131,7 @@ bool TeskGaugeFiller::FromXML(XMLNode* node)
         Y = WrapAdd(Y, border);
 
     const MarkupSource source(node, templateNode);
-    if (!ReadMarkup(*this, FillerValues, source))
+    if (!ReadMarkup<FillerValues>(*this, source))
         return false;
 
     MaskTextures(source, {Texture.get()});

@@ -41,7 +41,7 @@ constexpr MarkupValue<TeskHudElement> HudValues[] = {
 bool TeskHudElement::FromXML(XMLNode* node, XMLNode* templateNode)
 {
     templateNode = TemplateFor(node, templateNode, Kind);
-    if (!TeskElement::FromXML(node, templateNode) || !ReadMarkup(*this, HudValues, {node, templateNode}))
+    if (!TeskElement::FromXML(node, templateNode) || !ReadMarkup<HudValues>(*this, {node, templateNode}))
         return false;
 
     if (Height == 0 && Font)

@@ -107,7 +107,7 @@ bool TeskScrollBar::FromXML(XMLNode* node, XMLNode* templateNode)
 {
     templateNode = TemplateFor(node, templateNode, Kind);
     const MarkupSource source(node, templateNode);
-    if (!TeskElement::FromXML(node, templateNode) || !ReadMarkup(*this, ScrollBarValues, source))
+    if (!TeskElement::FromXML(node, templateNode) || !ReadMarkup<ScrollBarValues>(*this, source))
         return false;
 
     XMLNode* up = XMLHelper::GetChild(templateNode, UpTags.Element);

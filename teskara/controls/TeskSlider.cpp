@@ -4,7 +4,7 @@
 #include "teskara/controls/SliderTrack.h"
 #include "teskara/core/AsciiCase.h"
 #include "teskara/core/BoundedText.h"
-#include "teskara/element/EventTable.h"
+#include "teskara/element/MarkupTable.h"
 #include "teskara/script/TypeGlobals.h"
 
 #include <algorithm>
@@ -36,8 +36,6 @@ constexpr MarkupValue<TeskSlider> SliderScripts[] = {
 };
 // clang-format on
 
-const EventTable Events(SliderScripts);
-
 } // namespace
 
 TeskSlider::TeskSlider(const char* type, TeskElement* parent, const char* name) : TeskElement(type, parent, name)
@@ -52,8 +50,8 @@ bool TeskSlider::FromXML(XMLNode* node, XMLNode* templateNode)
         return false;
 
     const MarkupSource source(node, templateNode);
-    if (!ReadMarkup(*this, SliderValues, source) || !ReadMarkup(*this, SliderTextures, source)
-        || !ReadMarkup(*this, SliderScripts, source))
+    if (!ReadMarkup<SliderValues>(*this, source) || !ReadMarkup<SliderTextures>(*this, source)
+        || !ReadMarkup<SliderScripts>(*this, source))
         return false;
 
     MaskTextures(source, {Texture.get(), HandleTexture.get()});
@@ -79,7 +77,7 @@ void TeskSlider::Create(const _CreateSlider& record, XMLNode* templateNode)
     Range = record.Range;
     Vertical = record.Vertical;
     if (record.TexturesFromTemplate)
-        ReadMarkup(*this, SliderTextures, {nullptr, templateNode});
+        ReadMarkup<SliderTextures>(*this, {nullptr, templateNode});
 }
 
 // Across the track the handle is as wide as the slider, also a horizontal one until it is drawn.

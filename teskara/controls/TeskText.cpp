@@ -80,7 +80,7 @@ u64 SplitByFixedFont(char* text, u64 width, TeskFont& font, u64* maxWidth)
 bool TeskText::FromXML(XMLNode* node, XMLNode* templateNode)
 {
     templateNode = TemplateFor(node, templateNode, Kind);
-    if (!TeskElement::FromXML(node, templateNode) || !ReadMarkup(*this, TextValues, {node, templateNode}))
+    if (!TeskElement::FromXML(node, templateNode) || !ReadMarkup<TextValues>(*this, {node, templateNode}))
         return false;
 
     TextChanged();

@@ -34,7 +34,7 @@ TeskTooltip::~TeskTooltip()
 bool TeskTooltip::FromXML(XMLNode* node, XMLNode* templateNode)
 {
     templateNode = TemplateFor(node, templateNode, Kind);
-    if (!TeskFrame::FromXML(node, templateNode) || !ReadMarkup(*this, TooltipValues, {node, templateNode}))
+    if (!TeskFrame::FromXML(node, templateNode) || !ReadMarkup<TooltipValues>(*this, {node, templateNode}))
         return false;
 
     Visible = false;

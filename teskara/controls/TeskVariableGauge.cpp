@@ -25,7 +25,7 @@ bool TeskVariableGauge::FromXML(XMLNode* node, XMLNode* templateNode)
     if (!TeskGauge::FromXML(node, templateNode))
         return false;
 
-    return ReadMarkup(*this, VariableGaugeValues, {node, templateNode});
+    return ReadMarkup<VariableGaugeValues>(*this, {node, templateNode});
 }
 
 bool TeskVariableGauge::IsTypeOf(const char* word)

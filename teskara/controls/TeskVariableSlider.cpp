@@ -48,7 +48,7 @@ bool TeskVariableSlider::FromXML(XMLNode* node, XMLNode* templateNode)
     if (!TeskSlider::FromXML(node, templateNode))
         return false;
 
-    return ReadMarkup(*this, VariableSliderValues, {node, templateNode});
+    return ReadMarkup<VariableSliderValues>(*this, {node, templateNode});
 }
 
 bool TeskVariableSlider::IsTypeOf(const char* word)

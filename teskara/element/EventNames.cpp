@@ -1,6 +1,6 @@
 #include "teskara/element/EventNames.h"
 
-#include "teskara/element/EventTable.h"
+#include "teskara/element/EventRows.h"
 
 #include <set>
 #include <string_view>

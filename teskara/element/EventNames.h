@@ -7,8 +7,8 @@
 
 class TeskElement;
 
-// Events are scripts that markup gives to elements, under a tag for what happens. EventTable.h tells where they are
-// listed.
+// Events are scripts that markup gives to elements, under a tag for what happens. They are listed nowhere else than in
+// the tables by which controls read their markup: a row with the form Markup::Script adds one.
 
 // The event of an element whose script is the atom. Null: the atom is none of its events.
 TESKARA_EXPORT const char* NameOfEvent(const TeskElement& element, u32 atom);

@@ -3,12 +3,16 @@
 #include "teskara/core/AsciiCase.h"
 #include "teskara/core/Types.h"
 #include "teskara/element/ElementWatch.h"
+#include "teskara/element/EventRows.h"
 #include "teskara/element/TeskElement.h"
 #include "teskara/markup/MarkupSource.h"
 
 #include <cstddef>
+#include <span>
 #include <string_view>
+#include <type_traits>
 #include <utility>
+#include <vector>
 
 // The values that a control reads from markup, as a constant table in the order of reading:
 //
@@ -17,10 +21,11 @@
 //         {"Texture", Markup::Texture<&TeskFrame::Texture>, {}},
 //     };
 //
-//     return ReadMarkup(*this, FrameValues, {node, templateNode});
+//     return ReadMarkup<FrameValues>(*this, {node, templateNode});
 //
 // The columns are kept by hand, so a table stands between the marks that keep the formatter away. A value that depends
-// on one just read is a row with a form of its own: {"name", lambda}.
+// on one just read is a row with a form of its own: {"name", lambda}. An event is a row like others, and known to
+// EventNames.h as soon as some code reads the table.
 
 // What a value is if neither node nor template has it.
 struct MarkupDefault {
@@ -50,13 +55,50 @@ template <class Owner> struct MarkupValue {
     MarkupDefault Default;
 };
 
-// Reads every value of a table in its order. False: the control was deleted meanwhile, or memory ran out.
-template <class Owner, std::size_t Count>
-bool ReadMarkup(Owner& control, const MarkupValue<Owner> (&values)[Count], const MarkupSource& source)
+// The events of a table.
+template <class Owner> class MarkupEvents final : public EventRows
 {
+public:
+    template <std::size_t Count> explicit MarkupEvents(const MarkupValue<Owner> (&values)[Count]) : m_Values(values) { }
+
+    bool IsOfEveryKind() const override { return std::is_same_v<Owner, TeskElement>; }
+
+    void AppendNames(std::vector<const char*>& names) const override
+    {
+        for (const MarkupValue<Owner>& value : m_Values) {
+            if (value.Form.Script)
+                names.push_back(value.Tag.Text);
+        }
+    }
+
+    const char* NameOf(const TeskElement& element, u32 atom) const override
+    {
+        const auto* owner = dynamic_cast<const Owner*>(&element);
+        if (!owner)
+            return nullptr;
+
+        for (const MarkupValue<Owner>& value : m_Values) {
+            const TeskEmbeddedScript* script = value.Form.Script ? value.Form.Script(*owner).get() : nullptr;
+            if (script && script->Atom == atom)
+                return value.Tag.Text;
+        }
+        return nullptr;
+    }
+
+private:
+    std::span<const MarkupValue<Owner>> m_Values;
+};
+
+// Those of one table, from the start of the program on.
+template <const auto& Values> inline const MarkupEvents EventsOf(Values);
+
+// Reads every value of a table in its order. False: the control was deleted meanwhile, or memory ran out.
+template <const auto& Values, class Control> bool ReadMarkup(Control& control, const MarkupSource& source)
+{
+    static_cast<void>(&EventsOf<Values>);
     const ElementWatch self(control);
     try {
-        for (const MarkupValue<Owner>& value : values) {
+        for (const auto& value : Values) {
             value.Form.Read(control, source, value.Tag, value.Default);
             if (!self.Exists())
                 return false;
@@ -175,8 +217,8 @@ constexpr MarkupForm<OwnerOf<Field>> FixedFont = {
             [&] { return control.FixedFontFromXML(source.Node(), tag.Text, source.Template()); });
     }};
 
-// An event of a control; the default is the list of its script's arguments. The table must be made known, see
-// EventTable.h. A script that does not compile is reported, and the report may end the element.
+// An event of a control; the default is the list of its script's arguments. A script that does not compile is reported,
+// and the report may end the element.
 template <auto Field>
 constexpr MarkupForm<OwnerOf<Field>> Script = {"script",
     [](OwnerOf<Field>& control, const MarkupSource& source, TagName tag, MarkupDefault arguments) {

@@ -1,6 +1,6 @@
 #include "teskara/core/BoundedText.h"
 #include "teskara/core/HostCalls.h"
-#include "teskara/element/EventTable.h"
+#include "teskara/element/MarkupTable.h"
 #include "teskara/element/TeskElement.h"
 
 namespace {
@@ -68,13 +68,11 @@ constexpr MarkupValue<TeskElement> ElementValues[] = {
 };
 // clang-format on
 
-const EventTable Events(ElementValues);
-
 } // namespace
 
 bool TeskElement::FromXML(XMLNode* node, XMLNode* templateNode)
 {
-    if (!ReadMarkup(*this, ElementValues, {node, templateNode}))
+    if (!ReadMarkup<ElementValues>(*this, {node, templateNode}))
         return false;
 
     KeepStart();

@@ -1,7 +1,7 @@
 #include "teskara/element/EventNames.h"
 
 #include "teskara/controls/TeskSlider.h"
-#include "teskara/element/EventTable.h"
+#include "teskara/element/MarkupTable.h"
 #include "tests/unit/ToolkitTest.h"
 
 #include <algorithm>
@@ -74,8 +74,8 @@ TEST_F(EventNamesTest, EventsOfEveryElementComeFirst)
 TEST_F(EventNamesTest, AnExtensionBringsItsEventsAndTakesThemAlong)
 {
     {
-        const EventTable<Singer> events(SingerValues);
-        const EventTable<Singer> again(SingerValues);
+        const MarkupEvents events(SingerValues);
+        const MarkupEvents others(SingerValues);
         EXPECT_TRUE(IsKnown("OnSing"));
         EXPECT_FALSE(IsKnown("Volume"));
         EXPECT_EQ(nullptr, NameOfEvent(Element("Plain"), 1000));

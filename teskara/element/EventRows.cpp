@@ -1,4 +1,4 @@
-#include "teskara/element/EventTable.h"
+#include "teskara/element/EventRows.h"
 
 constinit const EventRows* EventRows::g_First = nullptr;
 
@@ -7,7 +7,7 @@ EventRows::EventRows() : m_Next(g_First)
     g_First = this;
 }
 
-// The tables of an extension end with it, before others that came earlier.
+// Modules may end in any order.
 EventRows::~EventRows()
 {
     const EventRows** link = &g_First;
