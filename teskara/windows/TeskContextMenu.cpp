@@ -76,7 +76,7 @@ bool TeskContextMenu::Load(CContextMenuHandler& handler, XMLNode* templateNode)
         return false;
 
     const MarkupReading reading;
-    return TeskFrame::FromXML(templateNode, nullptr) && ReadMarkup(*this, MenuValues, {templateNode, nullptr});
+    return TeskFrame::FromXML(templateNode, nullptr) && ReadMarkup<MenuValues>(*this, {templateNode, nullptr});
 }
 
 void TeskContextMenu::Append(std::unique_ptr<TeskContextMenuNode> node)
