@@ -70,6 +70,16 @@ constexpr TypeNames AllNames[] = {
         "Text Down Checked Font Texture TexturePressed TextureHover TextureChecked TextureCheckedPressed "
         "TextureCheckedHover",
         "SetText SetChecked UnsetChecked ToggleChecked"},
+    {"tesklistbox", 0,
+        "Font TextColor BackgroundColor Border BorderColor SelectionColor SortType SelectMultiple AutoSort Item Items "
+        "OrderedItem ItemByText ItemByValue SelectedItem SelectedItems Texture",
+        "SetTextColor SetBackgroundColor SetBorderColor SetSelectionColor SetSortType SetSelectMultiple SetAutoSort "
+        "DeselectItem SelectItem ItemToggleSelect ClearSelection AddItem RemoveItem ClearItems SetItemText "
+        "SetItemColor "
+        "Sort"},
+    {"tesklistboxitem", 0, "TextColor ID Value Order Text",
+        "SetText SetTextColor SetValue Select Deselect Toggle Remove"},
+    {"teskcombobox", 0, "Border Font Down Selection Texture ButtonTexture", "SetSelection"},
     {"teskgauge", 0, "Border Vertical Range Value", "SetRange SetValue"},
     {"teskslider", 0, "Border Range Value Vertical Texture HandleTexture", "SetRange SetValue"},
     {"teskscrollbar", 0, "Value Range Vertical", "SetValue RaiseValue LowerValue SetRange"},

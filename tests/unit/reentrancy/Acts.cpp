@@ -43,6 +43,8 @@ void DeleteParts()
     Delete("slider@Self@Parent@Grand");
     Delete("UpButton@Self@Parent@Grand");
     Delete("DownButton@Self@Parent@Grand");
+    Delete("vertical@Self@Parent@Grand");
+    Delete("List@Self@Parent@Grand");
 }
 
 void LoadManyInto(TeskElement* parent)
@@ -130,6 +132,19 @@ constexpr ScriptAct ScriptActs[] = {
     {ScriptAct::This,   nullptr,   "SetRange",      {"3"},                        HasValue},
     {ScriptAct::This,   nullptr,   "SetRange",      {"0"},                        HasValue},
     {ScriptAct::This,   nullptr,   "RaiseValue",    {"2"},                        HasButtons},
+    {ScriptAct::This,   nullptr,   "ClearItems",    {},                           NamesRows},
+    {ScriptAct::This,   nullptr,   "AddItem",       {"more"},                     NamesRows},
+    {ScriptAct::This,   nullptr,   "RemoveItem",    {"1"},                        NamesRows},
+    {ScriptAct::This,   nullptr,   "RemoveItem",    {"2"},                        NamesRows},
+    {ScriptAct::This,   nullptr,   "SelectItem",    {"3"},                        NamesRows},
+    {ScriptAct::This,   nullptr,   "ClearSelection", {},                          NamesRows},
+    {ScriptAct::This,   nullptr,   "Sort",          {"Compare"},                  NamesRows},
+    {ScriptAct::List,   nullptr,   "ClearItems",    {},                           DropsList},
+    {ScriptAct::List,   nullptr,   "RemoveItem",    {"1"},                        DropsList},
+    {ScriptAct::List,   nullptr,   "RemoveItem",    {"4"},                        DropsList},
+    {ScriptAct::List,   nullptr,   "SelectItem",    {"3"},                        DropsList},
+    {ScriptAct::List,   nullptr,   "Destroy",       {},                           DropsList},
+    {ScriptAct::This,   nullptr,   "SetSelection",  {"4"},                        DropsList},
     {ScriptAct::This,   nullptr,   "Print",         {"${more}"},                  SetsLines},
     {ScriptAct::This,   nullptr,   "SetLine",       {"0", "${more}"},             SetsLines},
     {ScriptAct::This,   nullptr,   "Reset",         {},                           SetsLines},
@@ -143,6 +158,8 @@ TeskElement* Find(ScriptAct::Object object)
         return g_UIManager.FindElement("Parent@Grand");
     case ScriptAct::Elder:
         return g_UIManager.FindElement(ElderName);
+    case ScriptAct::List:
+        return g_UIManager.FindElement("List@Self@Parent@Grand");
     default:
         return Self();
     }

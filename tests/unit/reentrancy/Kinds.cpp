@@ -19,6 +19,9 @@ constexpr u64 IsGauge = IsFrame | HasValue;
 constexpr u64 IsSlider = Follows | PassesOn | Sends(4) | RunsOnChange | HasHandle | HasValue | HasTexture;
 constexpr u64 IsVariableSlider = IsSlider | EvaluatesText | ExpandsText;
 constexpr u64 IsScrollBar = Follows | Sends(4) | RunsOnChange | HasButtons | HasValue;
+constexpr u64 IsListBox =
+    Follows | Sends(9) | Sends(12) | Sends(13) | RunsOnSelect | HasRows | NamesRows | HasFont | HasTexture;
+constexpr u64 IsComboBox = Follows | Sends(9) | RunsOnSelect | DropsList | NamesRows | HasFont | HasTexture;
 constexpr u64 IsTooltip = PassesOn | SendsPresses | ExpandsText | SetsLines | HasFont | HasTexture | SetsTexture;
 
 constexpr char FrameMarkup[] = "<Texture Filename='#camera'/><Border>1</Border>";
@@ -42,6 +45,17 @@ constexpr char SliderMarkup[] = "<Texture Filename='#a'/><HandleTexture Filename
 constexpr char ScrollBarMarkup[] = "<Range>100</Range><Slider><X>20</X><Width>10</Width><Height>50</Height><Vertical/>"
                                    "<Range>100</Range><OnChange>OnChange</OnChange></Slider>";
 
+// Three of the five rows show, and the first is selected.
+constexpr char ListBoxMarkup[] =
+    "<Texture Filename='#a'/><Border>1</Border><Sort>User</Sort><OnSelect>OnSelect</OnSelect>"
+    "<OnDeSelect>OnDeSelect</OnDeSelect><ScrollBar><Width>10</Width><Height>100%</Height><Slider><Width>10</Width>"
+    "<Height>100%</Height><Vertical/><OnChange>OnChange</OnChange></Slider></ScrollBar>"
+    "<Items><item Default='1'>a</item><item>b</item><item>c</item><item>d</item><item>e</item></Items>";
+constexpr char ComboBoxMarkup[] =
+    "<Texture Filename='#a'/><FullHeight>90</FullHeight><OnSelect>OnSelect</OnSelect><ListBox><ScrollBar>"
+    "<Width>10</Width><Slider><OnChange>OnChange</OnChange></Slider></ScrollBar></ListBox>"
+    "<Items><item Default='1'>a</item><item>b</item><item>c</item><item>d</item></Items>";
+
 // A tooltip is loaded hidden and without lines.
 void PrepareTooltip()
 {
@@ -63,6 +77,8 @@ constexpr Kind Kinds[] = {
     {"slider",          IsSlider,                              SliderMarkup,    nullptr},
     {"variableslider",  IsVariableSlider,                      SliderMarkup,    nullptr},
     {"scrollbar",       IsScrollBar,                           ScrollBarMarkup, nullptr},
+    {"listbox",         IsListBox,                             ListBoxMarkup,   nullptr},
+    {"combobox",        IsComboBox,                            ComboBoxMarkup,  nullptr},
     {"tooltip",         IsTooltip,                             FrameMarkup,     PrepareTooltip},
     {"foreigntext",     IsText | ReadsFonts,                   TextMarkup,      nullptr},
     {"foreignframe",    IsFrame | ReadsTextures,               FrameMarkup,     nullptr},

@@ -26,6 +26,10 @@ enum Trait : u64 {
     RunsOnChange = u64{1} << 36, // a script for changes of the value
     HasHandle = u64{1} << 37, // a press sets the value
     HasButtons = u64{1} << 38, // its parts change the value by steps, as scripts may
+    HasRows = u64{1} << 39, // selects, drags and scrolls rows
+    NamesRows = u64{1} << 40, // its type knows the operations on rows, even if it has none
+    DropsList = u64{1} << 41, // opens a list with rows
+    RunsOnSelect = u64{1} << 42, // a script for the selection
 };
 
 // It tells its parent so, of its own accord or for others.

@@ -23,6 +23,10 @@ MatrixHost::MatrixHost()
     NamesKeys = true;
     for (const char* place : {TooltipPlace, ChildPlace})
         Scripts[place] = [place](TeskElement&) { g_Bomb.Reach(place); };
+    NamedScripts["Compare"] = [](const std::vector<std::string>&) {
+        g_Bomb.Reach("ExecuteAtomForText");
+        return "1";
+    };
     for (const char* event : EventNames())
         Scripts[event] = [event](TeskElement&) { g_Bomb.Reach(event); };
 }

@@ -250,6 +250,65 @@ void PressToTheRight()
     PressLeft();
 }
 
+void PressAnotherRow()
+{
+    MoveTo(15, 30);
+    PressLeft();
+}
+
+void DoubleClickOnRow()
+{
+    PressAnotherRow();
+    PressLeft();
+}
+
+void DragRow()
+{
+    Aim();
+    g_UIManager.OnLMouseDown();
+    MoveTo(15, 45);
+    g_UIManager.OnLMouseUp();
+}
+
+void TurnWheelDown()
+{
+    Aim();
+    g_UIManager.OnMouseWheel(-40);
+}
+
+void OpenAndPickRow()
+{
+    ClickLeft();
+    g_UIManager.Render();
+    MoveTo(15, 80);
+    PressLeft();
+}
+
+void CallSelectItem()
+{
+    Tell(Self(), "SelectItem", {"2"});
+}
+
+void CallRemoveItem()
+{
+    Tell(Self(), "RemoveItem", {"1"});
+}
+
+void CallClearItems()
+{
+    Tell(Self(), "ClearItems");
+}
+
+void CallAddItem()
+{
+    Tell(Self(), "AddItem", {"more"});
+}
+
+void CallSort()
+{
+    Tell(Self(), "Sort", {"Compare"});
+}
+
 // As if the mouse had not been moved for a while.
 void RestMouse()
 {
@@ -269,6 +328,8 @@ constexpr Place Places[] = {
     {"SizeRecalculated",     "load",                  IsForeign,     Load},
     {"OnCreate",             "load",                  IsForeign,     Load},
     {"OnLoad",               "load",                  EveryKind,     Load},
+    {"OnSelect",             "load",                  RunsOnSelect,  Load},
+    {"OnChange",             "load",                  HasRows,       Load},
     {"PrintLine",            "load",                  EveryKind,     Load},
     {"PrintLine of a script", "load",                 EveryKind,     Load},
 
@@ -322,6 +383,11 @@ constexpr Place Places[] = {
     {"OnChange",             "drag",                  RunsOnChange | HasHandle, DragMouse},
     {"OnChange",             "press to the right",    RunsOnChange,  PressToTheRight},
     {"DataParse",            "press",                 ExpandsText | HasHandle, ClickLeft},
+    {"OnSelect",             "press",                 HasRows,       PressAnotherRow},
+    {"OnDeSelect",           "press",                 HasRows,       PressAnotherRow},
+    {"OnChange",             "wheel",                 HasRows,       TurnWheelDown},
+    {"OnSelect",             "pick",                  DropsList,     OpenAndPickRow},
+    {"OnKeyboardEnter",      "open",                  DropsList,     ClickLeft},
 
     // the keyboard
     {"OnKeyboardEnter",      "focus",                 EveryKind,     FocusSelf},
@@ -347,6 +413,11 @@ constexpr Place Places[] = {
     {"Calculate",            "SetWrap",               ExpandsText | SetsText, CallSetWrap},
     {"OnChange",             "SetValue",              RunsOnChange,  CallSetValue},
     {"OnChange",             "SetRange",              RunsOnChange,  CallSetRangeBelowTheValue},
+    {"OnSelect",             "SelectItem",            HasRows,       CallSelectItem},
+    {"OnDeSelect",           "RemoveItem",            HasRows,       CallRemoveItem},
+    {"OnDeSelect",           "ClearItems",            HasRows,       CallClearItems},
+    {"OnChange",             "AddItem",               HasRows,       CallAddItem},
+    {"ExecuteAtomForText",   "Sort",                  HasRows,       CallSort},
     {"ParseTypedValue",      "Copy",                  HasTexture,    CallCopyTexture},
 
     // what the parent hears
@@ -357,11 +428,15 @@ constexpr Place Places[] = {
     {"notification 6",       "click",                 Sends(6),      ClickLeft},
     {"notification 7",       "click",                 Sends(7),      ClickRight},
     {"notification 8",       "click",                 Sends(8),      ClickRight},
+    {"notification 9",       "press",                 Sends(9) | HasRows, PressAnotherRow},
+    {"notification 9",       "pick",                  Sends(9),      OpenAndPickRow},
+    {"notification 12",      "double click",          Sends(12),     DoubleClickOnRow},
+    {"notification 13",      "drag",                  Sends(13),     DragRow},
     {"notification 10",      "double click",          Sends(10),     DoubleClickLeft},
     {"notification 11",      "double click",          Sends(11),     DoubleClickRight},
     {"notification 14",      "move",                  Sends(14),     Enter},
     {"notification 15",      "wheel",                 Sends(15),     TurnWheel},
-    {"notification 50",      "change the font",       HasFont,       ChangeFont},
+    {"notification 50",      "change the font",       HasFont | Sends(51), ChangeFont},
 };
 // clang-format on
 
