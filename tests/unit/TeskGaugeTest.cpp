@@ -1,6 +1,7 @@
 #include "teskara/controls/TeskGauge.h"
 
 #include "teskara/controls/TeskGaugeFiller.h"
+#include "teskara/core/Limits.h"
 #include "teskara/element/TeskElementFactory.h"
 #include "tests/unit/PressTest.h"
 
@@ -166,6 +167,21 @@ TEST_F(TeskGaugeTest, AGaugeInAFillerWithoutARangeStaysAtZero)
     TeskGauge& inner = NestGauges("100", "0");
     As<TeskGauge>("Outer").SetValue(50);
     EXPECT_EQ(0.0f, inner.Value);
+}
+
+TEST_F(TeskGaugeTest, GaugesLieInFillersAsDeepAsTheTreeGoes)
+{
+    TeskGauge* innermost = &NestGauges("100", "7");
+    XMLNode* markup = g_UIManager.FindTemplate("Inner markup");
+    const auto nest = [&] {
+        return dynamic_cast<TeskGauge*>(g_UIManager.LoadElement(innermost->Filler, "gauge", "G", markup, nullptr));
+    };
+    while (TeskGauge* inner = nest())
+        innermost = inner;
+    EXPECT_LT(Limits::ElementDepth - 3, innermost->Depth);
+    As<TeskGauge>("Outer").SetValue(40);
+    EXPECT_EQ(5.0f, innermost->Value);
+    Frame();
 }
 
 TEST_F(TeskGaugeTest, OnlyGaugesInTheFillerHearOfTheValue)
