@@ -1,9 +1,9 @@
 #include "teskara/collections/TeskListBox.h"
 
 #include "teskara/controls/Panel.h"
-#include "teskara/controls/PressTextures.h"
 #include "teskara/controls/ScrollBarMarkup.h"
 #include "teskara/controls/TeskScrollBar.h"
+#include "teskara/controls/TextureMask.h"
 #include "teskara/core/AsciiCase.h"
 #include "teskara/core/BoundedText.h"
 #include "teskara/core/Numbers.h"

@@ -1,26 +1,9 @@
 #include "teskara/controls/PressTextures.h"
 
-#include "teskara/element/TeskTexture.h"
-#include "teskara/markup/MarkupSource.h"
-
 TeskTexture* PressTextures::Choose(bool isPressed, bool isMouseOver) const
 {
     if (isPressed && Pressed)
         return Pressed;
 
     return isMouseOver && Hover ? Hover : Plain;
-}
-
-void MaskTextures(const MarkupSource& source, std::initializer_list<TeskTexture*> textures)
-{
-    const u32 mask = source.HexAttribute("ColorMask", 0);
-    if (mask == 0)
-        return;
-
-    for (TeskTexture* texture : textures) {
-        if (!texture)
-            continue;
-        texture->Flags |= TextureHasColorMask;
-        texture->ColorMask = mask;
-    }
 }

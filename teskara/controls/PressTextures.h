@@ -1,8 +1,5 @@
 #pragma once
 
-#include <initializer_list>
-
-class MarkupSource;
 class TeskTexture;
 
 // The images of a control that can be pressed; any may be null.
@@ -14,6 +11,3 @@ struct PressTextures {
     // The image to draw. A pressed control that has none for it looks as it does when it is not.
     TeskTexture* Choose(bool isPressed, bool isMouseOver) const;
 };
-
-// Colours the images of a control by its own ColorMask attribute, if that is not 0, instead of by their own.
-void MaskTextures(const MarkupSource& source, std::initializer_list<TeskTexture*> textures);

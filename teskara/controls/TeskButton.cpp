@@ -4,6 +4,7 @@
 #include "teskara/controls/Placement.h"
 #include "teskara/controls/PressTaking.h"
 #include "teskara/controls/PressTextures.h"
+#include "teskara/controls/TextureMask.h"
 #include "teskara/core/AsciiCase.h"
 #include "teskara/core/BoundedText.h"
 #include "teskara/element/MarkupTable.h"

@@ -1,8 +1,8 @@
 #include "teskara/controls/TeskGauge.h"
 
 #include "teskara/controls/GaugeScale.h"
-#include "teskara/controls/PressTextures.h"
 #include "teskara/controls/TeskGaugeFiller.h"
+#include "teskara/controls/TextureMask.h"
 #include "teskara/core/AsciiCase.h"
 #include "teskara/core/BoundedText.h"
 #include "teskara/element/MarkupTable.h"

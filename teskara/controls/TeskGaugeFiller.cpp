@@ -2,8 +2,8 @@
 
 #include "teskara/controls/FillerBar.h"
 #include "teskara/controls/GaugeScale.h"
-#include "teskara/controls/PressTextures.h"
 #include "teskara/controls/TeskGauge.h"
+#include "teskara/controls/TextureMask.h"
 #include "teskara/core/AsciiCase.h"
 #include "teskara/core/BoundedText.h"
 #include "teskara/element/MarkupTable.h"

@@ -136,12 +136,13 @@ void TeskScrollBar::Create(const _CreateScrollBar& record, XMLNode* templateNode
     Range = record.Range;
     Vertical = record.Vertical;
 
-    const auto fillUp = [&](TeskButton& button) { FillButton(button, UpTags, templateNode); };
-    const auto fillDown = [&](TeskButton& button) { FillButton(button, DownTags, templateNode); };
-    const auto fillSlider = [&](TeskSlider& slider) { FillSlider(slider, record, templateNode); };
-    CreatePart(*this, &TeskScrollBar::UpButton, ButtonKind, UpTags.Name, fillUp)
-        && CreatePart(*this, &TeskScrollBar::DownButton, ButtonKind, DownTags.Name, fillDown)
-        && CreatePart(*this, &TeskScrollBar::Slider, SliderKind, "slider", fillSlider);
+    const auto createButton = [&](TeskButton* TeskScrollBar::*field, const ButtonTags& tags) {
+        return CreatePart(
+            *this, field, ButtonKind, tags.Name, [&](TeskButton& button) { FillButton(button, tags, templateNode); });
+    };
+    if (createButton(&TeskScrollBar::UpButton, UpTags) && createButton(&TeskScrollBar::DownButton, DownTags))
+        CreatePart(*this, &TeskScrollBar::Slider, SliderKind, "slider",
+            [&](TeskSlider& slider) { FillSlider(slider, record, templateNode); });
 }
 
 // What the parts have to say ends here, but for the value.

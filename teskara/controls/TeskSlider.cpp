@@ -1,7 +1,7 @@
 #include "teskara/controls/TeskSlider.h"
 
-#include "teskara/controls/PressTextures.h"
 #include "teskara/controls/SliderTrack.h"
+#include "teskara/controls/TextureMask.h"
 #include "teskara/core/AsciiCase.h"
 #include "teskara/core/BoundedText.h"
 #include "teskara/element/MarkupTable.h"
@@ -20,6 +20,7 @@ constexpr u32 HeightWithoutMarkup = 16;
 constexpr u32 HandleLength = 5;
 
 // clang-format off
+// All that a slider without markup may take from a template.
 constexpr MarkupValue<TeskSlider> SliderTextures[] = {
     {"Texture",       Markup::Texture<&TeskSlider::Texture>,       {}},
     {"HandleTexture", Markup::Texture<&TeskSlider::HandleTexture>, {}},

@@ -217,15 +217,22 @@ constexpr MarkupForm<OwnerOf<Field>> FixedFont = {
             [&] { return control.FixedFontFromXML(source.Node(), tag.Text, source.Template()); });
     }};
 
+// Where markup has no such tag, the script stays as it is.
+inline void ReadScript(
+    TeskElement& control, ScriptPointer& script, const MarkupSource& source, TagName tag, MarkupDefault arguments)
+{
+    if (!source.Child(tag))
+        return;
+    KeepMade(control, script,
+        [&] { return control.EmbeddedScriptFromXML(source.Node(), tag.Text, source.Template(), arguments.Text); });
+}
+
 // An event of a control; the default is the list of its script's arguments. A script that does not compile is reported,
 // and the report may end the element.
 template <auto Field>
 constexpr MarkupForm<OwnerOf<Field>> Script = {"script",
     [](OwnerOf<Field>& control, const MarkupSource& source, TagName tag, MarkupDefault arguments) {
-        if (!source.Child(tag))
-            return;
-        KeepMade(control, control.*Field,
-            [&] { return control.EmbeddedScriptFromXML(source.Node(), tag.Text, source.Template(), arguments.Text); });
+        ReadScript(control, control.*Field, source, tag, arguments);
     },
     [](const OwnerOf<Field>& control) -> const ScriptPointer& { return control.*Field; }};
 
@@ -233,10 +240,7 @@ constexpr MarkupForm<OwnerOf<Field>> Script = {"script",
 template <auto Field>
 constexpr MarkupForm<TeskElement> Event = {"script",
     [](TeskElement& element, const MarkupSource& source, TagName tag, MarkupDefault arguments) {
-        if (!source.Child(tag))
-            return;
-        KeepMade(element, element.Events.*Field,
-            [&] { return element.EmbeddedScriptFromXML(source.Node(), tag.Text, source.Template(), arguments.Text); });
+        ReadScript(element, element.Events.*Field, source, tag, arguments);
     },
     [](const TeskElement& element) -> const ScriptPointer& { return element.Events.*Field; }};
 

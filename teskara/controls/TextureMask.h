@@ -1,0 +1,10 @@
+#pragma once
+
+#include <initializer_list>
+
+class MarkupSource;
+class TeskTexture;
+
+// Colours the images of a control, any of which may be null, by its own ColorMask attribute instead of by their own,
+// unless that is 0.
+void MaskTextures(const MarkupSource& source, std::initializer_list<TeskTexture*> textures);
