@@ -22,6 +22,7 @@
 #include "teskara/core/HostCalls.h"
 #include "teskara/core/platform/Platform.h"
 #include "teskara/element/TeskElementFactory.h"
+#include "teskara/text/TeskTextEntry.h"
 #include "teskara/windows/TeskContextMenu.h"
 
 CUIManager g_UIManager;
@@ -75,7 +76,7 @@ PendingFactory g_TableCell("tablecell");
 PendingFactory g_Table("table");
 TeskFactory<TeskText> g_Text("text");
 PendingFactory g_TextEdit("textedit");
-PendingFactory g_TextEntry("textentry");
+TeskFactory<TeskTextEntry> g_TextEntry("textentry");
 TeskFactory<TeskTooltip> g_Tooltip("tooltip");
 PendingFactory g_Tree("tree");
 TeskFactory<TeskVariableGauge> g_VariableGauge("variablegauge");
