@@ -40,8 +40,10 @@ public:
     u32 Border = 0;
     u32 BorderColor = 0;
 
-private:
+protected:
+    // Whether it shows something.
     bool IsSolid() const { return Texture || BackgroundColor != 0; }
 
+private:
     template <class Event> bool Take(Event baseEvent, bool passes, u32 code, u64 value);
 };

@@ -364,6 +364,10 @@ public:
     std::unique_ptr<utf8string> AutoTooltip;
     float AbsoluteAlpha = 1.0f; // of this frame, the parents' applied
 
+protected:
+    // Draws the children as RenderChildren of the base does, but moved in from the corner by so many pixels.
+    void RenderChildrenWithin(u32 border);
+
 private:
     friend class TeskElementDeleter;
     friend class TeskElementFactory;
@@ -383,7 +387,7 @@ private:
     std::span<TeskElement* const> ChildrenUpTo(const TeskElement& child);
     TeskElement* CandidateFrom(TeskElement* child, const _Point2i& point);
     bool MayBeFoundAt(const _Point2i& point) const { return !FoundInsideOnly || (Visible && Covers(point)); }
-    bool RenderChild(TeskElement& child);
+    bool RenderChild(TeskElement& child, u32 border);
     bool IsOffScreen(const tagRECT& rect) const;
     bool DescribeTexture(TeskDrawRecord& record, const TeskTexture* texture) const;
 

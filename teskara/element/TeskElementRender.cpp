@@ -30,22 +30,27 @@ void TeskElement::Render()
     RenderChildren();
 }
 
-// A child that moves among its siblings while it draws carries the walk with it. One that dies ends it.
 void TeskElement::RenderChildren()
+{
+    RenderChildrenWithin(0);
+}
+
+// A child that moves among its siblings while it draws carries the walk with it. One that dies ends it.
+void TeskElement::RenderChildrenWithin(u32 border)
 {
     const ElementWatch self(*this);
     ChildWalkBound bound(*this, s_Relinks);
     for (TeskElement* child = FirstChild; child && bound.Step(); child = child->Next) {
-        if (!RenderChild(*child) || !self.Exists())
+        if (!RenderChild(*child, border) || !self.Exists())
             return;
     }
 }
 
 // False: the child died.
-bool TeskElement::RenderChild(TeskElement& child)
+bool TeskElement::RenderChild(TeskElement& child, u32 border)
 {
-    const i32 x = WrapAdd(AbsoluteX, child.X);
-    const i32 y = WrapAdd(AbsoluteY, child.Y);
+    const i32 x = WrapAdd(WrapAdd(AbsoluteX, child.X), border);
+    const i32 y = WrapAdd(WrapAdd(AbsoluteY, child.Y), border);
     if (!child.Visible) {
         child.SpreadPosition(x, y);
         return true;
