@@ -22,8 +22,11 @@
 #include "teskara/core/HostCalls.h"
 #include "teskara/core/platform/Platform.h"
 #include "teskara/element/TeskElementFactory.h"
-#include "teskara/text/TeskTextEntry.h"
+#include "teskara/script/TypeGlobals.h"
 #include "teskara/windows/TeskContextMenu.h"
+#include "teskara/windows/TeskWindow.h"
+#include "teskara/windows/TeskWindowClient.h"
+#include "teskara/windows/TeskWindowFactory.h"
 
 CUIManager g_UIManager;
 
@@ -76,13 +79,13 @@ PendingFactory g_TableCell("tablecell");
 PendingFactory g_Table("table");
 TeskFactory<TeskText> g_Text("text");
 PendingFactory g_TextEdit("textedit");
-TeskFactory<TeskTextEntry> g_TextEntry("textentry");
+PendingFactory g_TextEntry("textentry");
 TeskFactory<TeskTooltip> g_Tooltip("tooltip");
 PendingFactory g_Tree("tree");
 TeskFactory<TeskVariableGauge> g_VariableGauge("variablegauge");
 TeskFactory<TeskVariableSlider> g_VariableSlider("variableslider");
-PendingFactory g_WindowClient("windowclient");
-PendingFactory g_Window("window");
+TeskFactory<TeskWindowClient> g_WindowClient("windowclient");
+TeskWindowFactory<TeskWindow, pTeskWindowType> g_Window("window");
 
 // Where the module lies, without its own name, and the log beside it, to which nothing is written.
 char g_ModuleDirectory[512];

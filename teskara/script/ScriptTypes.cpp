@@ -15,10 +15,10 @@
 #include "teskara/script/TeskMessageBoxType.h"
 #include "teskara/script/TeskScrollBarType.h"
 #include "teskara/script/TeskSliderType.h"
-#include "teskara/script/TeskTextEntryType.h"
 #include "teskara/script/TeskTextType.h"
 #include "teskara/script/TeskTextureType.h"
 #include "teskara/script/TeskTooltipType.h"
+#include "teskara/script/TeskWindowType.h"
 #include "teskara/script/TeskaraType.h"
 #include "teskara/script/ToolkitType.h"
 #include "teskara/script/TypeGlobals.h"
@@ -126,12 +126,12 @@ constexpr TypeRow Types[] = {
     {"tesktabcontrol", &pTeskTabControlType, &pTeskFrameType, Nameless},
     {"tesktext", &pTeskTextType, &pTeskElementType, Make<TeskTextType>},
     {"tesktextedit", &pTeskTextEditType, &pTeskElementType, Nameless},
-    {"tesktextentry", &pTeskTextEntryType, &pTeskElementType, Make<TeskTextEntryType>},
+    {"tesktextentry", &pTeskTextEntryType, &pTeskElementType, Nameless},
     {"tesktexture", &pTeskTextureType, nullptr, Make<TeskTextureType>},
     {"tesktooltip", &pTeskTooltipType, &pTeskFrameType, Make<TeskTooltipType>},
     {"tesktreenode", &pTeskTreeNodeType, nullptr, Nameless},
     {"tesktree", &pTeskTreeType, &pTeskFrameType, Nameless},
-    {"teskwindow", &pTeskWindowType, &pTeskFrameType, Nameless},
+    {"teskwindow", &pTeskWindowType, &pTeskFrameType, Make<TeskWindowType>},
 };
 static_assert(std::size(Types) == 27);
 
