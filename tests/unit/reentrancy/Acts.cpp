@@ -122,6 +122,8 @@ constexpr ScriptAct ScriptActs[] = {
     {ScriptAct::This,   nullptr,   "SetText",       {"other words"},              SetsText},
     {ScriptAct::This,   nullptr,   "SetText",       {"${other}"},                 SetsText},
     {ScriptAct::This,   nullptr,   "SetText",       {},                           SetsText},
+    {ScriptAct::This,   nullptr,   "SetMaxLength",  {"0"},                        TakesKeys},
+    {ScriptAct::This,   nullptr,   "SetMaxLength",  {"100000"},                   TakesKeys},
     {ScriptAct::This,   "Font",    "SetHeight",     {"30"},                       HasFont},
     {ScriptAct::This,   "Font",    "SetName",       {"Other"},                    HasFont},
     {ScriptAct::This,   "Texture", "Set",           {"#other"},                   HasTexture},

@@ -21,7 +21,10 @@ constexpr u64 IsVariableSlider = IsSlider | EvaluatesText | ExpandsText;
 constexpr u64 IsScrollBar = Follows | Sends(4) | RunsOnChange | HasButtons | HasValue;
 constexpr u64 IsListBox =
     Follows | Sends(9) | Sends(12) | Sends(13) | RunsOnSelect | HasRows | NamesRows | HasFont | HasTexture;
-constexpr u64 IsComboBox = Follows | Sends(9) | RunsOnSelect | DropsList | NamesRows | HasFont | HasTexture;
+constexpr u64 IsComboBox =
+    Follows | Sends(9) | RunsOnSelect | DropsList | FocusedByPress | NamesRows | HasFont | HasTexture;
+constexpr u64 IsTextEntry =
+    Follows | PassesOn | Sends(3) | Sends(5) | TakesKeys | FocusedByPress | SetsText | HasTexture;
 constexpr u64 IsTooltip = PassesOn | SendsPresses | ExpandsText | SetsLines | HasFont | HasTexture | SetsTexture;
 
 constexpr char FrameMarkup[] = "<Texture Filename='#camera'/><Border>1</Border>";
@@ -56,6 +59,9 @@ constexpr char ComboBoxMarkup[] =
     "<Width>10</Width><Slider><OnChange>OnChange</OnChange></Slider></ScrollBar></ListBox>"
     "<Items><item Default='1'>a</item><item>b</item><item>c</item><item>d</item></Items>";
 
+constexpr char TextEntryMarkup[] = "<MaxLength>20</MaxLength><Texture Filename='#a'/><TextureFocused Filename='#b'/>"
+                                   "<Border>1</Border><OnChange>OnChange</OnChange>";
+
 // A tooltip is loaded hidden and without lines.
 void PrepareTooltip()
 {
@@ -79,6 +85,7 @@ constexpr Kind Kinds[] = {
     {"scrollbar",       IsScrollBar,                           ScrollBarMarkup, nullptr},
     {"listbox",         IsListBox,                             ListBoxMarkup,   nullptr},
     {"combobox",        IsComboBox,                            ComboBoxMarkup,  nullptr},
+    {"textentry",       IsTextEntry,                           TextEntryMarkup, nullptr},
     {"tooltip",         IsTooltip,                             FrameMarkup,     PrepareTooltip},
     {"foreigntext",     IsText | ReadsFonts,                   TextMarkup,      nullptr},
     {"foreignframe",    IsFrame | ReadsTextures,               FrameMarkup,     nullptr},

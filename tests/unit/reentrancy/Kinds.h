@@ -30,6 +30,8 @@ enum Trait : u64 {
     NamesRows = u64{1} << 40, // its type knows the operations on rows, even if it has none
     DropsList = u64{1} << 41, // opens a list with rows
     RunsOnSelect = u64{1} << 42, // a script for the selection
+    TakesKeys = u64{1} << 43, // a field for text
+    FocusedByPress = u64{1} << 44,
 };
 
 // It tells its parent so, of its own accord or for others.

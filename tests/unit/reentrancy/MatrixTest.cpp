@@ -34,6 +34,8 @@ protected:
     ReentrancyMatrix()
     {
         F1(&m_Host);
+        System.KeyTexts = {{'A', "a"}, {'B', "b"}, {'C', "c"}};
+        System.Clipboard = "some\nwords\b";
         BeginForeignKinds();
         m_Host.WriteFile(SceneFile, SceneMarkup(GetParam()));
         m_Host.WriteFile(PartFile, PartMarkup());

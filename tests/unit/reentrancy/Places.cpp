@@ -2,6 +2,8 @@
 
 #include "teskara/core/CUIManager.h"
 #include "teskara/element/TeskElement.h"
+#include "teskara/text/TeskTextEntry.h"
+#include "teskara/text/TextKeys.h"
 #include "tests/unit/reentrancy/ForeignElements.h"
 #include "tests/unit/reentrancy/Kinds.h"
 #include "tests/unit/reentrancy/Scene.h"
@@ -172,6 +174,44 @@ void PressKey()
 {
     FocusSelf();
     g_UIManager.OnKeyDown('A');
+}
+
+void PressEnter()
+{
+    FocusSelf();
+    g_UIManager.OnKeyDown(KeyEnter);
+}
+
+// As if the key had been held for a while.
+void RepeatKey()
+{
+    FocusSelf();
+    if (auto* entry = dynamic_cast<TeskTextEntry*>(Self())) {
+        entry->Repeat.HeldKey = 'A';
+        entry->Repeat.NextRepeatTick = 0;
+    }
+    g_UIManager.Render();
+}
+
+void Paste()
+{
+    FocusSelf();
+    g_UIManager.ShiftDown = true;
+    g_UIManager.OnKeyDown(KeyInsert);
+    g_UIManager.ShiftDown = false;
+}
+
+void DeleteText()
+{
+    FocusSelf();
+    if (auto* entry = dynamic_cast<TeskTextEntry*>(Self()))
+        entry->Text.Fill("words", 5);
+    g_UIManager.OnKeyDown(KeyDelete);
+}
+
+void CallSetText()
+{
+    Tell(Self(), "SetText", {"words"});
 }
 
 void ReleaseKey()
@@ -387,7 +427,6 @@ constexpr Place Places[] = {
     {"OnDeSelect",           "press",                 HasRows,       PressAnotherRow},
     {"OnChange",             "wheel",                 HasRows,       TurnWheelDown},
     {"OnSelect",             "pick",                  DropsList,     OpenAndPickRow},
-    {"OnKeyboardEnter",      "open",                  DropsList,     ClickLeft},
 
     // the keyboard
     {"OnKeyboardEnter",      "focus",                 EveryKind,     FocusSelf},
@@ -398,6 +437,13 @@ constexpr Place Places[] = {
     {"OnKeyboardExit",       "press nothing",         EveryKind,     PressNothingWithFocus},
     {"OnKeyDown",            "key",                   EveryKind,     PressKey},
     {"OnKeyUp",              "key",                   EveryKind,     ReleaseKey},
+    {"OnKeyboardEnter",      "click",                 FocusedByPress, ClickLeft},
+    {"OnKeyDown",            "repeat",                TakesKeys,     RepeatKey},
+    {"OnChange",             "key",                   TakesKeys,     PressKey},
+    {"OnChange",             "repeat",                TakesKeys,     RepeatKey},
+    {"OnChange",             "delete text",           TakesKeys,     DeleteText},
+    {"OnChange",             "paste",                 TakesKeys,     Paste},
+    {"OnChange",             "SetText",               TakesKeys,     CallSetText},
     {"refused key",          "key",                   IsForeign,     PressKey},
 
     // what scripts call
@@ -425,6 +471,11 @@ constexpr Place Places[] = {
     {"notification 4",       "press",                 Sends(4) | HasHandle, ClickLeft},
     {"notification 4",       "press to the right",    Sends(4),      PressToTheRight},
     {"notification 4",       "SetValue",              Sends(4),      CallSetValue},
+    {"notification 3",       "key",                   Sends(3),      PressKey},
+    {"notification 3",       "repeat",                Sends(3),      RepeatKey},
+    {"notification 3",       "delete text",           Sends(3),      DeleteText},
+    {"notification 3",       "paste",                 Sends(3),      Paste},
+    {"notification 5",       "enter",                 Sends(5),      PressEnter},
     {"notification 6",       "click",                 Sends(6),      ClickLeft},
     {"notification 7",       "click",                 Sends(7),      ClickRight},
     {"notification 8",       "click",                 Sends(8),      ClickRight},
