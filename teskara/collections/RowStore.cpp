@@ -3,40 +3,24 @@
 #include <algorithm>
 #include <functional>
 
-// The list of free slots can hold all slots, so that giving one back needs no memory.
-bool RowStore::HasRoom()
-{
-    if (!m_Free.empty())
-        return true;
-
-    if (m_Slots.size() == m_Slots.capacity())
-        m_Slots.reserve(std::max<std::size_t>(m_Slots.capacity() * 2, 10));
-    m_Free.reserve(m_Slots.capacity());
-    return m_Slots.size() < 0xffffffffu;
-}
-
-u32 RowStore::TakeFreeSlot()
+// The lowest one. The list of free slots has room for all of them, so that giving one back needs no memory.
+u32 RowStore::FreeSlot()
 {
     if (m_Free.empty()) {
+        if (m_Free.capacity() == m_Slots.size())
+            m_Free.reserve(std::max<std::size_t>(m_Slots.size() * 2, 10));
         m_Slots.emplace_back();
-        return static_cast<u32>(m_Slots.size() - 1);
+        m_Free.push_back(LastID() - 1);
     }
-
-    std::pop_heap(m_Free.begin(), m_Free.end(), std::greater<>());
-    const u32 slot = m_Free.back();
-    m_Free.pop_back();
-    return slot;
+    return m_Free.front();
 }
 
 ListBoxItem* RowStore::Add(TeskListBox* list, const char* text, const char* value, u32 color) noexcept
 try {
-    if (!HasRoom())
-        return nullptr;
-
-    auto item = std::make_unique<ListBoxItem>(list, 0, text, value, color);
-    const u32 slot = TakeFreeSlot();
-    item->ID = slot + 1;
-    m_Slots[slot] = std::move(item);
+    const u32 slot = FreeSlot();
+    m_Slots[slot] = std::make_unique<ListBoxItem>(list, slot + 1, text, value, color);
+    std::pop_heap(m_Free.begin(), m_Free.end(), std::greater<>());
+    m_Free.pop_back();
     return m_Slots[slot].get();
 } catch (...) {
     return nullptr;

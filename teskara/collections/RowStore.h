@@ -25,8 +25,7 @@ public:
     u32 LastID() const { return static_cast<u32>(m_Slots.size()); }
 
 private:
-    bool HasRoom();
-    u32 TakeFreeSlot();
+    u32 FreeSlot();
 
     std::vector<std::unique_ptr<ListBoxItem>> m_Slots;
     std::vector<u32> m_Free; // slots; a heap with the lowest on top

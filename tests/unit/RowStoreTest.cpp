@@ -98,17 +98,17 @@ TEST(RowStore, SerialsAreNeverUsedTwice)
 
 TEST(RowStore, WithoutMemoryNothingIsAdded)
 {
-    RowStore rows;
-    for (int count = 0; count < 10; ++count)
-        AddRow(rows);
     for (std::size_t allowed = 0; allowed < 3; ++allowed) {
+        RowStore rows;
+        for (int count = 0; count < 10; ++count)
+            AddRow(rows);
         Allocations::FailAfter(allowed, Allocations::Failing::Once);
         const ListBoxItem* item = rows.Add(nullptr, "a text that is too long for a short one", nullptr, 0);
         Allocations::Allow();
         EXPECT_EQ(nullptr, item) << allowed;
         EXPECT_EQ(nullptr, rows.Find(11)) << allowed;
+        EXPECT_EQ(11u, AddedID(rows)) << allowed;
     }
-    EXPECT_EQ(11u, AddedID(rows));
 }
 
 TEST(RowStore, GivingARowBackNeedsNoMemory)
