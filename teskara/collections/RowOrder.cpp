@@ -7,9 +7,9 @@ namespace {
 
 constexpr std::size_t PrefixBytes = 8;
 
-// A row with the beginning of what it is sorted by, so that most comparisons look at no text.
+// A row with a piece of what it is sorted by, so that most comparisons look at no text.
 struct SortKey {
-    u64 Prefix; // first bytes, the first one on top; missing ones are 0
+    u64 Prefix; // the bytes behind those that all rows begin with, the first one on top; missing ones are 0
     ListBoxItem* Item;
 };
 
@@ -67,13 +67,26 @@ struct KeyOrder {
     }
 };
 
+// How many bytes all rows begin with.
+std::size_t CommonStart(std::span<ListBoxItem* const> rows, bool byValue)
+{
+    std::string_view common = rows.empty() ? std::string_view() : KeyText(*rows.front(), byValue);
+    for (const ListBoxItem* item : rows) {
+        const std::string_view text = KeyText(*item, byValue);
+        const auto end = std::mismatch(common.begin(), common.end(), text.begin(), text.end()).first;
+        common = common.substr(0, static_cast<std::size_t>(end - common.begin()));
+    }
+    return common.size();
+}
+
 // Rows that stand in order already, as most do after one is added, are only merged with the rest.
 void SortWithKeys(std::span<ListBoxItem*> rows, const KeyOrder& order)
 {
     std::vector<SortKey> keys;
     keys.reserve(rows.size());
+    const std::size_t start = CommonStart(rows, order.ByValue);
     for (ListBoxItem* item : rows)
-        keys.push_back({PrefixOf(KeyText(*item, order.ByValue)), item});
+        keys.push_back({PrefixOf(KeyText(*item, order.ByValue).substr(start)), item});
 
     const auto unsorted = std::is_sorted_until(keys.begin(), keys.end(), order);
     std::stable_sort(unsorted, keys.end(), order);
