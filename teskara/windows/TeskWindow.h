@@ -2,6 +2,7 @@
 
 #include "teskara/controls/TeskFrame.h"
 #include "teskara/core/utf8string.h"
+#include "teskara/windows/CWindowContextMenu.h"
 
 #include <memory>
 
@@ -105,6 +106,7 @@ public:
     TeskElement* MinimizeButton = nullptr;
     TeskElement* MaximizeButton = nullptr;
     TeskElement* CloseButton = nullptr;
+    CWindowContextMenu ContextMenu{*this};
 
 private:
     // Markup

@@ -104,7 +104,11 @@ bool TeskWindow::OnRMouseDown(_Point2i& point)
 
 bool TeskWindow::OnRMouseUp(_Point2i& point)
 {
-    TeskElement::OnRMouseUp(point);
+    const ElementWatch self(*this);
+    if (IsTitleBarAt(point))
+        ContextMenu.Create(point.x, point.y);
+    if (self.Exists())
+        TeskElement::OnRMouseUp(point);
     return true;
 }
 
@@ -232,6 +236,7 @@ void TeskWindow::OnNotify(TeskElement* source, unsigned int code, unsigned long 
 
 void TeskWindow::TitleBarTold(u32 code)
 {
+    const _Point2i& mouse = g_UIManager.MousePosition;
     switch (code) {
     case NotifyLeftReleased:
         Dragging = false;
@@ -239,9 +244,12 @@ void TeskWindow::TitleBarTold(u32 code)
     case NotifyLeftPressed:
         TitleBarPressed();
         return;
+    case NotifyRightReleased:
+        ContextMenu.Create(mouse.x, mouse.y);
+        return;
     case NotifyMouseMoved:
         if (Dragging)
-            DragByTitleBar(g_UIManager.MousePosition);
+            DragByTitleBar(mouse);
         return;
     default:
         return;
