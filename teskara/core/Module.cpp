@@ -23,6 +23,7 @@
 #include "teskara/core/platform/Platform.h"
 #include "teskara/element/TeskElementFactory.h"
 #include "teskara/script/TypeGlobals.h"
+#include "teskara/text/TeskTextEntry.h"
 #include "teskara/windows/TeskContextMenu.h"
 #include "teskara/windows/TeskWindow.h"
 #include "teskara/windows/TeskWindowClient.h"
@@ -79,7 +80,7 @@ PendingFactory g_TableCell("tablecell");
 PendingFactory g_Table("table");
 TeskFactory<TeskText> g_Text("text");
 PendingFactory g_TextEdit("textedit");
-PendingFactory g_TextEntry("textentry");
+TeskFactory<TeskTextEntry> g_TextEntry("textentry");
 TeskFactory<TeskTooltip> g_Tooltip("tooltip");
 PendingFactory g_Tree("tree");
 TeskFactory<TeskVariableGauge> g_VariableGauge("variablegauge");

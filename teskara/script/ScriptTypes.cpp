@@ -15,6 +15,7 @@
 #include "teskara/script/TeskMessageBoxType.h"
 #include "teskara/script/TeskScrollBarType.h"
 #include "teskara/script/TeskSliderType.h"
+#include "teskara/script/TeskTextEntryType.h"
 #include "teskara/script/TeskTextType.h"
 #include "teskara/script/TeskTextureType.h"
 #include "teskara/script/TeskTooltipType.h"
@@ -126,7 +127,7 @@ constexpr TypeRow Types[] = {
     {"tesktabcontrol", &pTeskTabControlType, &pTeskFrameType, Nameless},
     {"tesktext", &pTeskTextType, &pTeskElementType, Make<TeskTextType>},
     {"tesktextedit", &pTeskTextEditType, &pTeskElementType, Nameless},
-    {"tesktextentry", &pTeskTextEntryType, &pTeskElementType, Nameless},
+    {"tesktextentry", &pTeskTextEntryType, &pTeskElementType, Make<TeskTextEntryType>},
     {"tesktexture", &pTeskTextureType, nullptr, Make<TeskTextureType>},
     {"tesktooltip", &pTeskTooltipType, &pTeskFrameType, Make<TeskTooltipType>},
     {"tesktreenode", &pTeskTreeNodeType, nullptr, Nameless},

@@ -355,3 +355,31 @@ void TestHost::ReleaseTextureResource(u32 texture)
 {
     Record(RecordResources, "ReleaseTextureResource %u", texture);
 }
+
+int TestPlatform::ToAscii(u32 key, const u8*, char* characters)
+{
+    const auto text = KeyTexts.find(key);
+    if (text == KeyTexts.end())
+        return 0;
+
+    std::copy(text->second.begin(), text->second.end(), characters);
+    return static_cast<int>(text->second.size());
+}
+
+bool TestPlatform::EmptyClipboard()
+{
+    Clipboard.reset();
+    return ClipboardIsOpen;
+}
+
+bool TestPlatform::SetClipboardText(const std::string& text)
+{
+    Clipboard = text;
+    return ClipboardIsOpen;
+}
+
+bool TestPlatform::GetClipboardText(std::string& text)
+{
+    text = Clipboard.value_or("");
+    return ClipboardIsOpen && Clipboard;
+}

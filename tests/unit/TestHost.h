@@ -5,6 +5,7 @@
 
 #include <functional>
 #include <map>
+#include <optional>
 #include <set>
 #include <string>
 #include <vector>
@@ -149,27 +150,35 @@ private:
     u32 m_LastTexture = 0;
 };
 
-// The system's platform, but with a clock that stands still, and with files that a test names.
+// The system's platform, but with a clock that stands still, and with files, keys and a clipboard that a test names.
 class TestPlatform : public Platform
 {
 public:
     u32 GetTickCount() override { return Ticks; }
     bool IsKeyToggled(u32 key) override { return ToggledKeys.count(key) != 0; }
-    int ToAscii(u32, const u8*, char*) override { return 0; }
+    int ToAscii(u32 key, const u8* keyState, char* characters) override;
     char16_t AnsiToWide(u8 character) override { return character; }
     std::FILE* OpenFile(const char16_t* path) override { return SystemPlatform().OpenFile(path); }
     bool FileExists(const char16_t* path) override { return Files.count(path) != 0; }
     std::string GetModulePath() override { return {}; }
     void WriteDebugOutput(const char* text) override { DebugOutput += text; }
-    void RangeFailure() override { }
-    bool OpenClipboard() override { return false; }
-    void CloseClipboard() override { }
-    bool EmptyClipboard() override { return false; }
-    bool SetClipboardText(const std::string&) override { return false; }
-    bool GetClipboardText(std::string&) override { return false; }
+    void RangeFailure() override { ++RangeFailures; }
+    bool OpenClipboard() override { return ClipboardIsOpen = !RefusesClipboard; }
+    void CloseClipboard() override { ClipboardIsOpen = false; }
+    bool EmptyClipboard() override;
+    bool SetClipboardText(const std::string& text) override;
+    bool GetClipboardText(std::string& text) override;
 
     u32 Ticks = 10000;
     std::set<std::u16string> Files;
     std::set<u32> ToggledKeys;
     std::string DebugOutput;
+    int RangeFailures = 0;
+
+    // What keys give. One that is not here gives no character.
+    std::map<u32, std::string> KeyTexts;
+
+    std::optional<std::string> Clipboard;
+    bool ClipboardIsOpen = false;
+    bool RefusesClipboard = false;
 };

@@ -3,8 +3,10 @@
 #include "teskara/core/CUIManager.h"
 #include "teskara/element/TeskElement.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
+#include <iterator>
 #include <stdexcept>
 #include <unistd.h>
 
@@ -15,6 +17,14 @@ TestHost& IdleHost()
 {
     static auto* host = new TestHost;
     return *host;
+}
+
+// Lets go of the keys that a test has left held.
+void ReleaseKeys()
+{
+    std::fill(std::begin(g_UIManager.KeyState), std::end(g_UIManager.KeyState), u8{0});
+    g_UIManager.KeyStates.clear();
+    g_UIManager.ShiftDown = g_UIManager.AltDown = g_UIManager.CtrlDown = false;
 }
 
 // The toolkit can be started only once.
@@ -37,6 +47,7 @@ ToolkitTest::ToolkitTest()
     g_UIManager.TooltipElementID = 0;
     g_UIManager.MousePosition = {-1, -1};
     g_UIManager.ResetMouseState();
+    ReleaseKeys();
     Frame();
 }
 

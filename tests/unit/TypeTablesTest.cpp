@@ -84,6 +84,10 @@ constexpr TypeNames AllNames[] = {
     {"teskslider", 0, "Border Range Value Vertical Texture HandleTexture", "SetRange SetValue"},
     {"teskscrollbar", 0, "Value Range Vertical", "SetValue RaiseValue LowerValue SetRange"},
     {"teskhudelement", 0, "Text Group Font UpdateInterval", "SetText SetGroup SetUpdateInterval"},
+    {"tesktextentry", 0,
+        "Text Font BackgroundColor BorderColor Border Texture TextureFocused TextureCaret TextureCaretOverwrite "
+        "MaxLength",
+        "SetText SetBackgroundColor SetBorderColor SetMaxLength"},
     {"tesktooltip", 0, "Font Lines Line", "Reset Print SetLine"},
     {"teskwindow", 0,
         "Title Minimized ClickFocus IsClosable IsMinimizable IsWidthResizable IsHeightResizable IsResizable",
