@@ -58,12 +58,12 @@ protected:
         g_UIManager.ResetMouseState();
         g_UIManager.LeftPressElementID = g_UIManager.RightPressElementID = 0;
         g_UIManager.MousePosition = {-1, -1};
-        g_UIManager.AltDown = true; // some kinds take the mouse only then
     }
 
     void BuildScene()
     {
         g_UIManager.NewSkin("Dark");
+        g_UIManager.AltDown = true; // some kinds take the mouse only then
         LoadScene();
         if (GetParam().Prepare)
             GetParam().Prepare();
