@@ -113,24 +113,38 @@ private:
     u32 m_HarmDepth = 0;
 };
 
-// A platform whose clock the fuzzer moves, and that says nothing.
+// A platform whose clock and clipboard the fuzzer moves, and that says nothing. Keys from 32 to 255 give the character
+// of that number.
 class QuietPlatform final : public Platform
 {
 public:
     u32 Ticks = 10000;
+    std::string Clipboard;
 
     u32 GetTickCount() override { return Ticks; }
     bool IsKeyToggled(u32) override { return false; }
-    int ToAscii(u32, const u8*, char*) override { return 0; }
+    int ToAscii(u32 key, const u8*, char* characters) override
+    {
+        characters[0] = static_cast<char>(key);
+        return key >= ' ' ? 1 : 0;
+    }
     char16_t AnsiToWide(u8 character) override { return character; }
     std::FILE* OpenFile(const char16_t* path) override { return SystemPlatform().OpenFile(path); }
     bool FileExists(const char16_t* path) override { return SystemPlatform().FileExists(path); }
     std::string GetModulePath() override { return {}; }
     void WriteDebugOutput(const char*) override { }
     void RangeFailure() override { }
-    bool OpenClipboard() override { return false; }
+    bool OpenClipboard() override { return true; }
     void CloseClipboard() override { }
-    bool EmptyClipboard() override { return false; }
-    bool SetClipboardText(const std::string&) override { return false; }
-    bool GetClipboardText(std::string&) override { return false; }
+    bool EmptyClipboard() override { return SetClipboardText({}); }
+    bool SetClipboardText(const std::string& text) override
+    {
+        Clipboard = text;
+        return true;
+    }
+    bool GetClipboardText(std::string& text) override
+    {
+        text = Clipboard;
+        return !text.empty();
+    }
 };
