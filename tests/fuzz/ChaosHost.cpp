@@ -70,6 +70,14 @@ int ChaosHost::ExecuteAtom(u32 atom, u32, int, char**, _MvTypeVar* self)
     return 0;
 }
 
+// Compares two things without any sense.
+int ChaosHost::ExecuteAtomForText(u32, int, char** argv, _MvTypeVar* self, u32, char* output, u32 size)
+{
+    std::snprintf(output, size, "%d", (argv[0][0] ^ argv[1][0]) % 3 - 1);
+    CalledOut(CallOut::ExecuteAtomForText, static_cast<TeskElement*>(self->Value.Object));
+    return 0;
+}
+
 int ChaosHost::ExecuteCommand(const char*)
 {
     CalledOut(CallOut::ExecuteCommand, g_UIManager.GetMouseOverElement());

@@ -32,6 +32,7 @@ enum class CallOut : u8 {
     SaveElementPosition,
     LoadElementPosition,
     PrintLine,
+    ExecuteAtomForText,
     Count,
 };
 
@@ -62,9 +63,10 @@ public:
     HostScriptInterface* GetScriptInterface() override { return nullptr; }
     u32 CompileAtom(const char*, u32) override;
     void ReleaseAtom(u32 atom) override { Books.TakeBack("atom", atom); }
-    int ExecuteAtomForText(u32, int, char**, _MvTypeVar*, u32, char*, u32) override { return 0; }
+    int ExecuteAtomForText(
+        u32 atom, int argc, char** argv, _MvTypeVar* self, u32 unused, char* output, u32 size) override;
     int ExecuteAtom(u32 atom, u32, int, char**, _MvTypeVar* self) override;
-    u32 FindAtom(const char*) override { return 0; }
+    u32 FindAtom(const char*) override { return Refuses() ? 0 : 1; }
     u32 PreParseSequence(const char*, u32) override { return Lend("sequence"); }
     bool RetrieveOriginalText(u32, char*, u32) override { return false; }
     bool RetrieveProcessedText(u32 sequence, char* buffer, u32 size) override;

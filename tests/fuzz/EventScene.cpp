@@ -20,6 +20,11 @@ constexpr char Values[] =
     "</Texture></Filler><Slider><Width>20</Width><Height>60</Height><Range>50</Range><OnChange>0</OnChange></Slider>"
     "<UpButton><X>30</X><Width>20</Width><Height>20</Height></UpButton>"
     "<DownButton><X>30</X><Y>30</Y><Width>20</Width><Height>20</Height></DownButton>"
+    "<ScrollBar><Width>12</Width><Height>100%</Height><Slider><Width>12</Width><Height>100%</Height>"
+    "<OnChange>0</OnChange></Slider></ScrollBar><ListBox Template='all'/><FullHeight>160</FullHeight>"
+    "<ButtonWidth>20</ButtonWidth><ButtonTexture Filename='#fill'/><SelectionColor>80ffffff</SelectionColor>"
+    "<Items><item Value='9'>row 1</item><item Value='10' Default='1'>c</item><item>${x}</item><item>b</item>"
+    "<item>c</item><item>d</item><item>e</item><item Color='ff'>f</item></Items>"
     "<StorePosition>1</StorePosition><FadeDuration>40</FadeDuration><FadeAlpha>0.5</FadeAlpha>";
 
 std::string Tag(const char* name, const std::string& value)
@@ -58,6 +63,10 @@ std::string Variation(u8 bits)
         text += Tag("UpdateInterval", "2");
     if (bits % 6 == 5)
         text += Tag("Vertical", "1") + Tag("Repeat", "-1");
+    if (bits % 5 == 1)
+        text += Tag("SelectMultiple", "1") + Tag("Sort", "User");
+    if (bits % 5 == 3)
+        text += Tag("Sort", "Text");
     return text;
 }
 
@@ -70,14 +79,17 @@ std::string ElementMarkup(const std::string& kind, const std::string& name, cons
 std::set<std::string> StandingKinds()
 {
     std::set<std::string> kinds;
+    XMLNode* values = g_UIManager.AddTemplate("all", TemplateMarkup().c_str());
     for (const auto& [name, factory] : g_UIManager.Factories) {
         const std::string kind(name.Text());
-        TeskElement* element = g_UIManager.LoadElement(g_UIManager.Screen, kind.c_str(), "trial");
+        g_UIManager.LoadElement(g_UIManager.Screen, kind.c_str(), "trial", values, nullptr);
+        TeskElement* element = g_UIManager.FindElement("trial"); // a window gives its client back
         if (!element)
             continue;
         kinds.insert(kind);
         g_UIManager.Screen->DeleteChild(element);
     }
+    g_UIManager.ClearTemplates();
     return kinds;
 }
 

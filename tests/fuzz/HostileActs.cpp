@@ -51,18 +51,21 @@ void ClickOwn(TeskElement& self, u8 argument)
 constexpr const char* MemberWords[] = {"Name", "Parent", "Children", "Next", "Previous", "FindChild", "FindUsableChild",
     "AddChild", "GetMetadata", "HitTest", "FadeState", "Font", "Texture", "TexturePressed", "TextureHover", "Text",
     "Checked", "Down", "Group", "Visible", "Nonsense", "NumLines", "Type", "AbsoluteAlpha", "Range", "Value",
-    "Vertical", "HandleTexture"};
+    "Vertical", "HandleTexture", "Item", "OrderedItem", "ItemByText", "ItemByValue", "SelectedItem", "SelectedItems",
+    "SortType", "Order", "Selection"};
 
 constexpr const char* MethodWords[] = {"Destroy", "AddChild", "SetZOrder", "SetStrata", "SetWidth", "SetHeight", "Hide",
     "ToggleVisible", "SetFocus", "LeftClick", "LeftMouseDown", "LeftMouseUp", "RightClick", "RightMouseDown",
     "RightMouseUp", "BeginFade", "SetMetadata", "UnsetMetadata", "SetText", "SetTexture", "SetTexturePressed",
     "SetTextureHover", "SetChecked", "UnsetChecked", "ToggleChecked", "SetUpdateInterval", "SetGroup", "AddLine",
     "Reset", "Nonsense", "SetBorder", "SetName", "SetHeight", "EnableBold", "Set", "SetRect", "SetAlpha", "SetRange",
-    "SetValue", "RaiseValue", "LowerValue"};
+    "SetValue", "RaiseValue", "LowerValue", "SetSortType", "SetSelectMultiple", "DeselectItem", "SelectItem",
+    "ItemToggleSelect", "ClearSelection", "AddItem", "RemoveItem", "ClearItems", "SetItemText", "SetItemColor", "Sort",
+    "Select", "Deselect", "Toggle", "Remove", "SetSelection"};
 
 constexpr const char* ArgumentWords[] = {"", "frame", "top", "Button", "-1", "4294967295", "1e30", "nan", "${x}",
     "HitTest", "widthCircle", "<frame><OnLoad>0</OnLoad></frame>", "<text><Text>${x}</Text></text>", "all", "#camera",
-    "<broken"};
+    "<broken", "1", "3", "c", "textreverse"};
 
 // Up to three arguments, chosen by the byte.
 class Words

@@ -24,6 +24,9 @@ FIRST_EVENT = PLACES.pop("Count")
 PLACES |= {name: FIRST_EVENT + number for name, number in
            names("../../teskara/element/TeskElementMarkup.cpp", r'\{"(On[A-Za-z]+)", +Markup::Event').items()}
 
+WORDS = re.search(r"MethodWords\[\] = \{(.*?)\};", (HERE / "HostileActs.cpp").read_text(encoding="utf-8"), re.DOTALL)[1]
+METHODS = re.findall(r'"(\w+)"', WORDS)
+
 OVER_FIRST = 0x11  # where the first element of the scene lies
 OVER_SECOND = 0x13
 OVER_BOX = 0x7e
@@ -43,6 +46,14 @@ def arm(place, act, argument=0, times=1):
 
 def act(element, name, argument=0):
     return step("act", element, ACTS[name], argument)
+
+
+def call(element, method):
+    """Calls a method of the element with at least one argument."""
+    number = METHODS.index(method)
+    while number % 4 == 0:
+        number += len(METHODS)
+    return act(element, "call own method", number)
 
 
 def click(button="left"):
@@ -84,6 +95,11 @@ SEEDS = {
     "scripts_call_types": b"\14" + b"".join(
         arm("OnLeftDown", "call own method", n) + arm("OnLeftClick", "ask own member", n) + step("move", OVER_FIRST)
         + click() for n in range(0, 40, 3)),
+    "rows": b"\20" + b"".join(
+        call(element, method) for element in range(2, 50)
+        for method in ("AddItem", "Sort", "SelectItem", "RemoveItem", "SetSelection")) + FRAME
+    + arm("ExecuteAtomForText", "delete self", 0, MANY) + b"".join(call(element, "Sort") for element in range(2, 50))
+    + FRAME,
     "commands": b"\15" + arm("ExecuteCommand", "delete self") + arm("SetOutputConsole", "delete another", 5)
     + arm("Calculate", "delete another", 4) + TOUR + step("move", OVER_SECOND) + TOUR,
     "throwing": b"\16" + b"".join(arm(place, "throw") for place in PLACES) + LOAD + TOUR
