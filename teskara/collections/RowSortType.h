@@ -12,7 +12,7 @@ enum RowSortType : u32 {
     SortUser = 1, // as the user drags them
     SortText = 2,
     SortValue = 3, // as texts: 10 stands before 9
-    SortCustom = 4, // only when a script asks for it
+    SortCustom = 4, // as the host or a script compares them
     SortTextReverse = 5,
     SortValueReverse = 6,
 };

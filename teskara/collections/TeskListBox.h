@@ -90,7 +90,7 @@ public:
     void ReplaceValue(ListBoxItem& item, const char* value);
 
     // Sorts by a script's answers, which may make no sense. Rows that the script adds or removes meanwhile leave the
-    // order as it was. False: the list is being sorted so already, or there is no memory.
+    // order as it was. False: the list is being sorted by such answers already, or there is no memory.
     bool SortByAtom(u32 atom);
 
     // Adds the rows that an element of markup lists; null has none. Afterwards the list may be gone.
@@ -109,6 +109,11 @@ public:
     u32 TextColor = 0; // of rows without a colour of their own
     TeskScrollBar* ScrollBar = nullptr; // a child; its high end is the top of the list
     bool AutoSort = false; // whether each new row is sorted in
+
+    // How SortCustom sorts: above 0 if right belongs above left. Its answers may make no sense, as those of a script.
+    // Null: nothing sorts so by itself, and only a script's Sort does.
+    int (*CustomCompare)(const ListBoxItem* left, const ListBoxItem* right) = nullptr;
+
     u32 TopOrder = 0; // first row that shows
     RowSelection SelectedItems;
     u32 DragItem = 0; // id of the row that is being dragged
@@ -122,8 +127,9 @@ private:
     void DrawRows();
     void PressRow(u32 id);
     void TellSelection(const ScriptPointer& script, u32 id);
+    template <class Compare> bool SortBy(Compare&& compare);
 
     RowStore m_Rows;
     RowOrder m_Order;
-    bool m_InScriptedSort = false;
+    bool m_IsSorting = false; // by somebody's answers
 };

@@ -180,13 +180,23 @@ ListBoxItem* TeskListBox::FindOrderedByValue(const char* value)
 
 void TeskListBox::ApplySort()
 {
-    m_Order.Sort(SortType);
+    if (SortType == SortCustom && CustomCompare)
+        SortBy(CustomCompare);
+    else
+        m_Order.Sort(SortType);
 }
 
-// Once rows have come or gone no row of the copy is looked at any more.
 bool TeskListBox::SortByAtom(u32 atom)
 {
-    if (m_InScriptedSort)
+    return SortBy([this, atom](const ListBoxItem* left, const ListBoxItem* right) {
+        return CompareByAtom(atom, *this, *left, *right);
+    });
+}
+
+// What compares may run scripts. Once rows have come or gone no row of the copy is looked at any more.
+template <class Compare> bool TeskListBox::SortBy(Compare&& compare)
+{
+    if (m_IsSorting)
         return false;
 
     const ElementWatch self(*this);
@@ -195,18 +205,18 @@ bool TeskListBox::SortByAtom(u32 atom)
     std::vector<ListBoxItem*> rows;
     try {
         rows.assign(m_Order.Rows().begin(), m_Order.Rows().end());
-        m_InScriptedSort = true;
-        MergeSort(rows, [&](const ListBoxItem* left, const ListBoxItem* right) {
-            return isAsBefore() ? CompareByAtom(atom, *this, *left, *right) : 0;
-        });
+        m_IsSorting = true;
+        MergeSort(rows,
+            [&](const ListBoxItem* left, const ListBoxItem* right) { return isAsBefore() ? compare(left, right) : 0; });
     } catch (...) {
-        m_InScriptedSort = false; // nothing has been compared yet
+        if (self.Exists())
+            m_IsSorting = false;
         return false;
     }
     if (!self.Exists())
         return true;
 
-    m_InScriptedSort = false;
+    m_IsSorting = false;
     if (isAsBefore())
         m_Order.Arrange(rows);
     return true;

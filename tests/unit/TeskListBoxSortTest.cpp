@@ -112,3 +112,26 @@ TEST_F(TeskListBoxSortTest, WhatAScriptSortsMeanwhileGivesWay)
     }));
     EXPECT_EQ((Strings{"a", "bb", "ccc"}), Texts(list));
 }
+
+TEST_F(TeskListBoxSortTest, WithoutAComparisonACustomListStaysAsItIs)
+{
+    TeskListBox& list = MakeListOf({"b", "a"}, "<Sort>custom</Sort>");
+    list.ApplySort();
+    EXPECT_EQ((Strings{"b", "a"}), Texts(list));
+}
+
+TEST_F(TeskListBoxSortTest, TheHostMayCompareTheRowsOfACustomList)
+{
+    TeskListBox& list = MakeListOf({"bb", "a", "ccc"}, "<Sort>custom</Sort>");
+    list.CustomCompare = [](const ListBoxItem* left, const ListBoxItem* right) {
+        return static_cast<int>(right->Text->size()) - static_cast<int>(left->Text->size());
+    };
+    list.ApplySort();
+    EXPECT_EQ((Strings{"ccc", "bb", "a"}), Texts(list));
+    list.AddItem("dddd", nullptr, 0);
+    EXPECT_EQ((Strings{"dddd", "ccc", "bb", "a"}), Texts(list));
+
+    list.SortType = SortText;
+    list.ApplySort();
+    EXPECT_EQ((Strings{"a", "bb", "ccc", "dddd"}), Texts(list));
+}
