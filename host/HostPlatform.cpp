@@ -21,10 +21,16 @@ bool HasDisplay()
 
 HostPlatform::HostPlatform(const HostClock& clock) : m_Clock(clock), m_System(SystemPlatform()) { }
 
-void HostPlatform::SetTypedCharacter(u32 key, u8 character)
+void HostPlatform::SetTypedCharacter(u32 key, char32_t character)
 {
-    if (key < std::size(m_Typed))
+    if (key < m_Typed.size())
         m_Typed[key] = character;
+}
+
+void HostPlatform::ForgetTypedCharacter(u32 key)
+{
+    if (key < m_Typed.size())
+        m_Typed[key].reset();
 }
 
 u32 HostPlatform::GetTickCount()
@@ -43,10 +49,17 @@ bool HostPlatform::IsKeyToggled(u32 key)
 
 int HostPlatform::ToAscii(u32 key, const u8* keyState, char* characters)
 {
+    const std::optional<char32_t> typed = key < m_Typed.size() ? m_Typed[key] : std::nullopt;
+    if (typed.value_or(0) != 0)
+        return m_CodePage.Encode(*typed, characters);
+
+    // SDL has no text for the control characters.
     const bool control = (keyState[KeyControl] & Held) != 0;
-    u8 character = key < std::size(m_Typed) ? m_Typed[key] : u8{0};
-    if (character == 0)
-        character = CharacterOfKey(key, (keyState[KeyShift] & Held) != 0, control, (keyState[KeyCapsLock] & 1) != 0);
+    if (typed && !control)
+        return 0;
+
+    const bool shift = (keyState[KeyShift] & Held) != 0;
+    const u8 character = CharacterOfKey(key, shift, control, (keyState[KeyCapsLock] & 1) != 0);
     if (character == 0)
         return 0;
 
@@ -56,7 +69,8 @@ int HostPlatform::ToAscii(u32 key, const u8* keyState, char* characters)
 
 char16_t HostPlatform::AnsiToWide(u8 character)
 {
-    return m_System.AnsiToWide(character);
+    const char16_t borrower = m_CodePage.BorrowerOf(character);
+    return borrower != 0 ? borrower : m_System.AnsiToWide(character);
 }
 
 std::FILE* HostPlatform::OpenFile(const char16_t* path)

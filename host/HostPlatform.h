@@ -1,6 +1,10 @@
 #pragma once
 
+#include "host/AnsiCodePage.h"
 #include "teskara/core/platform/Platform.h"
+
+#include <array>
+#include <optional>
 
 namespace host {
 
@@ -13,8 +17,10 @@ public:
     // The clock is borrowed.
     explicit HostPlatform(const HostClock& clock);
 
-    // What a key gives in the user's layout, as long as it is held; 0 for what an American keyboard gives.
-    void SetTypedCharacter(u32 key, u8 character);
+    // Tells what a key gives in the user's layout, 0 for no character, until that is forgotten. A key that nothing is told
+    // of gives what it gives on an American keyboard.
+    void SetTypedCharacter(u32 key, char32_t character);
+    void ForgetTypedCharacter(u32 key);
 
     u32 GetTickCount() override;
     bool IsKeyToggled(u32 key) override;
@@ -34,7 +40,8 @@ public:
 private:
     const HostClock& m_Clock;
     Platform& m_System;
-    u8 m_Typed[256] = {};
+    std::array<std::optional<char32_t>, 256> m_Typed;
+    AnsiCodePage m_CodePage;
     std::string m_OwnClipboard; // when there is no display
 };
 

@@ -56,18 +56,20 @@ void AppendUtf8(std::string& text, char32_t character)
         text += static_cast<char>(0x80 | ((character >> (6 * index)) & 0x3F));
 }
 
+std::u16string CharacterToWide(char32_t character)
+{
+    if (character < 0x10000)
+        return {static_cast<char16_t>(character)};
+
+    return {static_cast<char16_t>(0xD800 + ((character - 0x10000) >> 10)),
+        static_cast<char16_t>(0xDC00 + ((character - 0x10000) & 0x3FF))};
+}
+
 std::u16string Utf8ToWide(std::string_view text)
 {
     std::u16string wide;
-    for (std::size_t at = 0; at < text.size();) {
-        const char32_t character = DecodeCharacter(text, at);
-        if (character < 0x10000) {
-            wide += static_cast<char16_t>(character);
-        } else {
-            wide += static_cast<char16_t>(0xD800 + ((character - 0x10000) >> 10));
-            wide += static_cast<char16_t>(0xDC00 + ((character - 0x10000) & 0x3FF));
-        }
-    }
+    for (std::size_t at = 0; at < text.size();)
+        wide += CharacterToWide(DecodeCharacter(text, at));
     return wide;
 }
 

@@ -12,6 +12,9 @@ char32_t DecodeCharacter(std::string_view text, std::size_t& at);
 
 void AppendUtf8(std::string& text, char32_t character);
 
+// One unit, or two.
+std::u16string CharacterToWide(char32_t character);
+
 std::u16string Utf8ToWide(std::string_view text);
 std::string WideToUtf8(std::u16string_view text);
 

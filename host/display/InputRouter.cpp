@@ -6,7 +6,7 @@
 #include "teskara/core/CUIManager.h"
 
 #include <cmath>
-#include <string_view>
+#include <string>
 
 namespace host {
 
@@ -17,6 +17,25 @@ constexpr float WheelNotch = 120;
 
 // A position outside of every window.
 constexpr int Nowhere = -1;
+
+// Whether a key stands where an American keyboard has a character. On others it may have another one, or none.
+bool GivesText(u32 key)
+{
+    return CharacterOfKey(key, false, false, false) >= ' ';
+}
+
+// What the key pressed last has given in the user's layout: it follows the key at once. A text that comes later is that
+// of another key or of an input method.
+std::string TakeTextOfKey()
+{
+    SDL_Event next;
+    SDL_PumpEvents();
+    if (SDL_PeepEvents(&next, 1, SDL_PEEKEVENT, SDL_FIRSTEVENT, SDL_LASTEVENT) != 1 || next.type != SDL_TEXTINPUT)
+        return {};
+
+    SDL_PeepEvents(&next, 1, SDL_GETEVENT, SDL_TEXTINPUT, SDL_TEXTINPUT);
+    return next.text.text;
+}
 
 } // namespace
 
@@ -65,24 +84,23 @@ void InputRouter::HandleWheel(const SDL_MouseWheelEvent& wheel)
         m_Manager.OnMouseWheel(static_cast<int>(whole));
 }
 
+// A key without a code comes as a text alone.
 void InputRouter::HandleKeyDown(const SDL_KeyboardEvent& key)
 {
-    // Text fields repeat held keys by themselves.
     const u32 code = ToKeyCode(key.keysym);
-    if (code == 0 || key.repeat)
+    if (code == 0)
         return;
 
-    // The text that the key gave in the user's layout has arrived together with it.
-    SDL_Event typed;
-    SDL_PumpEvents();
-    if (SDL_PeepEvents(&typed, 1, SDL_GETEVENT, SDL_TEXTINPUT, SDL_TEXTINPUT) == 1) {
-        std::size_t at = 0;
-        const std::string_view text = typed.text.text;
-        if (!text.empty())
-            m_Platform.SetTypedCharacter(code, ToAnsi(DecodeCharacter(text, at)));
-    }
-    m_KeysDown.set(code);
+    const bool isTyped = SDL_IsTextInputActive() && GivesText(code);
+    const std::string text = isTyped ? TakeTextOfKey() : "";
+    if (key.repeat) // text fields repeat held keys by themselves
+        return;
+
+    std::size_t at = 0;
+    if (isTyped)
+        m_Platform.SetTypedCharacter(code, text.empty() ? 0 : DecodeCharacter(text, at));
     m_Manager.OnKeyDown(code);
+    HandleText(std::string_view(text).substr(at));
 }
 
 void InputRouter::HandleKeyUp(const SDL_KeyboardEvent& key)
@@ -91,24 +109,19 @@ void InputRouter::HandleKeyUp(const SDL_KeyboardEvent& key)
     if (code == 0)
         return;
 
-    m_KeysDown.reset(code);
     m_Manager.OnKeyUp(code);
-    m_Platform.SetTypedCharacter(code, 0);
+    m_Platform.ForgetTypedCharacter(code);
 }
 
-void InputRouter::HandleText(const char* text)
+// Text that is no key's: each character is a press of a key that stands for it.
+void InputRouter::HandleText(std::string_view text)
 {
-    // Text of a held key that repeats comes here too, and it is not wanted; an input method holds no key.
-    if (m_KeysDown.any())
-        return;
-
-    const std::string_view whole = text;
-    for (std::size_t at = 0; at < whole.size();) {
-        m_Platform.SetTypedCharacter(KeyTypedText, ToAnsi(DecodeCharacter(whole, at)));
+    for (std::size_t at = 0; at < text.size();) {
+        m_Platform.SetTypedCharacter(KeyTypedText, DecodeCharacter(text, at));
         m_Manager.OnKeyDown(KeyTypedText);
         m_Manager.OnKeyUp(KeyTypedText);
     }
-    m_Platform.SetTypedCharacter(KeyTypedText, 0);
+    m_Platform.ForgetTypedCharacter(KeyTypedText);
 }
 
 void InputRouter::HandleWindow(const SDL_WindowEvent& window)

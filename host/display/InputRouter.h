@@ -4,7 +4,7 @@
 
 #include <SDL.h>
 
-#include <bitset>
+#include <string_view>
 
 class CUIManager;
 
@@ -27,13 +27,12 @@ private:
     void HandleWheel(const SDL_MouseWheelEvent& wheel);
     void HandleKeyDown(const SDL_KeyboardEvent& key);
     void HandleKeyUp(const SDL_KeyboardEvent& key);
-    void HandleText(const char* text);
+    void HandleText(std::string_view text);
     void HandleWindow(const SDL_WindowEvent& window);
     void MoveMouse(int x, int y);
 
     CUIManager& m_Manager;
     HostPlatform& m_Platform;
-    std::bitset<256> m_KeysDown;
     float m_WheelRest = 0;
 };
 
