@@ -5,8 +5,6 @@
 #include "teskara/windows/TeskWindow.h"
 #include "tests/unit/ToolkitTest.h"
 
-#include <algorithm>
-#include <iterator>
 #include <string>
 
 // Tests of windows. Their template has a title bar of 200 by 20 that shows something, with all it can have, and below it
@@ -16,17 +14,12 @@ class WindowTest : public ToolkitTest
 protected:
     WindowTest()
     {
-        std::fill(std::begin(g_UIManager.KeyState), std::end(g_UIManager.KeyState), u8{0});
-        g_UIManager.KeyStates.clear();
-        g_UIManager.ShiftDown = false;
         g_UIManager.LeftPressElementID = 0;
         g_UIManager.RightPressElementID = 0;
         g_UIManager.LastLeftClickElementID = 0;
         g_UIManager.LastRightClickElementID = 0;
         UseTemplate(TitleBarMarkup() + ClientMarkup());
     }
-
-    ~WindowTest() override { g_UIManager.ShiftDown = false; }
 
     static void UseTemplate(const std::string& markup)
     {

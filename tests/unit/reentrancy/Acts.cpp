@@ -65,6 +65,8 @@ constexpr Act Acts[] = {
     {"delete tooltip",        [] { Delete(TooltipName); }},
     {"delete own child",      [] { Delete("Child@Self@Parent@Grand"); }},
     {"delete own parts",      DeleteParts},
+    {"delete own title bar",  [] { Delete("TitleBar@Self@Parent@Grand"); }},
+    {"delete own client",     [] { Delete("Client@Self@Parent@Grand"); }},
     {"delete focus",          [] { DeleteByID(g_UIManager.FocusElementID); }},
     {"delete mouse over",     [] { DeleteByID(g_UIManager.MouseOverElementID); }},
     {"delete what is pressed", [] { DeleteByID(g_UIManager.LeftPressElementID); }},
@@ -149,7 +151,11 @@ constexpr ScriptAct ScriptActs[] = {
     {ScriptAct::This,   nullptr,   "SetSelection",  {"4"},                        DropsList},
     {ScriptAct::This,   nullptr,   "Print",         {"${more}"},                  SetsLines},
     {ScriptAct::This,   nullptr,   "SetLine",       {"0", "${more}"},             SetsLines},
-    {ScriptAct::This,   nullptr,   "Reset",         {},                           SetsLines},
+    {ScriptAct::This,   nullptr,   "Reset",         {},                           KnowsReset},
+    {ScriptAct::This,   nullptr,   "SetTitle",      {"${more}"},                  HasTitleBar},
+    {ScriptAct::This,   nullptr,   "SetClickFocus", {},                           HasTitleBar},
+    {ScriptAct::This,   nullptr,   "ToggleMinimize", {},                          HasTitleBar},
+    {ScriptAct::This,   nullptr,   "Unminimize",    {},                           HasTitleBar},
 };
 // clang-format on
 

@@ -1,5 +1,6 @@
 #include "tests/unit/reentrancy/Kinds.h"
 
+#include "teskara/element/TeskElement.h"
 #include "tests/unit/reentrancy/Scene.h"
 
 #include <ostream>
@@ -25,7 +26,9 @@ constexpr u64 IsComboBox =
     Follows | Sends(9) | RunsOnSelect | DropsList | FocusedByPress | NamesRows | HasFont | HasTexture;
 constexpr u64 IsTextEntry =
     Follows | PassesOn | Sends(3) | Sends(5) | TakesKeys | FocusedByPress | SetsText | HasTexture;
-constexpr u64 IsTooltip = PassesOn | SendsPresses | ExpandsText | SetsLines | HasFont | HasTexture | SetsTexture;
+constexpr u64 IsTooltip =
+    PassesOn | SendsPresses | ExpandsText | SetsLines | KnowsReset | HasFont | HasTexture | SetsTexture;
+constexpr u64 IsWindow = Follows | Sends(11) | HasTitleBar | KnowsReset | HasTexture | SetsTexture;
 
 constexpr char FrameMarkup[] = "<Texture Filename='#camera'/><Border>1</Border>";
 constexpr char TextMarkup[] = "<Wrap>1</Wrap><Text>${words}</Text>";
@@ -62,6 +65,20 @@ constexpr char ComboBoxMarkup[] =
 constexpr char TextEntryMarkup[] = "<MaxLength>20</MaxLength><Texture Filename='#a'/><TextureFocused Filename='#b'/>"
                                    "<Border>1</Border><OnChange>OnChange</OnChange>";
 
+// The client lies away from where the mouse goes, and its children follow its size.
+constexpr char WindowMarkup[] =
+    "<Texture Filename='#a'/><WidthResizable/><ClickFocus>Field</ClickFocus><TitleBar><Width>40</Width>"
+    "<Height>40</Height><BackgroundColor>ff000000</BackgroundColor><OnLoad>OnLoad of a part</OnLoad><Children>"
+    "<text name='Title'/><button name='Minimize'><X>20</X><OnUnload>OnUnload of a part</OnUnload></button></Children>"
+    "</TitleBar><Client><Width>r47</Width><Height>100%</Height><Children><frame name='Field'>"
+    "<OnKeyboardEnter>OnKeyboardEnter of a part</OnKeyboardEnter></frame></Children></Client>";
+
+// Where the mouse goes is the title bar, and yet the mouse finds the window itself.
+void PrepareWindow()
+{
+    Self()->FirstChild->Show(false);
+}
+
 // A tooltip is loaded hidden and without lines.
 void PrepareTooltip()
 {
@@ -87,6 +104,7 @@ constexpr Kind Kinds[] = {
     {"combobox",        IsComboBox,                            ComboBoxMarkup,  nullptr},
     {"textentry",       IsTextEntry,                           TextEntryMarkup, nullptr},
     {"tooltip",         IsTooltip,                             FrameMarkup,     PrepareTooltip},
+    {"window",          IsWindow,                              WindowMarkup,    PrepareWindow},
     {"foreigntext",     IsText | ReadsFonts,                   TextMarkup,      nullptr},
     {"foreignframe",    IsFrame | ReadsTextures,               FrameMarkup,     nullptr},
     {"foreign",         Follows | PassesOn | IsForeign,        "",              nullptr},

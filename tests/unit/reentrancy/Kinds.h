@@ -32,6 +32,8 @@ enum Trait : u64 {
     RunsOnSelect = u64{1} << 42, // a script for the selection
     TakesKeys = u64{1} << 43, // a field for text
     FocusedByPress = u64{1} << 44,
+    HasTitleBar = u64{1} << 45, // a window, whose parts have scripts
+    KnowsReset = u64{1} << 46, // its type has a method of that name
 };
 
 // It tells its parent so, of its own accord or for others.

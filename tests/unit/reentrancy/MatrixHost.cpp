@@ -27,8 +27,11 @@ MatrixHost::MatrixHost()
         g_Bomb.Reach("ExecuteAtomForText");
         return "1";
     };
-    for (const char* event : EventNames())
+    for (const char* event : EventNames()) {
+        const std::string ofPart = std::string(event) + " of a part";
         Scripts[event] = [event](TeskElement&) { g_Bomb.Reach(event); };
+        Scripts[ofPart] = [ofPart](TeskElement&) { g_Bomb.Reach(ofPart); };
+    }
 }
 
 MatrixHost::~MatrixHost()

@@ -62,6 +62,7 @@ protected:
 
     void BuildScene()
     {
+        g_UIManager.AltDown = true; // some kinds take the mouse only then
         g_UIManager.NewSkin("Dark");
         g_UIManager.AltDown = true; // some kinds take the mouse only then
         LoadScene();

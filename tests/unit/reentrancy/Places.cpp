@@ -257,6 +257,35 @@ void CallSetHeightOfParent()
     Tell(g_UIManager.FindElement("Parent@Grand"), "SetHeight", {"300"});
 }
 
+void CallSetWidth()
+{
+    Tell(Self(), "SetWidth", {"77"});
+}
+
+// What a window lays out anew has a size that it is not to have.
+void CallReset()
+{
+    if (TeskElement* client = g_UIManager.FindElement("Client@Self@Parent@Grand"))
+        client->Width = 7;
+    Tell(Self(), "Reset");
+}
+
+void DragTheLeftEdge()
+{
+    MoveTo(8, 30);
+    g_UIManager.OnLMouseDown();
+    MoveTo(4, 30);
+    g_UIManager.OnLMouseUp();
+}
+
+void PressTheTitleBar()
+{
+    if (TeskElement* titleBar = g_UIManager.FindElement("TitleBar@Self@Parent@Grand"))
+        titleBar->Show(true);
+    Aim();
+    PressLeft();
+}
+
 void CallSetTexture()
 {
     Tell(Self(), "SetTexture", {"<T Filename='#other'/>"});
@@ -368,6 +397,8 @@ constexpr Place Places[] = {
     {"SizeRecalculated",     "load",                  IsForeign,     Load},
     {"OnCreate",             "load",                  IsForeign,     Load},
     {"OnLoad",               "load",                  EveryKind,     Load},
+    {"OnLoad of a part",     "load",                  HasTitleBar,   Load},
+    {"OnUnload of a part",   "load",                  HasTitleBar,   Load},
     {"OnSelect",             "load",                  RunsOnSelect,  Load},
     {"OnChange",             "load",                  HasRows,       Load},
     {"PrintLine",            "load",                  EveryKind,     Load},
@@ -428,6 +459,10 @@ constexpr Place Places[] = {
     {"OnChange",             "wheel",                 HasRows,       TurnWheelDown},
     {"OnSelect",             "pick",                  DropsList,     OpenAndPickRow},
 
+    {"SizeRecalculated of the child", "drag an edge", HasTitleBar,   DragTheLeftEdge},
+    {"OnKeyboardEnter of a part", "click",            HasTitleBar,   ClickLeft},
+    {"OnKeyboardEnter of a part", "click the title bar", HasTitleBar, PressTheTitleBar},
+
     // the keyboard
     {"OnKeyboardEnter",      "focus",                 EveryKind,     FocusSelf},
     {"OnKeyboardExit",       "focus another",         EveryKind,     FocusAnother},
@@ -455,6 +490,8 @@ constexpr Place Places[] = {
     {"OnLoad",               "AddChild",              EveryKind,     CallAddChild},
     {"SizeRecalculated",     "SetHeight",             IsForeign,     CallSetHeightOfParent},
     {"SizeRecalculated of the child", "SetHeight",    EveryKind,     CallSetHeightOfParent},
+    {"SizeRecalculated of the child", "SetWidth",     EveryKind,     CallSetWidth},
+    {"SizeRecalculated of the child", "Reset",        HasTitleBar,   CallReset},
     {"TextureFromXML",       "SetTexture",            ReadsTextures, CallSetTexture},
     {"Calculate",            "SetWrap",               ExpandsText | SetsText, CallSetWrap},
     {"OnChange",             "SetValue",              RunsOnChange,  CallSetValue},
