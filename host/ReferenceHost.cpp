@@ -33,7 +33,7 @@ bool WritePath(const std::optional<std::string>& found, char* path)
 } // namespace
 
 ReferenceHost::ReferenceHost(SDL_Renderer* renderer, const std::filesystem::path& positions, ScriptTrust trust)
-    : m_Canvas(renderer), m_Positions(positions), m_StoresPositions(!positions.empty()), m_Scripts(m_Console, trust)
+    : m_Canvas(renderer), m_Positions(positions, m_Console), m_Scripts(m_Console, trust)
 {
     m_Scripts.Commands.Add("run", [this](int argc, char** argv) { return RunScriptFile(argc, argv); });
 }
@@ -43,6 +43,12 @@ void ReferenceHost::BeginFrame(const FrameState& state, float scale)
     m_Frame = state;
     m_Scripts.BeginFrame(state);
     m_Canvas.BeginFrame(state.Width, state.Height, scale);
+}
+
+bool ReferenceHost::EndFrame()
+{
+    m_Positions.Save();
+    return m_Canvas.EndFrame();
 }
 
 HostScript* ReferenceHost::GetCurrentScript()
@@ -229,9 +235,8 @@ bool ReferenceHost::OpenClipboard()
 void ReferenceHost::SaveElementPosition(TeskElement* element)
 {
     StoredPositions::Position position;
-    if (m_StoresPositions && element->GetStoragePosition(position.X, position.Y, position.Width, position.Height))
-        if (!m_Positions.Store(element->FullName.c_str(), position))
-            m_Console.Print("Could not store the position of %s", element->FullName.c_str());
+    if (element->GetStoragePosition(position.X, position.Y, position.Width, position.Height))
+        m_Positions.Store(element->FullName.c_str(), position);
 }
 
 void ReferenceHost::LoadElementPosition(TeskElement* element)

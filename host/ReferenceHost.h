@@ -28,7 +28,7 @@ public:
     void BeginFrame(const FrameState& state, float scale);
 
     // Ends it. True if it has to be presented.
-    bool EndFrame() { return m_Canvas.EndFrame(); }
+    bool EndFrame();
 
     // The target lost its pixels; or the device lost its textures.
     void Invalidate() { m_Canvas.Invalidate(); }
@@ -100,7 +100,6 @@ private:
     Canvas m_Canvas;
     SearchPaths m_Paths;
     StoredPositions m_Positions;
-    bool m_StoresPositions;
     ScriptEngine m_Scripts;
     std::string m_OutputConsole;
     u32 m_LastClass = 0;

@@ -1,9 +1,12 @@
 #include "host/files/StoredPositions.h"
 
+#include "host/Console.h"
+#include "host/files/WholeFile.h"
+
+#include <charconv>
 #include <cstdlib>
 #include <fstream>
-#include <locale>
-#include <sstream>
+#include <string_view>
 
 namespace host {
 
@@ -12,23 +15,63 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr const char* FilePath = "teskara/positions.txt";
+constexpr const char* SetAsideEnding = ".damaged";
+
+constexpr std::string_view FirstLine = "positions of teskara, 1";
+constexpr std::string_view LastLine = "end";
+
+// No desktop has so many windows.
+constexpr std::uintmax_t LargestFile = 4 * 1024 * 1024;
+
+// Takes a number and the blank behind it off the front of a line.
+template <class Number> bool TakeNumber(std::string_view& line, Number& number)
+{
+    const char* end = line.data() + line.size();
+    const auto [next, error] = std::from_chars(line.data(), end, number);
+    if (error != std::errc() || next == end || *next != ' ')
+        return false;
+
+    line.remove_prefix(static_cast<std::size_t>(next - line.data()) + 1);
+    return true;
+}
+
+// Names are shown to people, and lines end where they end.
+bool IsName(std::string_view name)
+{
+    for (const char byte : name) {
+        if (static_cast<unsigned char>(byte) < 0x20)
+            return false;
+    }
+    return !name.empty();
+}
 
 } // namespace
 
 fs::path StoredPositions::DefaultFile()
 {
-    const char* state = std::getenv("XDG_STATE_HOME");
-    if (state && *state)
-        return fs::path(state) / FilePath;
+    const char* data = std::getenv("XDG_DATA_HOME");
+    if (data && *data)
+        return fs::path(data) / FilePath;
 
     const char* home = std::getenv("HOME");
-    return home && *home ? fs::path(home) / ".local/state" / FilePath : fs::path();
+    return home && *home ? fs::path(home) / ".local/share" / FilePath : fs::path();
 }
 
-StoredPositions::StoredPositions(fs::path file) : m_File(std::move(file))
+StoredPositions::StoredPositions(fs::path file, Console& console) : m_File(std::move(file)), m_Console(console)
 {
-    if (!m_File.empty())
-        Read();
+    std::error_code error;
+    if (m_File.empty() || !fs::exists(fs::symlink_status(m_File, error)))
+        return;
+
+    if (auto positions = Read())
+        m_Positions = std::move(*positions);
+    else
+        SetAside();
+}
+
+StoredPositions::~StoredPositions()
+{
+    Save();
 }
 
 const StoredPositions::Position* StoredPositions::Find(const std::string& name) const
@@ -37,46 +80,86 @@ const StoredPositions::Position* StoredPositions::Find(const std::string& name) 
     return found == m_Positions.end() ? nullptr : &found->second;
 }
 
-bool StoredPositions::Store(const std::string& name, const Position& position)
+void StoredPositions::Store(const std::string& name, const Position& position)
 {
-    if (name.find('\n') != name.npos)
-        return false;
-
-    m_Positions[name] = position;
-    return m_File.empty() || Write();
-}
-
-void StoredPositions::Read()
-{
-    std::ifstream file(m_File);
-    for (std::string line; std::getline(file, line);) {
-        std::istringstream words(line);
-        words.imbue(std::locale::classic());
-        Position position;
-        std::string name;
-        if (words >> position.X >> position.Y >> position.Width >> position.Height >> std::ws
-            && std::getline(words, name) && !name.empty())
-            m_Positions[name] = position;
+    if (!IsName(name)) {
+        m_Console.Print("The position of '%s' cannot be stored under such a name", name.c_str());
+        return;
     }
+    const auto [entry, isNew] = m_Positions.try_emplace(name, position);
+    if (!isNew && entry->second == position)
+        return;
+
+    entry->second = position;
+    m_Changed = true;
 }
 
-// Writes beside the file and renames, so that a run that ends in between leaves the old file whole.
-bool StoredPositions::Write() const
+bool StoredPositions::Save()
+{
+    if (!m_Changed)
+        return true;
+
+    m_Changed = false;
+    if (m_File.empty() || WriteWholeFile(m_File, Text()))
+        return true;
+
+    m_Console.Print("Could not write %s; positions of windows are not kept", m_File.c_str());
+    return false;
+}
+
+std::string StoredPositions::Text() const
+{
+    std::string text(FirstLine);
+    for (const auto& [name, position] : m_Positions) {
+        text += '\n' + std::to_string(position.X) + ' ' + std::to_string(position.Y) + ' '
+            + std::to_string(position.Width) + ' ' + std::to_string(position.Height) + ' ' + name;
+    }
+    return text + '\n' + std::string(LastLine) + '\n';
+}
+
+// Nothing: the file is damaged, or is no file.
+std::optional<StoredPositions::Positions> StoredPositions::Read() const
 {
     std::error_code error;
-    fs::create_directories(m_File.parent_path(), error);
-    const fs::path fresh = m_File.string() + ".new";
-    {
-        std::ofstream file(fresh, std::ios::trunc);
-        file.imbue(std::locale::classic());
-        for (const auto& [name, position] : m_Positions)
-            file << position.X << ' ' << position.Y << ' ' << position.Width << ' ' << position.Height << ' ' << name
-                 << '\n';
-        if (!file.flush())
-            return false;
+    if (!fs::is_regular_file(m_File, error) || fs::file_size(m_File, error) > LargestFile)
+        return std::nullopt;
+
+    std::ifstream file(m_File, std::ios::binary);
+    return Parse(file);
+}
+
+std::optional<StoredPositions::Positions> StoredPositions::Parse(std::istream& file)
+{
+    std::string text;
+    if (!std::getline(file, text) || text != FirstLine)
+        return std::nullopt;
+
+    Positions positions;
+    while (std::getline(file, text) && text != LastLine) {
+        std::string_view line = text;
+        Position position;
+        if (!TakeNumber(line, position.X) || !TakeNumber(line, position.Y) || !TakeNumber(line, position.Width)
+            || !TakeNumber(line, position.Height) || !IsName(line))
+            return std::nullopt;
+        positions[std::string(line)] = position;
     }
-    fs::rename(fresh, m_File, error);
-    return !error;
+    if (text != LastLine || file.eof() || file.peek() != std::istream::traits_type::eof())
+        return std::nullopt;
+    return positions;
+}
+
+// Whoever wants to mend it finds it there. What cannot be set aside is left alone from now on.
+void StoredPositions::SetAside()
+{
+    const fs::path aside = m_File.string() + SetAsideEnding;
+    std::error_code error;
+    fs::rename(m_File, aside, error);
+    if (!error) {
+        m_Console.Print("%s is damaged and was set aside as %s", m_File.c_str(), aside.c_str());
+        return;
+    }
+    m_Console.Print("%s is damaged; positions of windows are not kept", m_File.c_str());
+    m_File.clear();
 }
 
 } // namespace host
