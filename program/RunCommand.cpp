@@ -1,5 +1,6 @@
 #include "host/InterfaceSession.h"
 #include "host/display/InputRouter.h"
+#include "host/display/MouseCursor.h"
 #include "host/display/Window.h"
 #include "program/Commands.h"
 #include "program/DisplaySize.h"
@@ -37,12 +38,14 @@ bool HandleEvents(host::InterfaceSession& session, host::InputRouter& input)
 void RunFrames(host::InterfaceSession& session, host::Window& window)
 {
     host::InputRouter input(g_UIManager, session.System());
+    host::MouseCursor cursor;
     SDL_StartTextInput();
     bool shown = false;
     for (u32 due = SDL_GetTicks(); HandleEvents(session, input);) {
         const bool fresh = session.DrawFrame(window.Width(), window.Height(), window.Scale());
         if (fresh)
             window.Present();
+        cursor.Show(host::ShapeAtMouse(g_UIManager));
         if (!shown) {
             window.Show();
             shown = true;
