@@ -25,6 +25,11 @@ constexpr char Values[] =
     "<ButtonWidth>20</ButtonWidth><ButtonTexture Filename='#fill'/><SelectionColor>80ffffff</SelectionColor>"
     "<Items><item Value='9'>row 1</item><item Value='10' Default='1'>c</item><item>${x}</item><item>b</item>"
     "<item>c</item><item>d</item><item>e</item><item Color='ff'>f</item></Items>"
+    "<Resizable MinWidth='9' MinHeight='9'/><CloseButton/><MinimizeButton/><TitleBar Template='all'><Width>60</Width>"
+    "<Height>20</Height><Children><text name='Title' Template='all'/><button name='Minimize' Template='all'>"
+    "<X>20</X><Width>20</Width><Height>20</Height></button><button name='Close' Template='all'><X>40</X>"
+    "<Width>20</Width><Height>20</Height></button></Children></TitleBar>"
+    "<Client Template='all'><Y>20</Y><Width>100%</Width><Height>r20</Height></Client>"
     "<StorePosition>1</StorePosition><FadeDuration>40</FadeDuration><FadeAlpha>0.5</FadeAlpha>";
 
 std::string Tag(const char* name, const std::string& value)
@@ -67,6 +72,8 @@ std::string Variation(u8 bits)
         text += Tag("SelectMultiple", "1") + Tag("Sort", "User");
     if (bits % 5 == 3)
         text += Tag("Sort", "Text");
+    if (bits % 6 == 1)
+        text += Tag("ClickFocus", "in") + Tag("Title", "${x}") + Tag("Locked", bits % 4 == 3 ? "1" : "0");
     return text;
 }
 

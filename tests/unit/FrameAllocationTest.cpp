@@ -103,3 +103,29 @@ TEST_F(FrameAllocationTest, GaugesAndSlidersAllocateNothing)
     AllocationsOfFrames(2);
     EXPECT_EQ(0u, AllocationsOfFrames(100));
 }
+
+TEST_F(FrameAllocationTest, WindowsAllocateNothingAsTheyStandAndMove)
+{
+    Load("<window name='W'><X>50</X><Y>50</Y><Width>100</Width><Height>100</Height><Resizable/><MinimizeButton/>"
+         "<BackgroundColor>ff101010</BackgroundColor><TitleBar><Width>100</Width><Height>20</Height><Children>"
+         "<text name='Title'/><button name='Minimize'><X>80</X><Width>20</Width><Height>20</Height></button>"
+         "</Children></TitleBar><Client><Y>20</Y><Width>100%</Width><Height>r20</Height></Client></window>");
+    AllocationsOfFrames(2);
+    EXPECT_EQ(0u, AllocationsOfFrames(100));
+    const TeskElement& window = Element("W");
+    for (const _Point2i inside : {_Point2i{50, 10}, _Point2i{1, 60}}) {
+        const _Point2i start = {window.AbsoluteX + inside.x, window.AbsoluteY + inside.y};
+        _Point2i point = start;
+        g_UIManager.OnMouseMove(point);
+        g_UIManager.OnLMouseDown();
+        const std::size_t before = Allocations::Count();
+        for (int step = 0; step < 50; ++step) {
+            point = {start.x - step, start.y + step};
+            g_UIManager.OnMouseMove(point);
+            g_UIManager.Render();
+        }
+        EXPECT_EQ(before, Allocations::Count());
+        g_UIManager.OnLMouseUp();
+    }
+    EXPECT_EQ(155u, window.Width);
+}
