@@ -478,7 +478,7 @@ TEST_F(TeskWindowMouseTest, ABareWindowStandsEverything)
         for (const _Point2i point : {_Point2i{0, 0}, _Point2i{2147483647, -2147483647 - 1}, _Point2i{400, 300}}) {
             PressAt(point.x, point.y);
             LeftDown(window, point);
-            MoveTo(-point.y, point.x);
+            MoveTo(point.y, point.x);
             MouseMove(window, {2147483647, 2147483647});
             Release();
             window.Dragging = true;
