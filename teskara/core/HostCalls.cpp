@@ -287,6 +287,11 @@ const char* GetUserInput(const HostScript& script) noexcept
     return Call<const char*>(nullptr, [&](HostObject&) { return script.GetUserInput(); });
 }
 
+void SetUserInput(HostScript& script, const char* text) noexcept
+{
+    Call([&](HostObject&) { script.SetUserInput(text); });
+}
+
 bool ParseTypedValue(const char* text, _MvTypeVar& result) noexcept
 {
     constexpr u32 flag = 0;

@@ -155,6 +155,7 @@ HostScript* GetCurrentScript() noexcept;
 const char* GetScriptName(const HostScript& script) noexcept; // never null
 bool IsInsideAtom(const HostScript& script) noexcept;
 const char* GetUserInput(const HostScript& script) noexcept; // null: no answer
+void SetUserInput(HostScript& script, const char* text) noexcept;
 
 // --- Values
 

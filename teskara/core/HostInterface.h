@@ -13,6 +13,7 @@
 // CompleteCommandLine, SaveElementPosition, LoadElementPosition, SetOutputConsole and PrintLine. All other operations
 // return without having deleted, moved or drawn anything.
 
+#include "teskara/core/Export.h"
 #include "teskara/core/Types.h"
 
 #include <cstddef>
@@ -27,11 +28,15 @@ using CommandHandler = int (*)(int argc, char** argv);
 // A top-level script object. argv holds the index arguments alone. False: there is no value.
 using TopLevelObjectHandler = bool (*)(int argc, char** argv, _MvTypeVar& result);
 
-// A running script, as the host knows it. The host owns it; before it goes, the host clears both links.
-class HostScript
+// A running script, as the host knows it. The host owns it. Dialogs that it has open when it ends stay, and answer
+// nobody.
+class TESKARA_EXPORT HostScript
 {
 public:
-    virtual ~HostScript() = default;
+    HostScript() = default;
+    virtual ~HostScript();
+    HostScript(const HostScript&) = delete;
+    HostScript& operator=(const HostScript&) = delete;
 
     // The script's name. Valid while the script lives.
     virtual const char* GetName() const = 0;
@@ -45,7 +50,7 @@ public:
     // Keeps a copy of the answer. Null clears it.
     virtual void SetUserInput(const char* text) = 0;
 
-    // Ids of the dialogs that the script has open; 0 for none.
+    // Ids of the dialogs that the script has open; 0 for none. The toolkit sets them.
     u32 MessageBoxID = 0;
     u32 InputBoxID = 0;
 };

@@ -23,12 +23,19 @@ public:
             throw std::runtime_error("no answer");
         return UserInput;
     }
-    void SetUserInput(const char* text) override { UserInput = text; }
+    void SetUserInput(const char* text) override
+    {
+        m_Answer = text ? text : "";
+        UserInput = text ? m_Answer.c_str() : nullptr;
+    }
 
     const char* Name = "Worker";
     bool InsideAtom = false;
     bool Throws = false;
     const char* UserInput = nullptr;
+
+private:
+    std::string m_Answer;
 };
 
 // Keeps what the toolkit offers to scripts, and lets a test act in the middle of it.
