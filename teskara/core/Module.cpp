@@ -25,6 +25,9 @@
 #include "teskara/script/TypeGlobals.h"
 #include "teskara/text/TeskTextEntry.h"
 #include "teskara/windows/TeskContextMenu.h"
+#include "teskara/windows/TeskMessageBox.h"
+#include "teskara/windows/TeskScriptInputBox.h"
+#include "teskara/windows/TeskScriptMessageBox.h"
 #include "teskara/windows/TeskWindow.h"
 #include "teskara/windows/TeskWindowClient.h"
 #include "teskara/windows/TeskWindowFactory.h"
@@ -70,9 +73,9 @@ PendingFactory g_MapBlip("mapblip");
 PendingFactory g_MapBlipView("mapblipview");
 PendingFactory g_Map("map");
 PendingFactory g_MapView("mapview");
-PendingFactory g_MessageBox("messagebox");
-PendingFactory g_ScriptInputBox("scriptinputbox");
-PendingFactory g_ScriptMessageBox("scriptmessagebox");
+TeskFactory<TeskMessageBox> g_MessageBox("messagebox");
+TeskFactory<TeskScriptInputBox> g_ScriptInputBox("scriptinputbox");
+TeskFactory<TeskScriptMessageBox> g_ScriptMessageBox("scriptmessagebox");
 TeskFactory<TeskScrollBar> g_ScrollBar("scrollbar");
 TeskFactory<TeskSlider> g_Slider("slider");
 PendingFactory g_TabControl("tabcontrol");

@@ -29,3 +29,11 @@ try {
 } catch (...) {
     return false;
 }
+
+void DataText::Expand(Buffer& text)
+{
+    Buffer source;
+    CopyBounded(source, sizeof(source), text);
+    Host::Call([&](HostObject& host) { host.DataParse(source, text, sizeof(text)); });
+    text[sizeof(text) - 1] = 0;
+}

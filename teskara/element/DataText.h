@@ -16,4 +16,7 @@ TESKARA_EXPORT bool HasSequences(std::string_view text);
 // text or end what it belongs to. May run scripts. False: memory ran out, and output is empty.
 TESKARA_EXPORT bool Evaluate(std::string_view text, Buffer& output);
 
+// Evaluates a text where it stands. A host that cannot leaves it as it is. May run scripts.
+TESKARA_EXPORT void Expand(Buffer& text);
+
 } // namespace DataText

@@ -2,7 +2,6 @@
 
 #include "teskara/core/BoundedText.h"
 #include "teskara/core/HostCalls.h"
-#include "teskara/element/TeskScreen.h"
 #include "teskara/script/Arguments.h"
 
 namespace {
@@ -21,25 +20,20 @@ DialogFlags::DialogFlags(const Arguments& arguments) : m_Skin(NamedSkin(argument
 
     if (arguments.IsWord(m_Next, "-template")) {
         if (arguments.Has(m_Next + 1))
-            m_TemplateName = arguments.Text(m_Next + 1);
+            m_Template = g_UIManager.FindTemplate(arguments.Text(m_Next + 1));
         m_Next += 2;
     }
 }
 
 DialogName::DialogName(const HostScript& script, const char* dialog)
 {
-    char name[Limits::TextBuffer512];
-    CopyBounded(name, sizeof(name), Host::GetScriptName(script));
-    FormatBounded(m_Text, sizeof(m_Text), "%s %s", name, dialog);
+    CopyBounded(m_Script, sizeof(m_Script), Host::GetScriptName(script));
+    FormatBounded(m_Text, sizeof(m_Text), "%s %s", m_Script, dialog);
 }
 
-bool MakeDialog(const Arguments& arguments, const char* kind, const char* name)
+void RefuseDialog(const Arguments& arguments, TeskElement* element)
 {
-    // There are no classes of dialogs yet: what some other factory of that kind makes is none, and goes again.
-    TeskElement* element = g_UIManager.LoadElement(g_UIManager.Screen, kind, name);
     if (element && element->Parent)
         element->Parent->DeleteChild(element);
-
     Host::PrintLine("%s failed", arguments.Text(0));
-    return false;
 }

@@ -1,8 +1,11 @@
 #include "teskara/script/InputBoxCommand.h"
 
 #include "teskara/core/HostCalls.h"
+#include "teskara/element/ElementWatch.h"
 #include "teskara/script/Arguments.h"
 #include "teskara/script/DialogCommand.h"
+#include "teskara/text/TeskTextEntry.h"
+#include "teskara/windows/TeskScriptInputBox.h"
 
 namespace {
 
@@ -13,11 +16,26 @@ void PrintSyntax(const Arguments& arguments)
     Host::PrintLine("Syntax: %s [-skin <name>] [-template <name>] <text> [default]", arguments.Text(0));
 }
 
+void ShowInputBox(const Arguments& arguments, const DialogFlags& flags, HostScript& script)
+{
+    const DialogName name(script, "InputBox");
+    auto* box = MakeDialog<TeskScriptInputBox>(arguments, "scriptinputbox", name.Text());
+    if (!box)
+        return;
+
+    box->pScript.Open(script, box->ID);
+    const ElementWatch watch(*box);
+    const int text = flags.Next();
+    box->Create(name.Script(), arguments.Text(text), arguments.Text(text + 1), flags.Template());
+    if (watch.Exists() && box->Entry)
+        g_UIManager.SetFocusElement(box->Entry);
+}
+
 } // namespace
 
 int RunInputBoxCommand(const Arguments& arguments)
 {
-    const HostScript* script = Host::GetCurrentScript();
+    HostScript* script = Host::GetCurrentScript();
     if (!script) {
         Host::PrintLine("You don't look like a script, or talk like a script...dont try to be one :)");
         return NoWaitingScript;
@@ -37,6 +55,6 @@ int RunInputBoxCommand(const Arguments& arguments)
         return 0;
     }
 
-    MakeDialog(arguments, "scriptinputbox", DialogName(*script, "InputBox").Text());
+    ShowInputBox(arguments, flags, *script);
     return 0;
 }

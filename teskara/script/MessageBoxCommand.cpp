@@ -3,17 +3,34 @@
 #include "teskara/core/HostCalls.h"
 #include "teskara/script/Arguments.h"
 #include "teskara/script/DialogCommand.h"
+#include "teskara/windows/TeskScriptMessageBox.h"
 
 namespace {
+
+struct TypeFlag {
+    const char* Word;
+    eMessageBoxType Type;
+};
+
+constexpr TypeFlag TypeFlags[] = {
+    {"-ok", MessageBoxOK},
+    {"-okcancel", MessageBoxOKCancel},
+    {"-yesno", MessageBoxYesNo},
+};
+
+// Null: there is none at that place.
+const TypeFlag* FindTypeFlag(const Arguments& arguments, int index)
+{
+    for (const TypeFlag& flag : TypeFlags) {
+        if (arguments.IsWord(index, flag.Word))
+            return &flag;
+    }
+    return nullptr;
+}
 
 void PrintSyntax(const Arguments& arguments)
 {
     Host::PrintLine("Syntax: %s [-skin <name>] [-template <name>] [-ok|-okcancel|-yesno] <text>", arguments.Text(0));
-}
-
-bool IsBoxType(const Arguments& arguments, int index)
-{
-    return arguments.IsWord(index, "-ok") || arguments.IsWord(index, "-okcancel") || arguments.IsWord(index, "-yesno");
 }
 
 } // namespace
@@ -26,16 +43,23 @@ int RunMessageBoxCommand(const Arguments& arguments)
     }
 
     const DialogFlags flags(arguments);
-    const int text = IsBoxType(arguments, flags.Next()) ? flags.Next() + 1 : flags.Next();
+    const TypeFlag* typeFlag = FindTypeFlag(arguments, flags.Next());
+    const eMessageBoxType type = typeFlag ? typeFlag->Type : MessageBoxOK;
+    const int text = typeFlag ? flags.Next() + 1 : flags.Next();
     if (!arguments.Has(text)) {
         PrintSyntax(arguments);
         return 0;
     }
 
-    const HostScript* script = Host::GetCurrentScript();
-    if (script && !Host::IsInsideAtom(*script))
-        MakeDialog(arguments, "scriptmessagebox", DialogName(*script, "MessageBox").Text());
-    else
-        MakeDialog(arguments, "messagebox", "MessageBox");
+    HostScript* script = Host::GetCurrentScript();
+    if (script && !Host::IsInsideAtom(*script)) {
+        const DialogName name(*script, "MessageBox");
+        if (auto* box = MakeDialog<TeskScriptMessageBox>(arguments, "scriptmessagebox", name.Text())) {
+            box->pScript.Open(*script, box->ID);
+            box->Create(name.Script(), arguments.Text(text), type, flags.Template());
+        }
+    } else if (auto* box = MakeDialog<TeskMessageBox>(arguments, "messagebox", "MessageBox")) {
+        box->Create("Alert", arguments.Text(text), type, flags.Template());
+    }
     return 0;
 }

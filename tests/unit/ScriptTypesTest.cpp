@@ -1,5 +1,6 @@
 #include "teskara/core/CUIManager.h"
 #include "teskara/element/TeskScreen.h"
+#include "teskara/windows/TeskMessageBox.h"
 #include "tests/unit/Allocations.h"
 #include "tests/unit/ScriptHost.h"
 
@@ -7,6 +8,7 @@
 
 #include <iterator>
 #include <string>
+#include <utility>
 
 namespace {
 
@@ -66,11 +68,19 @@ TEST(ScriptTypesDeathTest, EachTypeHasTheBaseThatScriptsSee)
 TEST(ScriptTypesDeathTest, TheTypeOfMessageBoxesHasOneMemberWithoutAValue)
 {
     WithToolkit([](ScriptHost& host) {
-        int object = 0;
+        auto* box = dynamic_cast<TeskMessageBox*>(g_UIManager.LoadElement(g_UIManager.Screen, "messagebox", "Box"));
+        ASSERT_NE(nullptr, box);
+        EXPECT_EQ(&host.Type("teskmessagebox"), box->GetMvType());
         _MvTypeVar result;
-        EXPECT_EQ(0, host.Type("teskmessagebox").DispatchMember(ObjectValue(&object), "Type", 0, nullptr, result));
-        EXPECT_EQ(0, host.Type("teskmessagebox").DispatchMember(ObjectValue(nullptr), "Type", 0, nullptr, result));
-        EXPECT_EQ(nullptr, result.Type);
+        for (const auto& [type, word] :
+            {std::pair(MessageBoxOK, "ok"), {MessageBoxOKCancel, "okcancel"}, {MessageBoxYesNo, "yesno"}}) {
+            box->Type = type;
+            EXPECT_EQ(0, host.Type("teskmessagebox").DispatchMember(ObjectValue(box), "Type", 0, nullptr, result));
+            EXPECT_STREQ(word, result.Value.Text) << "it stands there, but without a type";
+            EXPECT_EQ(nullptr, result.Type);
+        }
+        for (TeskElement* other : {static_cast<TeskElement*>(g_UIManager.Screen), static_cast<TeskElement*>(nullptr)})
+            EXPECT_EQ(0, host.Type("teskmessagebox").DispatchMember(ObjectValue(other), "Type", 0, nullptr, result));
         EXPECT_EQ(-1, host.Type("teskwindow").DispatchMember(ObjectValue(nullptr), "Nonsense", 0, nullptr, result));
     });
 }

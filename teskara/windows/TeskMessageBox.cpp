@@ -1,0 +1,134 @@
+#include "teskara/windows/TeskMessageBox.h"
+
+#include "teskara/core/AsciiCase.h"
+#include "teskara/core/BoundedText.h"
+#include "teskara/element/TeskElementFactory.h"
+#include "teskara/script/TypeGlobals.h"
+#include "teskara/windows/DialogBuilder.h"
+
+namespace {
+
+constexpr char Kind[] = "messagebox";
+
+// Below the text.
+constexpr u32 Room = 30;
+
+} // namespace
+
+// A button of a type of box: how wide it is, how far from the first one it stands, and how wide all of them are.
+struct TeskMessageBox::Part {
+    eMessageBoxType Type;
+    TeskButton* TeskMessageBox::*Button;
+    const DialogButton& Look;
+    u32 Width;
+    u32 Offset;
+    u32 RowWidth;
+};
+
+std::span<const TeskMessageBox::Part> TeskMessageBox::Parts()
+{
+    using namespace DialogLayout;
+    constexpr u32 next = NarrowButton + ButtonGap;
+    // clang-format off
+    static constexpr Part parts[] = {
+        {MessageBoxOK,       &TeskMessageBox::OKButton,     OKDialogButton,     NarrowButton, 0,    NarrowButton},
+        {MessageBoxOKCancel, &TeskMessageBox::OKButton,     OKDialogButton,     NarrowButton, 0,    next + WideButton},
+        {MessageBoxOKCancel, &TeskMessageBox::CancelButton, CancelDialogButton, WideButton,   next, next + WideButton},
+        {MessageBoxYesNo,    &TeskMessageBox::YesButton,    YesDialogButton,    NarrowButton, 0,    next + NarrowButton},
+        {MessageBoxYesNo,    &TeskMessageBox::NoButton,     NoDialogButton,     NarrowButton, next, next + NarrowButton},
+    };
+    // clang-format on
+    return parts;
+}
+
+bool TeskMessageBox::FromXML(XMLNode*, XMLNode*)
+{
+    return false;
+}
+
+bool TeskMessageBox::IsTypeOf(const char* word)
+{
+    return EqualsNoCase(TextOrEmpty(word), Kind) || TeskWindow::IsTypeOf(word);
+}
+
+MvTypeDefinition* TeskMessageBox::GetMvType()
+{
+    return pTeskMessageBoxType;
+}
+
+void TeskMessageBox::Create(const char* title, const char* text, eMessageBoxType type, XMLNode* templateNode)
+{
+    if (!templateNode)
+        templateNode = g_UIManager.FindTemplate(Kind);
+    Type = type;
+    Font.reset(FontFromXML(templateNode, "Font", nullptr));
+    DialogBuilder dialog(*this, templateNode, Font.get());
+    const u32 lineHeight = Font ? Font->Size + 1u : 1u;
+    if (!dialog.BreakText(text, {lineHeight, Room}))
+        return;
+    if (!dialog.MakeWindow(title, dialog.Source().Hex("BorderColor", 0)))
+        return;
+
+    MakeText(dialog);
+    MakeButtons(dialog);
+    Center();
+}
+
+void TeskMessageBox::MakeText(const DialogBuilder& dialog)
+{
+    if (auto* text = TeskElementFactory::New<TeskText>("text", &dialog.Area(), "Text"))
+        text->Create(dialog.TextRecord(), nullptr);
+}
+
+void TeskMessageBox::MakeButtons(const DialogBuilder& dialog)
+{
+    for (const Part& part : Parts()) {
+        if (part.Type != Type)
+            continue;
+
+        const u32 first = DialogLayout::FirstButton(dialog.AreaWidth(), part.RowWidth);
+        this->*part.Button = MakeButton(dialog, part.Look, first + part.Offset, part.Width);
+    }
+}
+
+TeskButton* TeskMessageBox::MakeButton(const DialogBuilder& dialog, const DialogButton& look, u32 x, u32 width)
+{
+    auto* button = TeskElementFactory::New<TeskButton>("button", &dialog.Area(), look.Text);
+    if (!button)
+        return nullptr;
+
+    _CreateButton record = dialog.ButtonRecord(look, x, width);
+    record.TexturesFromTemplate = true;
+    const char* templateName = dialog.Source().Text(look.Template, "");
+    button->Create(record, *templateName ? g_UIManager.FindTemplate(templateName) : nullptr);
+    dialog.SetFaces(*button, look, DialogBuilder::Faces::Missing);
+    return button;
+}
+
+const char* TeskMessageBox::AnswerOf(const TeskElement* button) const
+{
+    for (const Part& part : Parts()) {
+        if (button && this->*part.Button == button)
+            return part.Look.Text;
+    }
+    return nullptr;
+}
+
+void TeskMessageBox::ForgetButton(const TeskElement* button)
+{
+    for (const Part& part : Parts()) {
+        if (this->*part.Button == button)
+            this->*part.Button = nullptr;
+    }
+}
+
+// Nothing that happens in the box is told to its parent.
+void TeskMessageBox::OnNotify(TeskElement* source, unsigned int code, unsigned long long value)
+{
+    if (code == NotifyChildGoing) {
+        ForgetButton(source);
+        TeskWindow::OnNotify(source, code, value);
+    } else if (code == NotifyLeftReleased && AnswerOf(source) && Parent) {
+        Parent->DeleteChild(this);
+    }
+}
