@@ -69,7 +69,7 @@ ScriptEngine::ScriptEngine(Console& console, ScriptTrust trust, const ScriptLimi
     : m_Console(console),
       m_Objects(m_State, [this](lua_State* thread, MvTypeDefinition& type) { m_Access.FillMetatable(thread, type); }),
       m_State(LimitsFor(trust, limits)), Values(Types, m_Objects), Globals(m_State, trust),
-      Scripts(m_State, Values, console, m_Frame), Tasks(m_State, console, Scripts.Depth()),
+      Scripts(m_State, Values, console, m_Frame), Tasks(m_State, console, Commands, Scripts.Depth()),
       m_Evaluator({m_State, Globals, Values, TopLevel, Scripts, console}), Sequences(m_Evaluator), m_Access(Values),
       m_FrameVariables(m_State, Globals)
 {

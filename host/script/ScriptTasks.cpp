@@ -1,6 +1,7 @@
 #include "host/script/ScriptTasks.h"
 
 #include "host/Console.h"
+#include "host/script/CommandTable.h"
 
 #include <algorithm>
 
@@ -13,16 +14,12 @@ constexpr lua_Number LongestWait = 1'000'000; // seconds
 
 } // namespace
 
-ScriptTasks::~ScriptTasks()
-{
-    for (const auto& task : m_Tasks)
-        task->MessageBoxID = task->InputBoxID = 0;
-}
-
 void ScriptTasks::AddFunctions(lua_State* thread)
 {
     LuaState::AddFunction(thread, "wait", Wait, this);
     LuaState::AddFunction(thread, "answer", Answer, this);
+    LuaState::AddFunction(thread, "ask", Ask, this);
+    LuaState::AddFunction(thread, "input", Input, this);
 }
 
 bool ScriptTasks::Start(const std::string& name, std::string_view text)
@@ -130,16 +127,54 @@ int ScriptTasks::Wait(lua_State* thread)
 
 int ScriptTasks::Answer(lua_State* thread)
 {
-    const auto give = [](lua_State* resumed, int, lua_KContext) {
-        lua_pushstring(resumed, LuaState::OwnerOf<ScriptTasks>(resumed).m_Current->GetUserInput());
-        return 1;
-    };
-    ScriptTask& task = WaitingTask(thread, "answer");
+    return AwaitAnswer(thread, WaitingTask(thread, "answer"));
+}
+
+// ask(text), or ask(text, "okcancel") or "yesno": shows a text with buttons and gives the text of the one that was
+// pressed, or nil.
+int ScriptTasks::Ask(lua_State* thread)
+{
+    constexpr const char* kinds[] = {"ok", "okcancel", "yesno", nullptr};
+    const char* text = luaL_checkstring(thread, 1);
+    const char* kind = kinds[luaL_checkoption(thread, 2, kinds[0], kinds)];
+    return OpenDialog(thread, WaitingTask(thread, "ask"), {"MessageBox", std::string("-") + kind, text});
+}
+
+// input(text), or input(text, default): asks for a line and gives what was typed, or nil. A text that looks like a flag
+// is none behind the flags that are there.
+int ScriptTasks::Input(lua_State* thread)
+{
+    const char* text = luaL_checkstring(thread, 1);
+    const char* initial = luaL_optstring(thread, 2, "");
+    return OpenDialog(thread, WaitingTask(thread, "input"), {"InputBox", "-skin", "", "-template", "", text, initial});
+}
+
+int ScriptTasks::OpenDialog(lua_State* thread, ScriptTask& task, std::vector<std::string> words)
+{
+    if (task.HasDialog())
+        return luaL_error(thread, "a dialog of this script is open already");
+
+    task.SetUserInput(nullptr);
+    {
+        const RunningThread running(thread);
+        LuaState::OwnerOf<ScriptTasks>(thread).m_Commands.Execute(std::move(words));
+    }
+    return AwaitAnswer(thread, task);
+}
+
+int ScriptTasks::AwaitAnswer(lua_State* thread, ScriptTask& task)
+{
     if (!task.HasDialog())
-        return give(thread, LUA_OK, 0);
+        return GiveAnswer(thread, LUA_OK, 0);
 
     task.WaitForAnswer();
-    return lua_yieldk(thread, 0, 0, give);
+    return lua_yieldk(thread, 0, 0, GiveAnswer);
+}
+
+int ScriptTasks::GiveAnswer(lua_State* thread, int, lua_KContext)
+{
+    lua_pushstring(thread, LuaState::OwnerOf<ScriptTasks>(thread).m_Current->GetUserInput());
+    return 1;
 }
 
 } // namespace host

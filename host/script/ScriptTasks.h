@@ -3,11 +3,13 @@
 #include "host/script/ScriptTask.h"
 
 #include <memory>
+#include <string>
 #include <string_view>
 #include <vector>
 
 namespace host {
 
+class CommandTable;
 class Console;
 
 // The script files that run. Each goes on at the start of a frame until it waits or ends.
@@ -15,16 +17,15 @@ class ScriptTasks
 {
 public:
     // Everything is borrowed. atoms: how many atoms run at present.
-    ScriptTasks(LuaState& state, Console& console, const int& atoms)
-        : m_State(state), m_Console(console), m_Atoms(atoms)
+    ScriptTasks(LuaState& state, Console& console, const CommandTable& commands, const int& atoms)
+        : m_State(state), m_Console(console), m_Commands(commands), m_Atoms(atoms)
     {
     }
-    ~ScriptTasks();
     ScriptTasks(const ScriptTasks&) = delete;
     ScriptTasks& operator=(const ScriptTasks&) = delete;
 
-    // Adds functions for scripts to the table on top of the stack: wait(seconds), and answer(), which waits until no
-    // dialog of the script is open and gives what the user answered to the last one.
+    // Adds functions for scripts to the table on top of the stack: wait(seconds); answer(), which waits until no dialog
+    // of the script is open and gives what the user answered to the last one; and ask and input, which open one first.
     void AddFunctions(lua_State* thread);
 
     // Starts a script; it runs at once, as far as it goes. False, with a line: it does not compile, or there are too
@@ -48,9 +49,15 @@ private:
     static ScriptTask& WaitingTask(lua_State* thread, const char* function);
     static int Wait(lua_State* thread);
     static int Answer(lua_State* thread);
+    static int Ask(lua_State* thread);
+    static int Input(lua_State* thread);
+    static int OpenDialog(lua_State* thread, ScriptTask& task, std::vector<std::string> words);
+    static int AwaitAnswer(lua_State* thread, ScriptTask& task);
+    static int GiveAnswer(lua_State* thread, int status, lua_KContext context);
 
     LuaState& m_State;
     Console& m_Console;
+    const CommandTable& m_Commands;
     const int& m_Atoms;
     std::vector<std::unique_ptr<ScriptTask>> m_Tasks;
     ScriptTask* m_Current = nullptr;

@@ -49,7 +49,7 @@ TEST(HostedDocumentDeathTest, InterfacesLoadAndAnswerWithoutALine)
 TEST(HostedDocumentDeathTest, ScriptFilesRun)
 {
     const std::vector<std::string> blocks = Blocks("lua");
-    ASSERT_EQ(1u, blocks.size());
+    ASSERT_EQ(2u, blocks.size());
     WithInterface([&](HostedInterface& ui) {
         ui.Host().ExecuteCommand(("run " + ui.Write("demo.lua", blocks[0])).c_str());
         for (int frame = 0; frame < 4; ++frame)
