@@ -2,6 +2,7 @@
 
 #include "host/display/Characters.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <string_view>
 
@@ -43,9 +44,19 @@ void Console::PrintArguments(const char* format, std::va_list arguments)
 void Console::PrintText(const std::string& text)
 {
     const std::string& where = m_Trail.Where();
-    const std::string line = Printable(where.empty() ? text : where + ": " + text);
-    if (m_Taker)
-        m_Taker(line);
+    const std::string subject = where.empty() ? where : where + ": ";
+    std::string_view rest = text;
+    do {
+        const std::size_t end = std::min(rest.find('\n'), rest.size());
+        WriteLine(Printable(subject + std::string(rest.substr(0, end))));
+        rest.remove_prefix(std::min(end + 1, rest.size()));
+    } while (!rest.empty());
+}
+
+void Console::WriteLine(const std::string& line)
+{
+    if (const Taker taker = m_Taker) // which may send the next lines elsewhere
+        taker(line);
     else
         std::fprintf(stderr, "teskara: %s\n", line.c_str());
 }

@@ -1,3 +1,4 @@
+#include "host/CommandPrompt.h"
 #include "host/InterfaceSession.h"
 #include "host/display/InputRouter.h"
 #include "host/display/MouseCursor.h"
@@ -8,6 +9,7 @@
 #include "teskara/core/CUIManager.h"
 
 #include <CLI/CLI.hpp>
+#include <unistd.h>
 
 #include <algorithm>
 #include <cstdio>
@@ -35,13 +37,23 @@ bool HandleEvents(host::InterfaceSession& session, host::InputRouter& input)
     return true;
 }
 
+// Answers to what is typed, as soon as they are there, whatever reads them.
+void WriteAnswer(const std::string& line)
+{
+    std::puts(line.c_str());
+    std::fflush(stdout);
+}
+
 void RunFrames(host::InterfaceSession& session, host::Window& window)
 {
     host::InputRouter input(g_UIManager, session.System());
     host::MouseCursor cursor;
+
+    host::CommandPrompt prompt(session.Host(), STDIN_FILENO, WriteAnswer);
     SDL_StartTextInput();
     bool shown = false;
     for (u32 due = SDL_GetTicks(); HandleEvents(session, input);) {
+        prompt.Advance();
         const bool fresh = session.DrawFrame(window.Width(), window.Height(), window.Scale());
         if (fresh)
             window.Present();
