@@ -4,6 +4,7 @@
 #include "teskara/element/ElementWatch.h"
 #include "teskara/element/TeskScreen.h"
 #include "teskara/script/MvTypeDefinition.h"
+#include "tests/fuzz/DialogActs.h"
 
 #include <array>
 #include <climits>
@@ -256,6 +257,11 @@ constexpr HostileAct Acts[] = {
     {"forget the mouse",   [](TeskElement&, u8) { g_UIManager.ResetMouseState(); }},
     {"fade",               Fade},
     {"throw",              [](TeskElement&, u8) { throw std::runtime_error("thrown by a script"); }},
+    {"open a menu",        [](TeskElement&, u8 argument) { OpenFuzzMenu(argument); }},
+    {"close a menu",       [](TeskElement&, u8 argument) { CloseFuzzMenu(argument); }},
+    {"end the menus",      [](TeskElement&, u8) { EndFuzzMenus(); }},
+    {"show a box",         [](TeskElement&, u8 argument) { ShowFuzzBox(argument); }},
+    {"end the script",     [](TeskElement&, u8) { EndFuzzScript(); }},
 };
 // clang-format on
 static_assert(std::size(Acts) <= HostileActMask + 1u);

@@ -5,6 +5,7 @@
 #include "host/probe/TreeChecker.h"
 #include "teskara/core/CUIManager.h"
 #include "teskara/element/TeskScreen.h"
+#include "tests/fuzz/DialogActs.h"
 #include "tests/fuzz/EventHost.h"
 #include "tests/fuzz/EventScene.h"
 #include "tests/fuzz/HostileActs.h"
@@ -130,6 +131,8 @@ constexpr Step Steps[] = {
     {"act",           Act},
     {"focus",         [](Decisions& bytes) { g_UIManager.SetFocusElement(FindByPlace(bytes.Next())); }},
     {"load again",    LoadAgain},
+    {"open a menu",   [](Decisions& bytes) { OpenFuzzMenu(bytes.Next()); }},
+    {"show a box",    [](Decisions& bytes) { ShowFuzzBox(bytes.Next()); }},
 };
 // clang-format on
 
@@ -165,6 +168,8 @@ void RunSteps(Decisions& bytes)
 void Finish(EventHost& host)
 {
     host.StartAnew();
+    EndFuzzMenus();
+    EndFuzzScript();
     g_UIManager.Reset();
     g_UIManager.ClearTemplates();
     Require(FindTreeFault().value_or(""));

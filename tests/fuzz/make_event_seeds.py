@@ -64,7 +64,15 @@ FRAME = step("frame")
 LOAD = act(0, "reset") + step("load again")
 TOUR = FRAME + step("move", OVER_FIRST) + click() + click("right") + step("wheel", 120) + FRAME
 
+MENU = step("open a menu", 0x33) + FRAME  # the first, with all values, where a row of it lies at ROW
+ROW = 0x43
+
 SEEDS = {
+    "menus": b"\0" + MENU + step("move", ROW) + FRAME + click() + FRAME + MENU + step("move", NOWHERE) + click()
+    + arm("OnRender", "end the menus") + MENU + arm("OnUnload", "open a menu", 1) + MENU + act(0, "close a menu", 5)
+    + FRAME,
+    "boxes": b"\0" + b"".join(step("show a box", kind) + FRAME + step("key down", 13) + step("move", 0x78) + click()
+                              + act(0, "end the script") + FRAME for kind in (4, 1, 2, 3, 6)),
     "tour": b"\0" + TOUR + step("move", OVER_SECOND) + TOUR + step("move", NOWHERE) + FRAME,
     "every_scene": b"\x35" + TOUR + step("time", 255) + FRAME + step("time", 255) + FRAME,
     "keys": b"\0" + step("focus", 2) + b"".join(

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "teskara/core/Types.h"
+
+// Menus and dialogs, which no markup makes: what a host or a script does with them in the middle of everything. The
+// argument chooses among what there is.
+
+void OpenFuzzMenu(u8 argument);
+void CloseFuzzMenu(u8 argument);
+void ShowFuzzBox(u8 argument);
+
+// The handlers of the menus go, or the script that the boxes answer; new ones come when they are needed.
+void EndFuzzMenus();
+void EndFuzzScript();
