@@ -9,10 +9,8 @@ u64 g_LastSerial = 0;
 } // namespace
 
 ListBoxItem::ListBoxItem(TeskListBox* list, u32 id, const char* text, const char* value, u32 color)
-    : ID(id), Text(TextOrEmpty(text)), Color(color), pListBox(list), Serial(++g_LastSerial)
+    : ID(id), Text(TextOrEmpty(text)), Color(color), Value(TextOrEmpty(value)), pListBox(list), Serial(++g_LastSerial)
 {
-    if (value && *value)
-        Value = std::make_unique<utf8string>(value);
 }
 
 void ListBoxItem::SetText(const char* text) noexcept
@@ -28,8 +26,6 @@ void ListBoxItem::SetText(const char* text) noexcept
 }
 
 void ListBoxItem::SetValue(const char* value) noexcept
-try {
-    Value = value && *value ? std::make_unique<utf8string>(value) : nullptr;
-} catch (...) {
-    return; // no memory
+{
+    TryAssign(Value, value);
 }

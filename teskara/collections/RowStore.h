@@ -1,14 +1,13 @@
 #pragma once
 
 #include "teskara/collections/ListBoxItem.h"
-#include "teskara/collections/RowSet.h"
 #include "teskara/core/Export.h"
 
-#include <deque>
-#include <optional>
+#include <memory>
+#include <vector>
 
 // The rows of a list box by their ids, which count from 1. The id of a row that is gone is given again, the lowest one
-// first. Rows stay where they are in memory, and finding one takes the same time in a list of any length.
+// first. Finding takes the same time in a list of any length.
 class TESKARA_EXPORT RowStore
 {
 public:
@@ -16,18 +15,18 @@ public:
     ListBoxItem* Add(TeskListBox* list, const char* text, const char* value, u32 color) noexcept;
 
     // Ends a row of the store.
-    void Remove(const ListBoxItem& item);
+    void Remove(ListBoxItem& item);
     void Clear();
 
     // Null: there is no such row.
-    ListBoxItem* Find(u32 id) { return id - 1 < LastID() && !m_Free.Contains(id) ? &*m_Slots[id - 1] : nullptr; }
+    ListBoxItem* Find(u32 id) const { return id - 1 < m_Slots.size() ? m_Slots[id - 1].get() : nullptr; }
 
     // Ids in use lie between 1 and this.
     u32 LastID() const { return static_cast<u32>(m_Slots.size()); }
 
 private:
-    u32 FreeID();
+    u32 FreeSlot();
 
-    std::deque<std::optional<ListBoxItem>> m_Slots;
-    RowSet m_Free; // of the slots, those without a row
+    std::vector<std::unique_ptr<ListBoxItem>> m_Slots;
+    std::vector<u32> m_Free; // slots; a heap with the lowest on top
 };

@@ -229,6 +229,43 @@ def arrow(name, size, direction, color, plate=None):
     draw(name, size, size, color_at)
 
 
+def window():
+    """The body of a window, with a shade of light along its upper edge."""
+    size, radius = 32, 5
+
+    def color_at(x, y):
+        distance = rounded(x, y, 0, 0, size, size, radius)
+        if distance > 0:
+            return (*CARD_EDGE, 0)
+        if distance > -1:
+            return (*mix((72, 86, 108), (50, 60, 77), min(1, y / 12)), 1)
+        return (*CARD, 1)
+
+    draw("window.png", size, size, color_at)
+
+
+def menu_line():
+    """What parts the items of a menu."""
+
+    def color_at(x, y):
+        return (*(78, 93, 117), 1 if 4 <= y < 5 else 0)
+
+    draw("menu_line.png", 8, 9, color_at)
+
+
+def sign(name, size, lines, color, plate=None):
+    """A sign made of straight lines, in pixels of the interface; on a plate of that colour, or on none."""
+
+    def color_at(x, y):
+        if min(segment(x, y, *line) for line in lines) < 0.8:
+            return (*color, 1)
+        if plate and rounded(x, y, 1, 1, size - 1, size - 1, 5) <= 0:
+            return (*plate, 1)
+        return (*color, 0)
+
+    draw(name, size, size, color_at)
+
+
 def tile():
     """A white tile, to be tinted by a colour mask."""
 
@@ -318,3 +355,29 @@ for direction in ("up", "down", "left", "right"):
     arrow(f"{direction}_hover.png", 16, direction, LIT, PLATE)
     arrow(f"{direction}_pressed.png", 16, direction, ACCENT, (33, 41, 54))
 arrow("drop.png", 28, "down", LIT)
+
+window()
+menu_line()
+panel("dialog.png", 16, 0.5, (38, 47, 61), (91, 108, 136))
+panel("title.png", 20, 6, (38, 46, 60), (38, 46, 60))
+panel("entry.png", 20, 5, INSET, (58, 70, 89))
+panel("entry_focused.png", 20, 5, (16, 20, 27), ACCENT)
+panel("menu.png", 24, 7, (38, 46, 60), (78, 93, 117), sheen=0.12)
+panel("menu_item.png", 8, 1.5, (54, 104, 178), (54, 104, 178))
+panel("menu_plain.png", 8, 1.5, CARD, CARD, fill_alpha=0.0, edge_alpha=0.0)
+panel("bar_panel.png", 24, 9, (18, 23, 31), (46, 56, 71), fill_alpha=0.94)
+panel("round.png", 28, 7, PLATE, PLATE, fill_alpha=0.0, edge_alpha=0.0)
+panel("round_hover.png", 28, 7, PLATE, PLATE_EDGE)
+panel("round_pressed.png", 28, 7, (33, 41, 54), PLATE_EDGE)
+
+SIGNS = {
+    "close": [(7, 7, 15, 15), (7, 15, 15, 7)],
+    "minimize": [(6.5, 14.5, 15.5, 14.5)],
+    "restore": [(7, 7, 15, 7), (15, 7, 15, 15), (15, 15, 7, 15), (7, 15, 7, 7)],
+}
+for sign_name, lines in SIGNS.items():
+    warm = sign_name == "close"
+    sign(f"{sign_name}.png", 22, lines, QUIET)
+    sign(f"{sign_name}_hover.png", 22, lines, WHITE, (196, 66, 74) if warm else PLATE_EDGE)
+    sign(f"{sign_name}_pressed.png", 22, lines, WHITE, (140, 44, 52) if warm else (33, 41, 54))
+
