@@ -3,6 +3,7 @@
 #include "host/Console.h"
 #include "host/files/WholeFile.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cstdlib>
 #include <fstream>
@@ -35,14 +36,22 @@ template <class Number> bool TakeNumber(std::string_view& line, Number& number)
     return true;
 }
 
+bool IsControl(char byte)
+{
+    return static_cast<unsigned char>(byte) < 0x20;
+}
+
 // Names are shown to people, and lines end where they end.
 bool IsName(std::string_view name)
 {
-    for (const char byte : name) {
-        if (static_cast<unsigned char>(byte) < 0x20)
-            return false;
-    }
-    return !name.empty();
+    return !name.empty() && std::none_of(name.begin(), name.end(), IsControl);
+}
+
+// On one line, whatever the name is.
+std::string Shown(std::string name)
+{
+    std::replace_if(name.begin(), name.end(), IsControl, '?');
+    return name;
 }
 
 } // namespace
@@ -83,7 +92,7 @@ const StoredPositions::Position* StoredPositions::Find(const std::string& name) 
 void StoredPositions::Store(const std::string& name, const Position& position)
 {
     if (!IsName(name)) {
-        m_Console.Print("The position of '%s' cannot be stored under such a name", name.c_str());
+        m_Console.Print("The position of '%s' cannot be stored under such a name", Shown(name).c_str());
         return;
     }
     const auto [entry, isNew] = m_Positions.try_emplace(name, position);
