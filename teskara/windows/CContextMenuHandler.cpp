@@ -32,18 +32,6 @@ try {
 
 } // namespace
 
-MenuHandlerWatch::MenuHandlerWatch(CContextMenuHandler* handler) : m_Handler(handler)
-{
-    if (m_Handler)
-        m_Outer = std::exchange(m_Handler->m_Watches, this);
-}
-
-MenuHandlerWatch::~MenuHandlerWatch()
-{
-    if (m_Handler)
-        m_Handler->m_Watches = m_Outer;
-}
-
 // A menu that is being deleted just now cannot be closed. It lives on without a handler.
 CContextMenuHandler::~CContextMenuHandler()
 {
