@@ -75,6 +75,7 @@ void MoveTo(i32 x, i32 y)
 void PressAt(TeskWindow& window, i32 x, i32 y)
 {
     window.MoveZTop(true);
+    MoveTo(0, 0); // the mouse may be there already, and then a move says nothing
     MoveTo(window.AbsoluteX + x, window.AbsoluteY + y);
     g_UIManager.OnLMouseDown();
 }

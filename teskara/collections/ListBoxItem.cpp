@@ -9,8 +9,10 @@ u64 g_LastSerial = 0;
 } // namespace
 
 ListBoxItem::ListBoxItem(TeskListBox* list, u32 id, const char* text, const char* value, u32 color)
-    : ID(id), Text(TextOrEmpty(text)), Color(color), Value(TextOrEmpty(value)), pListBox(list), Serial(++g_LastSerial)
+    : ID(id), Text(TextOrEmpty(text)), Color(color), pListBox(list), Serial(++g_LastSerial)
 {
+    if (value && *value)
+        Value = std::make_unique<utf8string>(value);
 }
 
 void ListBoxItem::SetText(const char* text) noexcept
@@ -26,6 +28,8 @@ void ListBoxItem::SetText(const char* text) noexcept
 }
 
 void ListBoxItem::SetValue(const char* value) noexcept
-{
-    TryAssign(Value, value);
+try {
+    Value = value && *value ? std::make_unique<utf8string>(value) : nullptr;
+} catch (...) {
+    return; // no memory
 }

@@ -31,7 +31,7 @@ bool IsSorting(u32 type)
 std::string_view KeyText(const ListBoxItem& item, bool byValue)
 {
     if (byValue)
-        return item.Value;
+        return item.GetValue();
     return item.Text ? std::string_view(*item.Text) : std::string_view();
 }
 

@@ -1,41 +1,39 @@
 #include "teskara/collections/RowStore.h"
 
-#include <algorithm>
-#include <functional>
+#include <new>
 
-// The lowest one. The list of free slots has room for all of them, so that giving one back needs no memory.
-u32 RowStore::FreeSlot()
+// The lowest one. A slot is free once before its row is made, so that setting it free again needs no memory.
+u32 RowStore::FreeID()
 {
-    if (m_Free.empty()) {
-        if (m_Free.capacity() == m_Slots.size())
-            m_Free.reserve(std::max<std::size_t>(m_Slots.size() * 2, 10));
-        m_Slots.emplace_back();
-        m_Free.push_back(LastID() - 1);
-    }
-    return m_Free.front();
+    if (m_Free.Count() != 0)
+        return m_Free.FirstAfter(0);
+
+    m_Slots.emplace_back();
+    if (m_Free.Insert(LastID()))
+        return LastID();
+    m_Slots.pop_back();
+    throw std::bad_alloc();
 }
 
 ListBoxItem* RowStore::Add(TeskListBox* list, const char* text, const char* value, u32 color) noexcept
 try {
-    const u32 slot = FreeSlot();
-    m_Slots[slot] = std::make_unique<ListBoxItem>(list, slot + 1, text, value, color);
-    std::pop_heap(m_Free.begin(), m_Free.end(), std::greater<>());
-    m_Free.pop_back();
-    return m_Slots[slot].get();
+    const u32 id = FreeID();
+    ListBoxItem& item = m_Slots[id - 1].emplace(list, id, text, value, color);
+    m_Free.Remove(id);
+    return &item;
 } catch (...) {
     return nullptr;
 }
 
-void RowStore::Remove(ListBoxItem& item)
+void RowStore::Remove(const ListBoxItem& item)
 {
-    const u32 slot = item.ID - 1;
-    m_Slots[slot].reset();
-    m_Free.push_back(slot);
-    std::push_heap(m_Free.begin(), m_Free.end(), std::greater<>());
+    const u32 id = item.ID;
+    m_Slots[id - 1].reset();
+    m_Free.Insert(id);
 }
 
 void RowStore::Clear()
 {
     m_Slots.clear();
-    m_Free.clear();
+    m_Free.Clear();
 }

@@ -1,13 +1,14 @@
 #pragma once
 
 #include "teskara/collections/ListBoxItem.h"
+#include "teskara/collections/RowSet.h"
 #include "teskara/core/Export.h"
 
-#include <memory>
-#include <vector>
+#include <deque>
+#include <optional>
 
 // The rows of a list box by their ids, which count from 1. The id of a row that is gone is given again, the lowest one
-// first. Finding takes the same time in a list of any length.
+// first. Rows stay where they are in memory, and finding one takes the same time in a list of any length.
 class TESKARA_EXPORT RowStore
 {
 public:
@@ -15,18 +16,18 @@ public:
     ListBoxItem* Add(TeskListBox* list, const char* text, const char* value, u32 color) noexcept;
 
     // Ends a row of the store.
-    void Remove(ListBoxItem& item);
+    void Remove(const ListBoxItem& item);
     void Clear();
 
     // Null: there is no such row.
-    ListBoxItem* Find(u32 id) const { return id - 1 < m_Slots.size() ? m_Slots[id - 1].get() : nullptr; }
+    ListBoxItem* Find(u32 id) { return id - 1 < LastID() && !m_Free.Contains(id) ? &*m_Slots[id - 1] : nullptr; }
 
     // Ids in use lie between 1 and this.
     u32 LastID() const { return static_cast<u32>(m_Slots.size()); }
 
 private:
-    u32 FreeSlot();
+    u32 FreeID();
 
-    std::vector<std::unique_ptr<ListBoxItem>> m_Slots;
-    std::vector<u32> m_Free; // slots; a heap with the lowest on top
+    std::deque<std::optional<ListBoxItem>> m_Slots;
+    RowSet m_Free; // of the slots, those without a row
 };

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "teskara/collections/RowOrder.h"
-#include "teskara/collections/RowSelection.h"
+#include "teskara/collections/RowSet.h"
 #include "teskara/collections/RowStore.h"
 #include "teskara/element/TeskElement.h"
 #include "teskara/element/TeskFont.h"
@@ -76,7 +76,7 @@ public:
     // --- Beyond the virtual operations
 
     // Null: there is none. Valid until the row is removed.
-    ListBoxItem* RetrieveItem(u32 id) const { return m_Rows.Find(id); }
+    ListBoxItem* RetrieveItem(u32 id) { return m_Rows.Find(id); }
 
     // The first row from the top that has exactly this text or value, in any case; null if there is none.
     ListBoxItem* FindOrderedByText(const char* text);
@@ -115,7 +115,7 @@ public:
     int (*CustomCompare)(const ListBoxItem* left, const ListBoxItem* right) = nullptr;
 
     u32 TopOrder = 0; // first row that shows
-    RowSelection SelectedItems;
+    RowSet SelectedItems;
     u32 DragItem = 0; // id of the row that is being dragged
     bool Dragged = false; // since the last press a row has moved
 

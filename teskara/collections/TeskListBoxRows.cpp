@@ -25,10 +25,10 @@ bool HasText(const ListBoxItem& item, const char* text)
 
 bool HasValue(const ListBoxItem& item, const char* value)
 {
-    return value && EqualsNoCase(item.Value, value);
+    return value && EqualsNoCase(item.GetValue(), value);
 }
 
-template <class Test> u32 FindByID(const RowStore& rows, Test&& test)
+template <class Test> u32 FindByID(RowStore& rows, Test&& test)
 {
     for (u32 id = 1; id <= rows.LastID(); ++id) {
         const ListBoxItem* item = rows.Find(id);
@@ -126,7 +126,7 @@ bool TeskListBox::GetItemValue(u32 id, u32& out)
     if (!item)
         return false;
 
-    out = static_cast<u32>(ReadInteger(item->Value));
+    out = static_cast<u32>(ReadInteger(item->GetValue()));
     return true;
 }
 

@@ -5,7 +5,11 @@
 
 void DrawPanel(TeskElement& element, const Panel& panel)
 {
-    const tagRECT rect = element.ScreenRect();
+    DrawPanel(element, element.ScreenRect(), panel);
+}
+
+void DrawPanel(TeskElement& element, const tagRECT& rect, const Panel& panel)
+{
     if (!panel.Texture) {
         element.FillRectBordered(rect, panel.BackgroundColor, panel.Border, panel.BorderColor);
     } else if (panel.Texture->Border != 0) {

@@ -13,5 +13,6 @@ struct Panel {
     u32 BorderColor;
 };
 
-// Fills an element's rectangle. An image with a border of its own replaces the plain border.
+// Fills an element's rectangle, or another one. An image with a border of its own replaces the plain border.
 void DrawPanel(TeskElement& element, const Panel& panel);
+void DrawPanel(TeskElement& element, const tagRECT& rect, const Panel& panel);

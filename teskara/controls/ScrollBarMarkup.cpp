@@ -1,6 +1,5 @@
 #include "teskara/controls/ScrollBarMarkup.h"
 
-#include "teskara/controls/TeskScrollBar.h"
 #include "teskara/core/CUIManager.h"
 #include "teskara/element/ElementWatch.h"
 #include "teskara/element/TeskElementFactory.h"
@@ -25,32 +24,38 @@ const char* TemplateNameIn(const XMLNode& node)
     return first && first->Type == XMLTextNode && !IsBlank(first->Name) ? first->Name : nullptr;
 }
 
-TeskScrollBar* MakeFromTemplate(TeskElement& owner, const char* templateName)
+TeskScrollBar* MakeFromTemplate(TeskElement& owner, const char* templateName, const _CreateScrollBar& values)
 {
     auto* bar = TeskElementFactory::New<TeskScrollBar>(Kind, &owner, Name);
     if (!bar)
         return nullptr;
 
-    _CreateScrollBar record;
-    record.Width = WidthWithoutMarkup;
-    record.PositionHeight.Type = PositionShare;
-    record.PositionHeight.SetShare(1.0f);
-    record.Range = 1;
-    record.Vertical = true;
     const ElementWatch watch(*bar);
-    bar->Create(record, g_UIManager.FindTemplate(templateName));
+    bar->Create(values, g_UIManager.FindTemplate(templateName));
     return watch.Exists() ? bar : nullptr;
 }
 
 } // namespace
 
-TeskScrollBar* LoadScrollBar(TeskElement& owner, const MarkupSource& source, TagName tag)
+_CreateScrollBar UprightScrollBar()
+{
+    _CreateScrollBar values;
+    values.Width = WidthWithoutMarkup;
+    values.PositionHeight.Type = PositionShare;
+    values.PositionHeight.SetShare(1.0f);
+    values.Range = 1;
+    values.Vertical = true;
+    return values;
+}
+
+TeskScrollBar* LoadScrollBar(
+    TeskElement& owner, const MarkupSource& source, TagName tag, const _CreateScrollBar& values)
 {
     XMLNode* node = source.Child(tag);
     if (!node)
         return nullptr;
     if (const char* templateName = TemplateNameIn(*node))
-        return MakeFromTemplate(owner, templateName);
+        return MakeFromTemplate(owner, templateName, values);
 
     return dynamic_cast<TeskScrollBar*>(g_UIManager.LoadElement(&owner, Kind, Name, node, nullptr));
 }

@@ -10,16 +10,14 @@ namespace {
 // lead beyond them.
 u32 Share(u32 part, u32 whole, u32 amount)
 {
+    if (part == whole)
+        return amount;
+
     const float share = static_cast<float>(part) / static_cast<float>(whole) * static_cast<float>(amount);
     return share < static_cast<float>(amount) ? TruncateToU32(share) : amount;
 }
 
 } // namespace
-
-SliderTrack::SliderTrack(u32 length, u32 used, u32 range, Direction direction)
-    : m_IsTooShort(used > length), m_Travel(m_IsTooShort ? 0 : length - used), m_Range(range), m_Direction(direction)
-{
-}
 
 u32 SliderTrack::PositionOf(u32 value) const
 {

@@ -10,7 +10,11 @@ public:
     enum class Direction { Onward, Backward }; // where the range lies: at the end of the track, or at its start
 
     // length: of the control along the track. used: what handle and borders take of it.
-    SliderTrack(u32 length, u32 used, u32 range, Direction direction);
+    SliderTrack(u32 length, u32 used, u32 range, Direction direction)
+        : m_IsTooShort(used > length), m_Travel(m_IsTooShort ? 0 : length - used), m_Range(range),
+          m_Direction(direction)
+    {
+    }
 
     // Not even the handle finds room.
     bool IsTooShort() const { return m_IsTooShort; }

@@ -149,6 +149,11 @@ bool FindResourceFile(const char* name, char* path, std::size_t size) noexcept
     return FindPath(&HostInterface::FindResourceFile, name, path, size);
 }
 
+bool OpenClipboard() noexcept
+{
+    return Call(false, [](HostObject& host) { return host.OpenClipboard(); });
+}
+
 void InvalidateObject(u32 classID, void* object) noexcept
 {
     Call([&](HostObject& host) { host.InvalidateObject(classID, object); });

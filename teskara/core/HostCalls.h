@@ -82,6 +82,10 @@ bool GetKeyName(u32 key, char* buffer, u32 size) noexcept;
 bool LocateFile(const char* name, char* path, std::size_t size) noexcept;
 bool FindResourceFile(const char* name, char* path, std::size_t size) noexcept;
 
+// --- The clipboard. False: it must not be touched.
+
+bool OpenClipboard() noexcept;
+
 // --- Objects
 
 void InvalidateObject(u32 classID, void* object) noexcept;

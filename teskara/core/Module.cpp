@@ -23,6 +23,7 @@
 #include "teskara/core/platform/Platform.h"
 #include "teskara/element/TeskElementFactory.h"
 #include "teskara/script/TypeGlobals.h"
+#include "teskara/text/TeskConsole.h"
 #include "teskara/text/TeskTextEntry.h"
 #include "teskara/windows/TeskContextMenu.h"
 #include "teskara/windows/TeskMessageBox.h"
@@ -62,7 +63,7 @@ TeskFactory<TeskComboBox> g_ComboBox("combobox");
 TeskFactory<TeskCommandButton> g_CommandButton("commandbutton");
 TeskFactory<TeskCommandCheckBox> g_CommandCheckBox("commandcheckbox");
 PendingFactory g_CommandEntry("commandentry");
-PendingFactory g_Console("console");
+TeskFactory<TeskConsole> g_Console("console");
 TeskFactory<TeskContextMenu> g_ContextMenu("contextmenu");
 TeskFactory<TeskFrame> g_Frame("frame");
 TeskFactory<TeskGauge> g_Gauge("gauge");

@@ -3,11 +3,15 @@
 #include "teskara/core/Export.h"
 #include "teskara/core/Limits.h"
 
+class TeskConsole;
+
 // Sends the host's output to another console for as long as it lives, and then to the one before. Selectors nest. Both
 // turns may run scripts.
 class TESKARA_EXPORT TeskConsoleSelector
 {
 public:
+    // console: null is no console. Its full name is used; see text/ConsoleSelection.cpp.
+    explicit TeskConsoleSelector(TeskConsole* console);
     explicit TeskConsoleSelector(const char* name);
     ~TeskConsoleSelector();
     TeskConsoleSelector(const TeskConsoleSelector&) = delete;

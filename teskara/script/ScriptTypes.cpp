@@ -5,6 +5,7 @@
 #include "teskara/script/TeskButtonType.h"
 #include "teskara/script/TeskCheckBoxType.h"
 #include "teskara/script/TeskComboBoxType.h"
+#include "teskara/script/TeskConsoleType.h"
 #include "teskara/script/TeskElementType.h"
 #include "teskara/script/TeskFontType.h"
 #include "teskara/script/TeskFrameType.h"
@@ -114,7 +115,7 @@ constexpr TypeRow Types[] = {
     {"teskbutton", &pTeskButtonType, &pTeskElementType, Make<TeskButtonType>},
     {"teskcheckbox", &pTeskCheckBoxType, &pTeskElementType, Make<TeskCheckBoxType>},
     {"teskcombobox", &pTeskComboBoxType, &pTeskListBoxType, Make<TeskComboBoxType>},
-    {"teskconsole", &pTeskConsoleType, &pTeskFrameType, Nameless},
+    {"teskconsole", &pTeskConsoleType, &pTeskFrameType, Make<TeskConsoleType>},
     {"teskfont", &pTeskFontType, nullptr, Make<TeskFontType>},
     {"teskgauge", &pTeskGaugeType, &pTeskFrameType, Make<TeskGaugeType>},
     {"teskhudelement", &pTeskHudElementType, &pTeskElementType, Make<TeskHudElementType>},

@@ -45,7 +45,7 @@ bool Remove(ListBoxItem& item, const Arguments&)
 constexpr ScriptMember<ListBoxItem> Members[] = {
     {0, "TextColor",     Script::Int<&ListBoxItem::Color>},
     {1, "ID",            Script::Int<&ListBoxItem::ID>},
-    {2, "Value",         Script::String<&ListBoxItem::Value>},
+    {2, "Value",         Script::String<&ListBoxItem::GetValue>},
     {3, "Order",         Script::Int<GetOrder>},
     {TextMemberID, "Text", Script::String<&ListBoxItem::GetText>},
 };

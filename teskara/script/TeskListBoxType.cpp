@@ -19,7 +19,7 @@ const char* SortTypeName(const TeskListBox& list)
     return NameOfRowSortType(list.SortType);
 }
 
-ListBoxItem* FindItem(const TeskListBox& list, const Arguments& arguments)
+ListBoxItem* FindItem(TeskListBox& list, const Arguments& arguments)
 {
     return list.RetrieveItem(IDFrom(arguments));
 }
@@ -39,7 +39,7 @@ ListBoxItem* FindByValue(TeskListBox& list, const Arguments& arguments)
     return list.FindOrderedByValue(arguments.Text(0));
 }
 
-ListBoxItem* FindSelected(const TeskListBox& list, const Arguments& arguments)
+ListBoxItem* FindSelected(TeskListBox& list, const Arguments& arguments)
 {
     const u32 place = arguments.Has(0) ? IDFrom(arguments) : 1;
     return list.RetrieveItem(list.SelectedItems.At(place - 1));

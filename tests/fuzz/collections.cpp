@@ -167,7 +167,7 @@ void Compare(Scene& scene)
     for (u32 row = 0; row < model.Rows.size(); ++row) {
         const ListBoxItem* item = scene.List.RetrieveOrdered(row);
         Require(item && item->ID == model.Rows[row].ID && item->Order == row, "the orders differ");
-        Require(item->Text == model.Rows[row].Text && item->Value == model.Rows[row].Value, "the texts differ");
+        Require(item->Text == model.Rows[row].Text && item->GetValue() == model.Rows[row].Value, "the texts differ");
         Require(scene.List.RetrieveItem(item->ID) == item, "a row is not found by its id");
     }
 

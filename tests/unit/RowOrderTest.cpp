@@ -148,7 +148,7 @@ TEST_F(RowOrderTest, ASortThatWaitsComesBeforeOneOfAnotherType)
     Order.Sort(SortValue);
     Order.Sort(SortText);
     EXPECT_EQ((Strings{"x", "x", "y"}), Texts());
-    EXPECT_EQ("0", Row(0).Value);
+    EXPECT_STREQ("0", Row(0).GetValue());
 }
 
 TEST_F(RowOrderTest, ARowIsWhereTheSortPutItWhenItIsAskedFor)

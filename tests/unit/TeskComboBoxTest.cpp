@@ -72,7 +72,7 @@ TEST_F(TeskComboBoxTest, ItsOwnRowsGoToTheListAndTheDefaultShows)
 {
     TeskComboBox& combo = MakeCombo("<Items><item>a</item><item Default='1' Value='v'>b</item></Items>");
     EXPECT_EQ((Strings{"a", "b"}), Texts(*combo.List));
-    EXPECT_EQ("v", combo.List->RetrieveItem(2)->Value);
+    EXPECT_STREQ("v", combo.List->RetrieveItem(2)->GetValue());
     EXPECT_EQ(2u, combo.Selection);
     EXPECT_EQ((Strings{"9:2", "on 2"}), TakeHeard());
 }

@@ -1,6 +1,7 @@
 #include "teskara/element/TeskConsoleSelector.h"
 
 #include "teskara/core/CUIManager.h"
+#include "teskara/text/TeskConsole.h"
 #include "tests/unit/ToolkitTest.h"
 
 #include <cstring>
@@ -57,7 +58,7 @@ TEST_F(TeskConsoleSelectorTest, SelectorsNest)
 
 TEST_F(TeskConsoleSelectorTest, ANullNameIsEmpty)
 {
-    const TeskConsoleSelector selector(nullptr);
+    const TeskConsoleSelector selector(static_cast<const char*>(nullptr));
     EXPECT_EQ("", Host.Console);
 }
 
@@ -92,5 +93,33 @@ TEST_F(TeskConsoleSelectorTest, WithoutAHostItIsHarmless)
         const TeskConsoleSelector selector("other");
     }
     F1(&Host);
+    EXPECT_EQ("main", Host.Console);
+}
+
+TEST_F(TeskConsoleSelectorTest, AConsoleIsSelectedByItsFullName)
+{
+    Load("<frame name='F'><Children><console name='Out'><ScrollBar><Width>1</Width></ScrollBar></console></Children>"
+         "</frame>");
+    {
+        const TeskConsoleSelector selector(&As<TeskConsole>("Out@F"));
+        EXPECT_EQ("Out@F", Host.Console);
+    }
+    EXPECT_EQ("main", Host.Console);
+}
+
+TEST_F(TeskConsoleSelectorTest, NoConsoleHasAnEmptyName)
+{
+    const TeskConsoleSelector selector(static_cast<TeskConsole*>(nullptr));
+    EXPECT_EQ("", Host.Console);
+}
+
+TEST_F(TeskConsoleSelectorTest, AConsoleMayGoAsItIsSelected)
+{
+    Load("<console name='Out'><ScrollBar><Width>1</Width></ScrollBar></console>");
+    Host.OnConsole = [](const std::string&) { g_UIManager.Reset(); };
+    {
+        const TeskConsoleSelector selector(&As<TeskConsole>("Out"));
+        EXPECT_EQ("Out", Host.Console);
+    }
     EXPECT_EQ("main", Host.Console);
 }

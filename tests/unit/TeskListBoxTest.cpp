@@ -52,7 +52,7 @@ TEST_F(TeskListBoxTest, RowsInMarkupAreAddedWithTheirAttributes)
     TeskListBox& list = MakeList("<Items><item>b</item><item Value='7' Color='ff112233' Default='1'>a</item>"
                                  "<item/><other>c</other><ITEM Default='0'>d</ITEM></Items>");
     EXPECT_EQ((Strings{"b", "a", "d"}), Texts(list));
-    EXPECT_EQ("7", list.RetrieveItem(2)->Value);
+    EXPECT_STREQ("7", list.RetrieveItem(2)->GetValue());
     EXPECT_EQ(0xff112233u, list.RetrieveItem(2)->Color);
     EXPECT_EQ(list.TextColor, list.RetrieveItem(1)->Color);
     EXPECT_TRUE(list.SelectedItems.Contains(2));

@@ -156,6 +156,8 @@ constexpr ScriptAct ScriptActs[] = {
     {ScriptAct::This,   nullptr,   "SetClickFocus", {},                           HasTitleBar},
     {ScriptAct::This,   nullptr,   "ToggleMinimize", {},                          HasTitleBar},
     {ScriptAct::This,   nullptr,   "Unminimize",    {},                           HasTitleBar},
+    {ScriptAct::This,   nullptr,   "Echo",          {"more\nand more"},           HasLines},
+    {ScriptAct::This,   nullptr,   "Clear",         {},                           HasLines},
 };
 // clang-format on
 

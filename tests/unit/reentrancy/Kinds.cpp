@@ -26,6 +26,7 @@ constexpr u64 IsComboBox =
     Follows | Sends(9) | RunsOnSelect | DropsList | FocusedByPress | NamesRows | HasFont | HasTexture;
 constexpr u64 IsTextEntry =
     Follows | PassesOn | Sends(3) | Sends(5) | TakesKeys | FocusedByPress | SetsText | HasTexture;
+constexpr u64 IsConsole = FollowsHeldMouse | HasLines | HasFont | HasTexture | SetsTexture;
 constexpr u64 IsTooltip =
     PassesOn | SendsPresses | ExpandsText | SetsLines | KnowsReset | HasFont | HasTexture | SetsTexture;
 constexpr u64 IsWindow = Follows | Sends(11) | HasTitleBar | KnowsReset | HasTexture | SetsTexture;
@@ -65,6 +66,16 @@ constexpr char ComboBoxMarkup[] =
 constexpr char TextEntryMarkup[] = "<MaxLength>20</MaxLength><Texture Filename='#a'/><TextureFocused Filename='#b'/>"
                                    "<Border>1</Border><OnChange>OnChange</OnChange>";
 
+constexpr char ConsoleMarkup[] =
+    "<Texture Filename='#a'/><Border>1</Border><ScrollBar><Width>10</Width><Slider><Y>20</Y><Width>10</Width>"
+    "<Height>20</Height><Vertical/><OnChange>OnChange</OnChange></Slider></ScrollBar>";
+
+// Its rows but the last lie before the seam of the ring.
+void PrepareConsole()
+{
+    Tell(Self(), "Echo", {"a"});
+}
+
 // The client lies away from where the mouse goes, and its children follow its size.
 constexpr char WindowMarkup[] =
     "<Texture Filename='#a'/><WidthResizable/><ClickFocus>Field</ClickFocus><TitleBar><Width>40</Width>"
@@ -103,6 +114,7 @@ constexpr Kind Kinds[] = {
     {"listbox",         IsListBox,                             ListBoxMarkup,   nullptr},
     {"combobox",        IsComboBox,                            ComboBoxMarkup,  nullptr},
     {"textentry",       IsTextEntry,                           TextEntryMarkup, nullptr},
+    {"console",         IsConsole,                             ConsoleMarkup,   PrepareConsole},
     {"tooltip",         IsTooltip,                             FrameMarkup,     PrepareTooltip},
     {"window",          IsWindow,                              WindowMarkup,    PrepareWindow},
     {"foreigntext",     IsText | ReadsFonts,                   TextMarkup,      nullptr},

@@ -34,6 +34,7 @@ enum Trait : u64 {
     FocusedByPress = u64{1} << 44,
     HasTitleBar = u64{1} << 45, // a window, whose parts have scripts
     KnowsReset = u64{1} << 46, // its type has a method of that name
+    HasLines = u64{1} << 47, // prints, scrolls and copies lines
 };
 
 // It tells its parent so, of its own accord or for others.

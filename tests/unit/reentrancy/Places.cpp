@@ -339,6 +339,15 @@ void DragRow()
     g_UIManager.OnLMouseUp();
 }
 
+// From row to row and from column to column.
+void DragAcross()
+{
+    Aim();
+    g_UIManager.OnLMouseDown();
+    MoveTo(35, 50);
+    g_UIManager.OnLMouseUp();
+}
+
 void TurnWheelDown()
 {
     Aim();
@@ -457,6 +466,8 @@ constexpr Place Places[] = {
     {"OnSelect",             "press",                 HasRows,       PressAnotherRow},
     {"OnDeSelect",           "press",                 HasRows,       PressAnotherRow},
     {"OnChange",             "wheel",                 HasRows,       TurnWheelDown},
+    {"OnChange",             "wheel",                 HasLines,      TurnWheel},
+    {"PrintLine",            "drag",                  HasLines,      DragAcross},
     {"OnSelect",             "pick",                  DropsList,     OpenAndPickRow},
 
     {"SizeRecalculated of the child", "drag an edge", HasTitleBar,   DragTheLeftEdge},

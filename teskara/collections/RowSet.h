@@ -6,9 +6,9 @@
 #include <array>
 #include <vector>
 
-// Which rows of a list box are selected, by their ids and in the order of the ids. Each id has a bit of its own, so that
-// one among a million is selected, found and deselected as fast as one among ten.
-class TESKARA_EXPORT RowSelection
+// Some of the rows of a list box, by their ids and in the order of the ids. Each id has a bit of its own, so that one
+// among a million comes, is found and goes as fast as one among ten.
+class TESKARA_EXPORT RowSet
 {
 public:
     // False: there is no memory. An id that is in already stays in.

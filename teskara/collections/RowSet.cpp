@@ -1,4 +1,4 @@
-#include "teskara/collections/RowSelection.h"
+#include "teskara/collections/RowSet.h"
 
 #include <bit>
 
@@ -19,7 +19,7 @@ u32 FindBit(u64 word, u32 place)
 
 } // namespace
 
-bool RowSelection::Insert(u32 id) noexcept
+bool RowSet::Insert(u32 id) noexcept
 try {
     const u32 index = id / BitsPerBlock;
     if (index >= m_Blocks.size())
@@ -36,7 +36,7 @@ try {
     return false;
 }
 
-bool RowSelection::Remove(u32 id)
+bool RowSet::Remove(u32 id)
 {
     if (!Contains(id))
         return false;
@@ -48,19 +48,19 @@ bool RowSelection::Remove(u32 id)
     return true;
 }
 
-void RowSelection::Clear()
+void RowSet::Clear()
 {
     m_Blocks.clear();
     m_Count = 0;
 }
 
-bool RowSelection::Contains(u32 id) const
+bool RowSet::Contains(u32 id) const
 {
     const u32 index = id / BitsPerBlock;
     return index < m_Blocks.size() && (m_Blocks[index].WordOf(id) & BitOf(id)) != 0;
 }
 
-u32 RowSelection::FirstAfter(u32 id) const
+u32 RowSet::FirstAfter(u32 id) const
 {
     const u64 end = u64{m_Blocks.size()} * BitsPerBlock;
     for (u64 next = u64{id} + 1; next < end;) {
@@ -75,7 +75,7 @@ u32 RowSelection::FirstAfter(u32 id) const
     return 0;
 }
 
-u32 RowSelection::At(u32 place) const
+u32 RowSet::At(u32 place) const
 {
     if (place >= m_Count)
         return 0;
