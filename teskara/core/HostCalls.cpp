@@ -93,6 +93,12 @@ int ExecuteCommand(const char* text) noexcept
     return Call(0, [&](HostObject& host) { return host.ExecuteCommand(text); });
 }
 
+const char* CompleteCommandLine(const char* text, bool shift) noexcept
+{
+    return Call(
+        static_cast<const char*>(nullptr), [&](HostObject& host) { return host.CompleteCommandLine(text, shift); });
+}
+
 void DataParse(const char* text, char* output, u32 size) noexcept
 {
     CallForText(output, size, [&](HostObject& host) {

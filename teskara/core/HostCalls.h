@@ -67,6 +67,9 @@ int ExecuteAtomForText(u32 atom, int argc, char** argv, _MvTypeVar* self, char* 
 u32 FindAtom(const char* name) noexcept;
 int ExecuteCommand(const char* text) noexcept;
 
+// Null: the line stays as it is. The text is good until the next call.
+const char* CompleteCommandLine(const char* text, bool shift) noexcept;
+
 // Expands data sequences. size: of output, which is always terminated. text and output must not overlap.
 void DataParse(const char* text, char* output, u32 size) noexcept;
 u32 PreParseSequence(const char* text, u32 keep) noexcept;

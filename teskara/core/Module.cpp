@@ -23,6 +23,7 @@
 #include "teskara/core/platform/Platform.h"
 #include "teskara/element/TeskElementFactory.h"
 #include "teskara/script/TypeGlobals.h"
+#include "teskara/text/TeskCommandEntry.h"
 #include "teskara/text/TeskConsole.h"
 #include "teskara/text/TeskTextEntry.h"
 #include "teskara/windows/TeskContextMenu.h"
@@ -62,7 +63,7 @@ TeskFactory<TeskCheckBox> g_CheckBox("checkbox");
 TeskFactory<TeskComboBox> g_ComboBox("combobox");
 TeskFactory<TeskCommandButton> g_CommandButton("commandbutton");
 TeskFactory<TeskCommandCheckBox> g_CommandCheckBox("commandcheckbox");
-PendingFactory g_CommandEntry("commandentry");
+TeskFactory<TeskCommandEntry> g_CommandEntry("commandentry");
 TeskFactory<TeskConsole> g_Console("console");
 TeskFactory<TeskContextMenu> g_ContextMenu("contextmenu");
 TeskFactory<TeskFrame> g_Frame("frame");

@@ -176,6 +176,11 @@ void TeskTextEntry::HandleEscape() { }
 
 void TeskTextEntry::PasteClipboard()
 {
+    PasteLines(nullptr);
+}
+
+void TeskTextEntry::PasteLines(void (TeskTextEntry::*endLine)())
+{
     const ElementWatch self(*this);
     for (const char byte : ClipboardText()) {
         if (byte == '\b')
@@ -184,6 +189,8 @@ void TeskTextEntry::PasteClipboard()
             HandleDelete();
         else if (byte != '\n' && byte != '\r')
             InsertCharacter(byte);
+        else if (endLine)
+            (this->*endLine)();
         if (!self.Exists())
             return;
     }

@@ -86,6 +86,9 @@ public:
     void ReserveText(u32 maxLength);
 
 protected:
+    // Types the bytes of the clipboard. What is called for a byte that ends a line may be null.
+    void PasteLines(void (TeskTextEntry::*endLine)());
+
     // What every key does that was acted on: it is held, or with Enter none is any more, and its script runs.
     void FinishKeyDown(u32 key);
 

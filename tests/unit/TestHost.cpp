@@ -123,6 +123,15 @@ void TestHost::FreeSequence(u32 sequence)
     m_Sequences.erase(sequence);
 }
 
+const char* TestHost::CompleteCommandLine(const char* text, bool shift)
+{
+    if (!Complete)
+        return nullptr;
+
+    m_Completed = Complete(text, shift);
+    return m_Completed.c_str();
+}
+
 int TestHost::ExecuteCommand(const char* text)
 {
     Record(RecordCommands, "ExecuteCommand \"%s\"", text);

@@ -39,7 +39,7 @@ public:
     MvTypeDefinition* FindType(const char*) override { return nullptr; }
     void InvalidateTransientObject(u32, void*) override { }
     u32 RegisterTransientClass(const char*) override { return 1; }
-    const char* CompleteCommandLine(const char*, bool) override { return nullptr; }
+    const char* CompleteCommandLine(const char* text, bool shift) override;
     bool Calculate(const char* text, double& result) override;
     void PrintLine(const char* format, ...) override;
     HostScriptInterface* GetScriptInterface() override { return nullptr; }
@@ -119,6 +119,9 @@ public:
     // What a command line does. One that is not here is unknown.
     std::map<std::string, std::function<void()>> Commands;
 
+    // What a command line is completed to; unset, it stays.
+    std::function<std::string(const std::string& line, bool shift)> Complete;
+
     // What a text calculates to. One that is not here has no value.
     std::map<std::string, double> Values;
     std::function<void()> OnCalculate;
@@ -142,6 +145,7 @@ private:
     float WidthOf(char byte) const;
     int WidthOf(const char* text) const;
 
+    std::string m_Completed;
     std::map<u32, std::string> m_Atoms;
     std::map<u32, std::string> m_Sequences;
     u32 m_LastAtom = 0;

@@ -24,8 +24,7 @@ constexpr u64 IsListBox =
     Follows | Sends(9) | Sends(12) | Sends(13) | RunsOnSelect | HasRows | NamesRows | HasFont | HasTexture;
 constexpr u64 IsComboBox =
     Follows | Sends(9) | RunsOnSelect | DropsList | FocusedByPress | NamesRows | HasFont | HasTexture;
-constexpr u64 IsTextEntry =
-    Follows | PassesOn | Sends(3) | Sends(5) | TakesKeys | FocusedByPress | SetsText | HasTexture;
+constexpr u64 IsField = Follows | PassesOn | Sends(3) | TakesKeys | FocusedByPress | SetsText | HasTexture;
 constexpr u64 IsConsole = FollowsHeldMouse | HasLines | HasFont | HasTexture | SetsTexture;
 constexpr u64 IsTooltip =
     PassesOn | SendsPresses | ExpandsText | SetsLines | KnowsReset | HasFont | HasTexture | SetsTexture;
@@ -90,6 +89,10 @@ void PrepareWindow()
     Self()->FirstChild->Show(false);
 }
 
+constexpr char CommandEntryMarkup[] = "<MaxLength>20</MaxLength><Texture Filename='#a'/><Console>Status</Console>"
+                                      "<CommandHistory>2</CommandHistory><OnChange>OnChange</OnChange>"
+                                      "<OnCommand>OnCommand</OnCommand>";
+
 // A tooltip is loaded hidden and without lines.
 void PrepareTooltip()
 {
@@ -113,7 +116,8 @@ constexpr Kind Kinds[] = {
     {"scrollbar",       IsScrollBar,                           ScrollBarMarkup, nullptr},
     {"listbox",         IsListBox,                             ListBoxMarkup,   nullptr},
     {"combobox",        IsComboBox,                            ComboBoxMarkup,  nullptr},
-    {"textentry",       IsTextEntry,                           TextEntryMarkup, nullptr},
+    {"textentry",       IsField | Sends(5),                    TextEntryMarkup, nullptr},
+    {"commandentry",    IsField | EntersLines,                 CommandEntryMarkup, nullptr},
     {"console",         IsConsole,                             ConsoleMarkup,   PrepareConsole},
     {"tooltip",         IsTooltip,                             FrameMarkup,     PrepareTooltip},
     {"window",          IsWindow,                              WindowMarkup,    PrepareWindow},

@@ -35,6 +35,7 @@ enum Trait : u64 {
     HasTitleBar = u64{1} << 45, // a window, whose parts have scripts
     KnowsReset = u64{1} << 46, // its type has a method of that name
     HasLines = u64{1} << 47, // prints, scrolls and copies lines
+    EntersLines = u64{1} << 49, // runs what is typed
 };
 
 // It tells its parent so, of its own accord or for others.

@@ -56,6 +56,12 @@ int MatrixHost::ExecuteCommand(const char*)
     return 0;
 }
 
+const char* MatrixHost::CompleteCommandLine(const char*, bool)
+{
+    g_Bomb.Reach("CompleteCommandLine");
+    return "completed";
+}
+
 int MatrixHost::DataParse(const char*, char* output, u32 size)
 {
     g_Bomb.Reach("DataParse");

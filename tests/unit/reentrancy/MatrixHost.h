@@ -31,6 +31,7 @@ public:
     void WriteFile(const char* name, const std::string& markup);
 
     int ExecuteCommand(const char* text) override;
+    const char* CompleteCommandLine(const char* text, bool shift) override;
     int DataParse(const char* text, char* output, u32 size) override;
     bool Calculate(const char* text, double& result) override;
     void PrintLine(const char* format, ...) override;

@@ -2,6 +2,7 @@
 
 #include "teskara/core/CUIManager.h"
 #include "teskara/element/TeskElement.h"
+#include "teskara/text/TeskCommandEntry.h"
 #include "teskara/text/TeskTextEntry.h"
 #include "teskara/text/TextKeys.h"
 #include "tests/unit/reentrancy/ForeignElements.h"
@@ -180,6 +181,31 @@ void PressEnter()
 {
     FocusSelf();
     g_UIManager.OnKeyDown(KeyEnter);
+}
+
+void EnterLine()
+{
+    FocusSelf();
+    if (auto* entry = dynamic_cast<TeskTextEntry*>(Self()))
+        entry->Text.Fill("words", 5);
+    g_UIManager.OnKeyDown(KeyEnter);
+}
+
+void EnterLineWithoutScript()
+{
+    if (auto* entry = dynamic_cast<TeskCommandEntry*>(Self()))
+        entry->OnCommandScript.reset();
+    EnterLine();
+}
+
+void CompleteLine()
+{
+    FocusSelf();
+    if (auto* entry = dynamic_cast<TeskCommandEntry*>(Self())) {
+        entry->Text.Fill("words", 5);
+        entry->Text.MoveToEnd();
+    }
+    g_UIManager.OnKeyDown(KeyTab);
 }
 
 // As if the key had been held for a while.
@@ -490,6 +516,11 @@ constexpr Place Places[] = {
     {"OnChange",             "delete text",           TakesKeys,     DeleteText},
     {"OnChange",             "paste",                 TakesKeys,     Paste},
     {"OnChange",             "SetText",               TakesKeys,     CallSetText},
+    {"OnCommand",            "enter",                 EntersLines,   EnterLine},
+    {"OnCommand",            "paste",                 EntersLines,   Paste},
+    {"ExecuteCommand",       "enter",                 EntersLines,   EnterLineWithoutScript},
+    {"SetOutputConsole",     "enter",                 EntersLines,   EnterLine},
+    {"CompleteCommandLine",  "tab",                   EntersLines,   CompleteLine},
     {"refused key",          "key",                   IsForeign,     PressKey},
 
     // what scripts call
