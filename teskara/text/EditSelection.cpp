@@ -19,8 +19,7 @@ bool IsBefore(const TextEditPos& left, const TextEditPos& right)
 
 bool EditSelection::Exists() const
 {
-    const TextEditPos& end = SelectionEnd;
-    return SelectionStart.Line && SelectionEnd.Line && SelectionStart != end;
+    return SelectionStart.Line && SelectionEnd.Line && SelectionStart != SelectionEnd;
 }
 
 void EditSelection::Clear()

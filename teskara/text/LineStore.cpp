@@ -4,6 +4,13 @@
 #include <cstring>
 #include <functional>
 
+LineStore::~LineStore()
+{
+    Clear();
+    for (LivePosition* position : m_Positions)
+        position->m_Lines = nullptr;
+}
+
 std::shared_ptr<char[]> LineStore::Keep(const char* text) noexcept
 try {
     const std::size_t size = std::strlen(text) + 1;
@@ -81,7 +88,7 @@ void LineStore::Remove(CTextEditLine& line, RemovedLine positions)
     CTextEditLine* neighbor = first ? first : second;
     for (LivePosition* position : m_Positions) {
         if (position->Line == &line)
-            *position = TextEditPos{neighbor, neighbor ? std::min(position->Column, neighbor->Length) : 0};
+            *position = TextEditPos{neighbor, neighbor ? position->Column : 0};
     }
 
     m_Numbers.Remove(line);
@@ -125,14 +132,15 @@ bool LineStore::IsConsistent() const
             [this](const LivePosition* position) { return !position->Line || Contains(position->Line); });
 }
 
-LivePosition::LivePosition(LineStore& lines) : m_Lines(lines)
+LivePosition::LivePosition(LineStore& lines) : m_Lines(&lines)
 {
-    m_Lines.m_Positions.push_back(this);
+    m_Lines->m_Positions.push_back(this);
 }
 
 LivePosition::~LivePosition()
 {
-    std::erase(m_Lines.m_Positions, this);
+    if (m_Lines)
+        std::erase(m_Lines->m_Positions, this);
 }
 
 LivePosition& LivePosition::operator=(const TextEditPos& position)

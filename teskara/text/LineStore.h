@@ -20,6 +20,9 @@ class TESKARA_EXPORT LineStore
 {
 public:
     LineStore() = default;
+
+    // Positions that are left become none.
+    ~LineStore();
     LineStore(const LineStore&) = delete;
     LineStore& operator=(const LineStore&) = delete;
 
@@ -35,7 +38,8 @@ public:
     CTextEditLine* InsertAfter(CTextEditLine* line, std::string_view text) noexcept;
     CTextEditLine* Append(const char* text) noexcept;
 
-    // Ends a line of this store. Positions on it go to its neighbor; with the last line of all they become none.
+    // Ends a line of this store. Positions on it keep their columns and go to its neighbor; with the last line of all
+    // they become none.
     void Remove(CTextEditLine& line, RemovedLine positions);
 
     // Ends all lines. All positions become none.
@@ -67,19 +71,21 @@ private:
     std::weak_ptr<char[]> m_Newest; // what was kept last, even if the lines have been cleared since
 };
 
-// A position that is tied to the lines of a store. It must not outlive the store.
+// A position that is tied to the lines of a store.
 class TESKARA_EXPORT LivePosition : public TextEditPos
 {
 public:
+    // Throws if there is no memory.
     explicit LivePosition(LineStore& lines);
     ~LivePosition();
     LivePosition(const LivePosition& other) = delete;
-
     LivePosition& operator=(const LivePosition& other) { return *this = static_cast<const TextEditPos&>(other); }
     LivePosition& operator=(const TextEditPos& position);
 
     void Clear() { *this = TextEditPos(); }
 
 private:
-    LineStore& m_Lines;
+    friend class LineStore;
+
+    LineStore* m_Lines; // null after its end
 };

@@ -95,7 +95,7 @@ TEST(LineStore, APositionGoesToTheLineBeforeOrBehindTheOneThatIsRemoved)
     elsewhere = TextEditPos{lines.First(), 2};
 
     lines.Remove(*second, RemovedLine::ToNext);
-    EXPECT_EQ((TextEditPos{lines.Last(), 2}), up) << "the column is held at the end of the line";
+    EXPECT_EQ((TextEditPos{lines.Last(), 4}), up);
     EXPECT_EQ((TextEditPos{lines.First(), 2}), elsewhere);
 
     down = TextEditPos{lines.Last(), 1};
@@ -115,7 +115,7 @@ TEST(LineStore, APositionGoesBackIfItIsToldTo)
     LivePosition position(lines);
     position = TextEditPos{lines.First()->Next, 2};
     lines.Remove(*lines.First()->Next, RemovedLine::ToPrevious);
-    EXPECT_EQ((TextEditPos{lines.First(), 1}), position);
+    EXPECT_EQ((TextEditPos{lines.First(), 2}), position);
 }
 
 TEST(LineStore, ClearingLeavesNoLineAndNoPosition)
