@@ -25,6 +25,7 @@
 #include "teskara/script/TypeGlobals.h"
 #include "teskara/text/TeskCommandEntry.h"
 #include "teskara/text/TeskConsole.h"
+#include "teskara/text/TeskTextEdit.h"
 #include "teskara/text/TeskTextEntry.h"
 #include "teskara/windows/TeskContextMenu.h"
 #include "teskara/windows/TeskMessageBox.h"
@@ -84,7 +85,7 @@ PendingFactory g_TabControl("tabcontrol");
 PendingFactory g_TableCell("tablecell");
 PendingFactory g_Table("table");
 TeskFactory<TeskText> g_Text("text");
-PendingFactory g_TextEdit("textedit");
+TeskFactory<TeskTextEdit> g_TextEdit("textedit");
 TeskFactory<TeskTextEntry> g_TextEntry("textentry");
 TeskFactory<TeskTooltip> g_Tooltip("tooltip");
 PendingFactory g_Tree("tree");

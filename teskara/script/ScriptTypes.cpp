@@ -16,6 +16,7 @@
 #include "teskara/script/TeskMessageBoxType.h"
 #include "teskara/script/TeskScrollBarType.h"
 #include "teskara/script/TeskSliderType.h"
+#include "teskara/script/TeskTextEditType.h"
 #include "teskara/script/TeskTextEntryType.h"
 #include "teskara/script/TeskTextType.h"
 #include "teskara/script/TeskTextureType.h"
@@ -127,7 +128,7 @@ constexpr TypeRow Types[] = {
     {"tesktab", &pTeskTabType, &pTeskFrameType, Nameless},
     {"tesktabcontrol", &pTeskTabControlType, &pTeskFrameType, Nameless},
     {"tesktext", &pTeskTextType, &pTeskElementType, Make<TeskTextType>},
-    {"tesktextedit", &pTeskTextEditType, &pTeskElementType, Nameless},
+    {"tesktextedit", &pTeskTextEditType, &pTeskElementType, Make<TeskTextEditType>},
     {"tesktextentry", &pTeskTextEntryType, &pTeskElementType, Make<TeskTextEntryType>},
     {"tesktexture", &pTeskTextureType, nullptr, Make<TeskTextureType>},
     {"tesktooltip", &pTeskTooltipType, &pTeskFrameType, Make<TeskTooltipType>},

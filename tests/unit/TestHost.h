@@ -64,7 +64,7 @@ public:
     bool FindResourceFile(const char* name, char* path) override;
     bool LocateFile(const char* name, char* path) override;
 
-    bool OpenClipboard() override { return false; }
+    bool OpenClipboard() override { return OpensClipboard && CurrentPlatform().OpenClipboard(); }
     void SaveElementPosition(TeskElement* element) override;
     void LoadElementPosition(TeskElement* element) override;
     bool GetKeyName(u32 key, char* name, u32 size) override;
@@ -100,6 +100,9 @@ public:
     bool RefusesDrawing = false;
     bool RefusesSequences = false;
     bool RefusesValues = false; // of sequences that were parsed
+
+    // Whether texts may be copied.
+    bool OpensClipboard = false;
 
     // Widths of bytes other than 6.
     std::map<char, float> Widths;

@@ -91,6 +91,7 @@ constexpr TypeNames AllNames[] = {
         "Text Font BackgroundColor BorderColor Border Texture TextureFocused TextureCaret TextureCaretOverwrite "
         "MaxLength",
         "SetText SetBackgroundColor SetBorderColor SetMaxLength"},
+    {"tesktextedit", 0, "Font", "SetText Clear AddText AddLine"},
     {"tesktooltip", 0, "Font Lines Line", "Reset Print SetLine"},
     {"teskwindow", 0,
         "Title Minimized ClickFocus IsClosable IsMinimizable IsWidthResizable IsHeightResizable IsResizable",
