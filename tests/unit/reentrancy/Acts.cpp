@@ -126,6 +126,8 @@ constexpr ScriptAct ScriptActs[] = {
     {ScriptAct::This,   nullptr,   "SetText",       {},                           SetsText},
     {ScriptAct::This,   nullptr,   "SetMaxLength",  {"0"},                        TakesKeys},
     {ScriptAct::This,   nullptr,   "SetMaxLength",  {"100000"},                   TakesKeys},
+    {ScriptAct::This,   nullptr,   "AddText",       {"a\nb\nc"},                  EditsLines},
+    {ScriptAct::This,   nullptr,   "AddLine",       {"more"},                     EditsLines},
     {ScriptAct::This,   "Font",    "SetHeight",     {"30"},                       HasFont},
     {ScriptAct::This,   "Font",    "SetName",       {"Other"},                    HasFont},
     {ScriptAct::This,   "Texture", "Set",           {"#other"},                   HasTexture},
@@ -157,7 +159,7 @@ constexpr ScriptAct ScriptActs[] = {
     {ScriptAct::This,   nullptr,   "ToggleMinimize", {},                          HasTitleBar},
     {ScriptAct::This,   nullptr,   "Unminimize",    {},                           HasTitleBar},
     {ScriptAct::This,   nullptr,   "Echo",          {"more\nand more"},           HasLines},
-    {ScriptAct::This,   nullptr,   "Clear",         {},                           HasLines},
+    {ScriptAct::This,   nullptr,   "Clear",         {},                           ClearsLines},
 };
 // clang-format on
 

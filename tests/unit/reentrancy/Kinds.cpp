@@ -1,6 +1,7 @@
 #include "tests/unit/reentrancy/Kinds.h"
 
 #include "teskara/element/TeskElement.h"
+#include "teskara/text/TeskTextEdit.h"
 #include "tests/unit/reentrancy/Scene.h"
 
 #include <ostream>
@@ -20,12 +21,14 @@ constexpr u64 IsGauge = IsFrame | HasValue;
 constexpr u64 IsSlider = Follows | PassesOn | Sends(4) | RunsOnChange | HasHandle | HasValue | HasTexture;
 constexpr u64 IsVariableSlider = IsSlider | EvaluatesText | ExpandsText;
 constexpr u64 IsScrollBar = Follows | Sends(4) | RunsOnChange | HasButtons | HasValue;
-constexpr u64 IsListBox =
-    Follows | Sends(9) | Sends(12) | Sends(13) | RunsOnSelect | HasRows | NamesRows | HasFont | HasTexture;
+constexpr u64 IsListBox = Follows | Sends(9) | Sends(12) | Sends(13) | RunsOnSelect | HasRows | NamesRows
+    | ScriptsScroll | HasFont | HasTexture;
 constexpr u64 IsComboBox =
     Follows | Sends(9) | RunsOnSelect | DropsList | FocusedByPress | NamesRows | HasFont | HasTexture;
-constexpr u64 IsField = Follows | PassesOn | Sends(3) | TakesKeys | FocusedByPress | SetsText | HasTexture;
-constexpr u64 IsConsole = FollowsHeldMouse | HasLines | HasFont | HasTexture | SetsTexture;
+constexpr u64 IsField = Follows | PassesOn | Sends(3) | TakesKeys | EditsText | FocusedByPress | SetsText | HasTexture;
+constexpr u64 IsTextEdit = Follows | Sends(7) | Sends(8) | Sends(10) | Sends(11) | EditsLines | EditsText | ClearsLines
+    | FocusedByPress | ScriptsScroll | SetsText | HasFont;
+constexpr u64 IsConsole = FollowsHeldMouse | HasLines | ClearsLines | HasFont | HasTexture | SetsTexture;
 constexpr u64 IsTooltip =
     PassesOn | SendsPresses | ExpandsText | SetsLines | KnowsReset | HasFont | HasTexture | SetsTexture;
 constexpr u64 IsWindow = Follows | Sends(11) | HasTitleBar | KnowsReset | HasTexture | SetsTexture;
@@ -93,6 +96,19 @@ constexpr char CommandEntryMarkup[] = "<MaxLength>20</MaxLength><Texture Filenam
                                       "<CommandHistory>2</CommandHistory><OnChange>OnChange</OnChange>"
                                       "<OnCommand>OnCommand</OnCommand>";
 
+constexpr char TextEditMarkup[] =
+    "<Border>1</Border><VerticalScrollBar><X>20</X><Width>10</Width><Height>100%</Height><Slider><Width>10</Width>"
+    "<Height>100%</Height><Vertical/><OnChange>OnChange</OnChange></Slider></VerticalScrollBar>";
+
+// The caret stands on the first of some lines.
+void PrepareTextEdit()
+{
+    if (auto* edit = dynamic_cast<TeskTextEdit*>(Self())) {
+        edit->SetText("\nsecond\nthird\nfourth\nlast");
+        edit->HandleCtrlHome();
+    }
+}
+
 // A tooltip is loaded hidden and without lines.
 void PrepareTooltip()
 {
@@ -119,6 +135,7 @@ constexpr Kind Kinds[] = {
     {"textentry",       IsField | Sends(5),                    TextEntryMarkup, nullptr},
     {"commandentry",    IsField | EntersLines,                 CommandEntryMarkup, nullptr},
     {"console",         IsConsole,                             ConsoleMarkup,   PrepareConsole},
+    {"textedit",        IsTextEdit,                            TextEditMarkup,  PrepareTextEdit},
     {"tooltip",         IsTooltip,                             FrameMarkup,     PrepareTooltip},
     {"window",          IsWindow,                              WindowMarkup,    PrepareWindow},
     {"foreigntext",     IsText | ReadsFonts,                   TextMarkup,      nullptr},

@@ -35,7 +35,11 @@ enum Trait : u64 {
     HasTitleBar = u64{1} << 45, // a window, whose parts have scripts
     KnowsReset = u64{1} << 46, // its type has a method of that name
     HasLines = u64{1} << 47, // prints, scrolls and copies lines
+    EditsLines = u64{1} << 48, // a field for lines
     EntersLines = u64{1} << 49, // runs what is typed
+    EditsText = u64{1} << 52, // repeats its keys, and a script runs as they change it
+    ScriptsScroll = u64{1} << 53, // its scroll bar runs a script
+    ClearsLines = u64{1} << 54, // scripts empty it
 };
 
 // It tells its parent so, of its own accord or for others.

@@ -3,6 +3,7 @@
 #include "teskara/core/CUIManager.h"
 #include "teskara/element/TeskElement.h"
 #include "teskara/text/TeskCommandEntry.h"
+#include "teskara/text/TeskTextEdit.h"
 #include "teskara/text/TeskTextEntry.h"
 #include "teskara/text/TextKeys.h"
 #include "tests/unit/reentrancy/ForeignElements.h"
@@ -208,14 +209,20 @@ void CompleteLine()
     g_UIManager.OnKeyDown(KeyTab);
 }
 
+void Hold(KeyRepeat& repeat, u32 key)
+{
+    repeat.HeldKey = key;
+    repeat.NextRepeatTick = 0;
+}
+
 // As if the key had been held for a while.
 void RepeatKey()
 {
     FocusSelf();
-    if (auto* entry = dynamic_cast<TeskTextEntry*>(Self())) {
-        entry->Repeat.HeldKey = 'A';
-        entry->Repeat.NextRepeatTick = 0;
-    }
+    if (auto* entry = dynamic_cast<TeskTextEntry*>(Self()))
+        Hold(entry->Repeat, 'A');
+    if (auto* edit = dynamic_cast<TeskTextEdit*>(Self()))
+        Hold(edit->Repeat, KeyDown);
     g_UIManager.Render();
 }
 
@@ -233,6 +240,38 @@ void DeleteText()
     if (auto* entry = dynamic_cast<TeskTextEntry*>(Self()))
         entry->Text.Fill("words", 5);
     g_UIManager.OnKeyDown(KeyDelete);
+}
+
+template <u32 Key> void PressInLines()
+{
+    FocusSelf();
+    if (dynamic_cast<TeskTextEdit*>(Self()))
+        g_UIManager.OnKeyDown(Key);
+}
+
+// By the rows of the frame before.
+void PageDown()
+{
+    g_UIManager.Render();
+    PressInLines<KeyPageDown>();
+}
+
+// The range of the bar falls below its value then.
+void JoinToTheFirst()
+{
+    FocusSelf();
+    if (auto* edit = dynamic_cast<TeskTextEdit*>(Self())) {
+        edit->View.Caret.Line = edit->Lines.First() ? edit->Lines.First()->Next : nullptr;
+        g_UIManager.OnKeyDown(KeyBackspace);
+    }
+}
+
+void GoToTheEnd()
+{
+    FocusSelf();
+    g_UIManager.CtrlDown = true;
+    g_UIManager.OnKeyDown(KeyEnd);
+    g_UIManager.CtrlDown = false;
 }
 
 void CallSetText()
@@ -351,6 +390,12 @@ void PressAnotherRow()
     PressLeft();
 }
 
+void PressAnotherLine()
+{
+    if (dynamic_cast<TeskTextEdit*>(Self()))
+        PressAnotherRow();
+}
+
 void DoubleClickOnRow()
 {
     PressAnotherRow();
@@ -413,6 +458,16 @@ void CallSort()
     Tell(Self(), "Sort", {"Compare"});
 }
 
+void CallAddText()
+{
+    Tell(Self(), "AddText", {"more\nlines"});
+}
+
+void CallAddLine()
+{
+    Tell(Self(), "AddLine", {"more"});
+}
+
 // As if the mouse had not been moved for a while.
 void RestMouse()
 {
@@ -435,7 +490,7 @@ constexpr Place Places[] = {
     {"OnLoad of a part",     "load",                  HasTitleBar,   Load},
     {"OnUnload of a part",   "load",                  HasTitleBar,   Load},
     {"OnSelect",             "load",                  RunsOnSelect,  Load},
-    {"OnChange",             "load",                  HasRows,       Load},
+    {"OnChange",             "load",                  ScriptsScroll, Load},
     {"PrintLine",            "load",                  EveryKind,     Load},
     {"PrintLine of a script", "load",                 EveryKind,     Load},
 
@@ -447,6 +502,7 @@ constexpr Place Places[] = {
     {"OnUnload",             "replace",               EveryKind,     ReplaceByLoad},
     {"SaveElementPosition",  "delete self",           EveryKind,     DeleteSelf},
     {"SaveElementPosition",  "delete grandparent",    EveryKind,     DeleteGrandparent},
+    {"OnChange",             "delete self",           EditsLines,    DeleteSelf},
     {"OnDestroy",            "delete self",           IsForeign,     DeleteSelf},
     {"OnDestroy",            "delete grandparent",    IsForeign,     DeleteGrandparent},
     {"OnDestroy",            "end of the kind",       IsForeign,     EndForeignKinds},
@@ -491,7 +547,8 @@ constexpr Place Places[] = {
     {"DataParse",            "press",                 ExpandsText | HasHandle, ClickLeft},
     {"OnSelect",             "press",                 HasRows,       PressAnotherRow},
     {"OnDeSelect",           "press",                 HasRows,       PressAnotherRow},
-    {"OnChange",             "wheel",                 HasRows,       TurnWheelDown},
+    {"OnChange",             "wheel",                 ScriptsScroll, TurnWheelDown},
+    {"OnChange",             "press",                 EditsLines,    PressAnotherLine},
     {"OnChange",             "wheel",                 HasLines,      TurnWheel},
     {"PrintLine",            "drag",                  HasLines,      DragAcross},
     {"OnSelect",             "pick",                  DropsList,     OpenAndPickRow},
@@ -510,17 +567,24 @@ constexpr Place Places[] = {
     {"OnKeyDown",            "key",                   EveryKind,     PressKey},
     {"OnKeyUp",              "key",                   EveryKind,     ReleaseKey},
     {"OnKeyboardEnter",      "click",                 FocusedByPress, ClickLeft},
-    {"OnKeyDown",            "repeat",                TakesKeys,     RepeatKey},
+    {"OnKeyDown",            "repeat",                EditsText,     RepeatKey},
     {"OnChange",             "key",                   TakesKeys,     PressKey},
-    {"OnChange",             "repeat",                TakesKeys,     RepeatKey},
-    {"OnChange",             "delete text",           TakesKeys,     DeleteText},
+    {"OnChange",             "repeat",                EditsText,     RepeatKey},
+    {"OnChange",             "delete text",           EditsText,     DeleteText},
     {"OnChange",             "paste",                 TakesKeys,     Paste},
-    {"OnChange",             "SetText",               TakesKeys,     CallSetText},
     {"OnCommand",            "enter",                 EntersLines,   EnterLine},
     {"OnCommand",            "paste",                 EntersLines,   Paste},
     {"ExecuteCommand",       "enter",                 EntersLines,   EnterLineWithoutScript},
     {"SetOutputConsole",     "enter",                 EntersLines,   EnterLine},
     {"CompleteCommandLine",  "tab",                   EntersLines,   CompleteLine},
+    {"OnChange",             "SetText",               EditsText,     CallSetText},
+    {"OnChange",             "down",                  EditsLines,    PressInLines<KeyDown>},
+    {"OnChange",             "page down",             EditsLines,    PageDown},
+    {"OnChange",             "end",                   EditsLines,    GoToTheEnd},
+    {"OnChange",             "enter",                 EditsLines,    PressInLines<KeyEnter>},
+    {"OnChange",             "backspace",             EditsLines,    JoinToTheFirst},
+    {"OnChange",             "AddText",               EditsLines,    CallAddText},
+    {"OnChange",             "AddLine",               EditsLines,    CallAddLine},
     {"refused key",          "key",                   IsForeign,     PressKey},
 
     // what scripts call
