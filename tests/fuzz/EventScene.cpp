@@ -30,6 +30,8 @@ constexpr char Values[] =
     "<X>20</X><Width>20</Width><Height>20</Height></button><button name='Close' Template='all'><X>40</X>"
     "<Width>20</Width><Height>20</Height></button></Children></TitleBar>"
     "<Client Template='all'><Y>20</Y><Width>100%</Width><Height>r20</Height></Client>"
+    "<VerticalScrollBar><X>60</X><Width>12</Width><Height>100%</Height><Slider><Width>12</Width><Height>100%</Height>"
+    "<Vertical/><OnChange>0</OnChange></Slider></VerticalScrollBar>"
     "<StorePosition>1</StorePosition><FadeDuration>40</FadeDuration><FadeAlpha>0.5</FadeAlpha>";
 
 std::string Tag(const char* name, const std::string& value)

@@ -63,11 +63,11 @@ constexpr const char* MethodWords[] = {"Destroy", "AddChild", "SetZOrder", "SetS
     "SetValue", "RaiseValue", "LowerValue", "SetSortType", "SetSelectMultiple", "DeselectItem", "SelectItem",
     "ItemToggleSelect", "ClearSelection", "AddItem", "RemoveItem", "ClearItems", "SetItemText", "SetItemColor", "Sort",
     "Select", "Deselect", "Toggle", "Remove", "SetSelection", "SetTitle", "Minimize", "Unminimize", "ToggleMinimize",
-    "SetClickFocus", "Echo", "Clear"};
+    "SetClickFocus", "Echo", "Clear", "AddText"};
 
 constexpr const char* ArgumentWords[] = {"", "frame", "top", "Button", "-1", "4294967295", "1e30", "nan", "${x}",
     "HitTest", "widthCircle", "<frame><OnLoad>0</OnLoad></frame>", "<text><Text>${x}</Text></text>", "all", "#camera",
-    "<broken", "1", "3", "c", "textreverse"};
+    "<broken", "1", "3", "c", "textreverse", "a\nb\n\nc"};
 
 // Up to three arguments, chosen by the byte.
 class Words

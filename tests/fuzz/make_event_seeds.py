@@ -108,6 +108,11 @@ SEEDS = {
         for method in ("AddItem", "Sort", "SelectItem", "RemoveItem", "SetSelection")) + FRAME
     + arm("ExecuteAtomForText", "delete self", 0, MANY) + b"".join(call(element, "Sort") for element in range(2, 50))
     + FRAME,
+    "lines": b"\21" + b"".join(
+        call(element, method) for element in range(2, 50) for method in ("AddText", "AddLine", "SetText", "AddText"))
+    + arm("OnKeyDown", "call own method", METHODS.index("Clear"), MANY) + b"".join(
+        step("focus", element) + b"".join(step("key down", key) for key in (13, 65, 40, 34, 38, 8, 46, 35)) + FRAME
+        for element in range(2, 30)),
     "commands": b"\15" + arm("ExecuteCommand", "delete self") + arm("SetOutputConsole", "delete another", 5)
     + arm("Calculate", "delete another", 4) + TOUR + step("move", OVER_SECOND) + TOUR,
     "throwing": b"\16" + b"".join(arm(place, "throw") for place in PLACES) + LOAD + TOUR
