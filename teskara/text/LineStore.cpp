@@ -143,6 +143,14 @@ LivePosition::~LivePosition()
         std::erase(m_Lines->m_Positions, this);
 }
 
+// It stays tied to its own store.
+LivePosition& LivePosition::operator=(const LivePosition& other)
+{
+    if (this != &other)
+        TextEditPos::operator=(other);
+    return *this;
+}
+
 LivePosition& LivePosition::operator=(const TextEditPos& position)
 {
     TextEditPos::operator=(position);

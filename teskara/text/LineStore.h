@@ -79,7 +79,7 @@ public:
     explicit LivePosition(LineStore& lines);
     ~LivePosition();
     LivePosition(const LivePosition& other) = delete;
-    LivePosition& operator=(const LivePosition& other) { return *this = static_cast<const TextEditPos&>(other); }
+    LivePosition& operator=(const LivePosition& other);
     LivePosition& operator=(const TextEditPos& position);
 
     void Clear() { *this = TextEditPos(); }

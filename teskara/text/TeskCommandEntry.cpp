@@ -102,17 +102,17 @@ void TeskCommandEntry::Complete()
     const std::string line = Text.From(0);
     const char* completed = Host::CompleteCommandLine(line.c_str(), g_UIManager.ShiftDown);
     if (completed && self.Exists())
-        Show(completed);
+        ShowLine(completed);
 }
 
 void TeskCommandEntry::Recall(const utf8string* line)
 {
     if (line)
-        Show(*line);
+        ShowLine(*line);
 }
 
 // Nobody hears of a line that was not typed.
-void TeskCommandEntry::Show(std::string_view line)
+void TeskCommandEntry::ShowLine(std::string_view line)
 {
     Text.Fill(line, MaxLength);
     Text.MoveToEnd();

@@ -37,7 +37,7 @@ private:
     bool ActOnCommandKey(u32 key);
     void Complete();
     void Recall(const utf8string* line);
-    void Show(std::string_view line);
+    void ShowLine(std::string_view line);
     void ClearLine();
     bool TakeLine();
     void ScrollConsole(void (TeskConsole::*scroll)());
