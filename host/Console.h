@@ -9,7 +9,11 @@
 
 namespace host {
 
-// Where lines for a person go: the standard error stream, or whoever takes them in its place.
+// How much a line matters to whom it is for.
+enum class LineWeight { Plain, Warning, Error };
+
+// Where lines for a person go: the standard error stream, or whoever takes them in its place; and the interface, if it
+// shows them. Colour codes in a text, which ColorCodes.h tells of, are for the interface alone.
 class Console
 {
 public:
@@ -21,18 +25,25 @@ public:
     // From now on lines go there. Returns where they went until now; null is the standard error stream.
     Taker SendTo(Taker taker) { return std::exchange(m_Taker, std::move(taker)); }
 
+    using Screen = std::function<void(const std::string& line, LineWeight weight)>;
+
+    // From now on the interface shows lines too.
+    void ShowOn(Screen screen) { m_Screen = std::move(screen); }
+
     // Writes a text, printf style.
     void Print(const char* format, ...);
-    void PrintArguments(const char* format, std::va_list arguments);
+    void Warn(const char* format, ...);
 
     // Writes a text as it is, each of its lines as one of its own.
-    void PrintText(const std::string& text);
+    void PrintText(const std::string& text, LineWeight weight = LineWeight::Plain);
 
 private:
-    void WriteLine(const std::string& line);
+    void PrintArguments(LineWeight weight, const char* format, std::va_list arguments);
+    void WriteLine(const std::string& line, LineWeight weight);
 
     CallTrail m_Trail;
     Taker m_Taker;
+    Screen m_Screen;
 };
 
 // Lets lines go elsewhere for the length of a scope.

@@ -16,6 +16,8 @@ InterfaceSession::InterfaceSession(SDL_Renderer* renderer, const Settings& setti
 {
     if (settings.ClockStandsStill)
         m_Clock.HoldStill();
+    if (!settings.Commands.empty())
+        m_Host.KeepCommands(settings.Commands);
     SetPlatform(&m_Platform);
     F1(&m_Host)->Initialize();
 
@@ -45,10 +47,16 @@ bool InterfaceSession::Open(const std::vector<std::string>& files, const std::st
     if (!OpenSkin(FirstSkin) || (!skin.empty() && skin != FirstSkin && !OpenSkin(skin)))
         return false;
 
+    m_Skin = skin;
     for (const std::string& file : files)
-        if (!OpenFile(file, file, skin.empty() ? nullptr : g_UIManager.FindSkin(skin.c_str())))
+        if (!OpenFile(file, file, SkinInUse()))
             return false;
     return true;
+}
+
+bool InterfaceSession::OpenOwn(const std::string& name)
+{
+    return OpenFile(name, (m_Host.Paths().InterfacesFolder() / name).string(), SkinInUse());
 }
 
 bool InterfaceSession::DrawFrame(int width, int height, float scale)
@@ -72,6 +80,11 @@ bool InterfaceSession::OpenFile(const std::string& subject, const std::string& f
 {
     const TrailStep step(m_Host.Output().Trail(), subject);
     return g_UIManager.LoadInterfaceXML(file.c_str(), true, skin);
+}
+
+TeskSkin* InterfaceSession::SkinInUse() const
+{
+    return m_Skin.empty() ? nullptr : g_UIManager.FindSkin(m_Skin.c_str());
 }
 
 bool InterfaceSession::OpenSkin(const std::string& name)

@@ -19,6 +19,7 @@ public:
     struct Settings {
         bool ClockStandsStill = false; // time moves by Advance alone
         std::filesystem::path Positions; // the file of stored positions; empty to store none
+        std::filesystem::path Commands; // the file of typed commands; empty to keep none
         ScriptTrust Trust = ScriptTrust::None;
         int Width = 0; // of the display at the start
         int Height = 0;
@@ -34,6 +35,9 @@ public:
     // skin. False if one could not be opened; a line has said which and why.
     bool Open(const std::vector<std::string>& files, const std::string& skin);
 
+    // Opens a file of the interfaces folder in the skin that is in use. False: a line has said why not.
+    bool OpenOwn(const std::string& name);
+
     // Lets the toolkit draw a frame of a size in pixels of the interface, each scale pixels of the target in size.
     // True if there is something new to present.
     bool DrawFrame(int width, int height, float scale);
@@ -47,6 +51,7 @@ public:
 
 private:
     bool OpenFile(const std::string& subject, const std::string& file, TeskSkin* skin);
+    TeskSkin* SkinInUse() const;
     bool OpenSkin(const std::string& name);
     void CountFrame();
 
@@ -54,6 +59,7 @@ private:
     HostPlatform m_Platform;
     ReferenceHost m_Host;
     FrameState m_Frame;
+    std::string m_Skin; // empty for the first one
     u32 m_SecondStart = 0;
     u32 m_FramesInSecond = 0;
 };

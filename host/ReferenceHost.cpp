@@ -1,8 +1,10 @@
 #include "host/ReferenceHost.h"
 
+#include "host/ConsoleCommands.h"
 #include "host/display/KeyCodes.h"
 #include "teskara/core/CUIManager.h"
 #include "teskara/element/TeskElement.h"
+#include "teskara/text/TeskCommandEntry.h"
 
 #include <cstdarg>
 #include <cstdio>
@@ -21,6 +23,9 @@ constexpr std::size_t PathSize = 4096;
 // The end of the toolkit's line about a script that does not compile. The name of the event stands before it.
 constexpr std::string_view NotCompiled = " embedded script failed to load";
 
+// What warnings of the toolkit begin with.
+constexpr std::string_view WarningStart = "WARNING:";
+
 bool WritePath(const std::optional<std::string>& found, char* path)
 {
     if (!found || found->size() >= PathSize)
@@ -30,16 +35,27 @@ bool WritePath(const std::optional<std::string>& found, char* path)
     return true;
 }
 
+// Whether the line comes from the field that the user types in.
+bool IsTyped(const char* line)
+{
+    const TeskElement* focus = g_UIManager.FindElementByID(g_UIManager.FocusElementID);
+    const auto* entry = dynamic_cast<const TeskCommandEntry*>(focus);
+    return entry && std::strcmp(entry->Text.From(0), line) == 0;
+}
+
 } // namespace
 
 ReferenceHost::ReferenceHost(SDL_Renderer* renderer, const std::filesystem::path& positions, ScriptTrust trust)
     : m_Canvas(renderer), m_Positions(positions, m_Console), m_Scripts(m_Console, trust)
 {
+    m_Console.ShowOn([this](const std::string& line, LineWeight weight) { m_Overlay.Print(line, weight); });
+    AddConsoleCommands(m_Scripts.Commands, m_Console);
     m_Scripts.Commands.Add("run", [this](int argc, char** argv) { return RunScriptFile(argc, argv); });
 }
 
 void ReferenceHost::BeginFrame(const FrameState& state, float scale)
 {
+    m_Overlay.ShowKept();
     m_Frame = state;
     m_Scripts.BeginFrame(state);
     m_Canvas.BeginFrame(state.Width, state.Height, scale);
@@ -68,7 +84,17 @@ void ReferenceHost::RemoveCommand(const char* name)
 
 int ReferenceHost::ExecuteCommand(const char* text)
 {
-    return m_Scripts.ExecuteCommand(text);
+    if (!IsTyped(text))
+        return m_Scripts.ExecuteCommand(text);
+
+    // What comes of it stands below the line, and needs no other subject.
+    const std::string line = text;
+    if (!m_History.Add(line))
+        m_Console.Warn("Could not store the commands that were typed");
+    m_Overlay.Print("\at> " + line, LineWeight::Plain);
+    const std::string nothing;
+    const TrailStep step(m_Console.Trail(), nothing);
+    return m_Scripts.ExecuteCommand(line.c_str());
 }
 
 int ReferenceHost::DataParse(const char* text, char* output, u32 size)
@@ -112,9 +138,10 @@ u32 ReferenceHost::RegisterTransientClass(const char*)
     return ++m_LastClass;
 }
 
-const char* ReferenceHost::CompleteCommandLine(const char*, bool)
+const char* ReferenceHost::CompleteCommandLine(const char* text, bool shift)
 {
-    return nullptr;
+    const std::string* line = m_Completion.Complete(text, shift);
+    return line ? line->c_str() : nullptr;
 }
 
 bool ReferenceHost::Calculate(const char* text, double& result)
@@ -135,7 +162,7 @@ void ReferenceHost::PrintLine(const char* format, ...)
     const bool isRefusal =
         text.ends_with(NotCompiled) && m_Scripts.Scripts.SayRefusal(text.substr(0, text.size() - NotCompiled.size()));
     if (!isRefusal)
-        m_Console.PrintText(line);
+        m_Console.PrintText(line, text.starts_with(WarningStart) ? LineWeight::Warning : LineWeight::Plain);
 }
 
 HostScriptInterface* ReferenceHost::GetScriptInterface()
@@ -214,7 +241,7 @@ bool ReferenceHost::FindResourceFile(const char* name, char* path)
     if (WritePath(m_Paths.FindResource(name), path))
         return true;
 
-    m_Console.Print("Could not find image %s", name);
+    m_Console.Warn("Could not find image %s", name);
     return false;
 }
 
@@ -263,12 +290,12 @@ bool ReferenceHost::GetKeyName(u32 key, char* buffer, u32 size)
 
 void ReferenceHost::GetOutputConsole(char* buffer, u32 size)
 {
-    std::snprintf(buffer, size, "%s", m_OutputConsole.c_str());
+    std::snprintf(buffer, size, "%s", m_Overlay.Selected().c_str());
 }
 
 void ReferenceHost::SetOutputConsole(const char* name)
 {
-    m_OutputConsole = name ? name : "";
+    m_Overlay.Select(name ? name : "");
 }
 
 // run FILE
@@ -282,7 +309,7 @@ int ReferenceHost::RunScriptFile(int argc, char** argv)
     const auto path = name.extension() == ".lua" ? m_Paths.FindInterface(argv[1]) : std::nullopt;
     std::ifstream file(path ? *path : std::string(), std::ios::binary);
     if (!file) {
-        m_Console.Print("Could not run script '%s'", argv[1]);
+        m_Console.Warn("Could not run script '%s'", argv[1]);
         return -1;
     }
     const std::string text(std::istreambuf_iterator<char>(file), {});
@@ -359,7 +386,7 @@ u32 ReferenceHost::LoadTextureResource(const char* path, u32 colorKey)
     std::string why;
     const u32 texture = m_Canvas.Textures().Acquire(path ? path : "", colorKey, why);
     if (!why.empty())
-        m_Console.Print("Could not load image %s: %s", path, why.c_str());
+        m_Console.Warn("Could not load image %s: %s", path, why.c_str());
     return texture;
 }
 

@@ -2,10 +2,14 @@
 
 #include "host/Console.h"
 #include "host/FrameState.h"
+#include "host/OverlayConsole.h"
 #include "host/display/Canvas.h"
+#include "host/files/CommandHistory.h"
 #include "host/files/SearchPaths.h"
 #include "host/files/StoredPositions.h"
+#include "host/script/CommandCompletion.h"
 #include "host/script/ScriptEngine.h"
+#include "host/script/ScriptNames.h"
 #include "teskara/core/HostInterface.h"
 
 #include <filesystem>
@@ -23,6 +27,10 @@ public:
     Console& Output() { return m_Console; }
     SearchPaths& Paths() { return m_Paths; }
     ScriptEngine& Scripts() { return m_Scripts; }
+
+    // Keeps the commands that are typed in a file, with those of earlier runs.
+    void KeepCommands(const std::filesystem::path& file) { m_History = CommandHistory(file); }
+    const CommandHistory& TypedCommands() const { return m_History; }
 
     // Begins a frame of a size in pixels of the interface, each scale pixels of the target.
     void BeginFrame(const FrameState& state, float scale);
@@ -96,12 +104,15 @@ private:
     int RunScriptFile(int argc, char** argv);
 
     Console m_Console;
+    OverlayConsole m_Overlay;
     FrameState m_Frame;
     Canvas m_Canvas;
     SearchPaths m_Paths;
     StoredPositions m_Positions;
+    CommandHistory m_History{{}};
     ScriptEngine m_Scripts;
-    std::string m_OutputConsole;
+    ScriptNames m_Names{m_Scripts};
+    CommandCompletion m_Completion{m_Names};
     u32 m_LastClass = 0;
 };
 

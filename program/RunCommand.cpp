@@ -1,4 +1,5 @@
 #include "host/CommandPrompt.h"
+#include "host/ConsoleWindow.h"
 #include "host/InterfaceSession.h"
 #include "host/display/InputRouter.h"
 #include "host/display/MouseCursor.h"
@@ -47,6 +48,8 @@ void WriteAnswer(const std::string& line)
 void RunFrames(host::InterfaceSession& session, host::Window& window)
 {
     host::InputRouter input(g_UIManager, session.System());
+    host::ConsoleWindow console(session);
+    input.SetShortcuts([&console](u32 key) { return console.HandleKey(key); });
     host::MouseCursor cursor;
 
     host::CommandPrompt prompt(session.Host(), STDIN_FILENO, WriteAnswer);
@@ -96,6 +99,7 @@ int Run(const InterfaceOptions& options)
     }
     host::InterfaceSession::Settings settings;
     settings.Positions = host::StoredPositions::DefaultFile();
+    settings.Commands = host::CommandHistory::DefaultFile();
     settings.Trust = options.Trust ? host::ScriptTrust::Full : host::ScriptTrust::None;
     settings.Width = options.Size.Width;
     settings.Height = options.Size.Height;

@@ -95,6 +95,8 @@ void InputRouter::HandleKeyDown(const SDL_KeyboardEvent& key)
     const std::string text = isTyped ? TakeTextOfKey() : "";
     if (key.repeat) // text fields repeat held keys by themselves
         return;
+    if (m_Shortcuts && m_Shortcuts(code))
+        return;
 
     std::size_t at = 0;
     if (isTyped)

@@ -4,7 +4,9 @@
 
 #include <SDL.h>
 
+#include <functional>
 #include <string_view>
+#include <utility>
 
 class CUIManager;
 
@@ -18,6 +20,10 @@ class InputRouter
 public:
     // Both are borrowed.
     InputRouter(CUIManager& manager, HostPlatform& platform);
+
+    // Keys that this takes do not reach the interface, nor does their text.
+    using Shortcuts = std::function<bool(u32 key)>;
+    void SetShortcuts(Shortcuts shortcuts) { m_Shortcuts = std::move(shortcuts); }
 
     // Takes one event. Events that are no input are passed over.
     void Handle(const SDL_Event& event);
@@ -33,6 +39,7 @@ private:
 
     CUIManager& m_Manager;
     HostPlatform& m_Platform;
+    Shortcuts m_Shortcuts;
     float m_WheelRest = 0;
 };
 

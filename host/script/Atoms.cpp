@@ -150,7 +150,7 @@ bool Atoms::SayRefusal(std::string_view event)
     m_Refusal.reset();
     const std::string where = event.empty() ? refusal.Where : refusal.Where + ' ' + std::string(event);
     const TrailStep step(m_Console.Trail(), where);
-    m_Console.PrintText(refusal.Why);
+    m_Console.PrintText(refusal.Why, LineWeight::Error);
     return true;
 }
 
@@ -203,7 +203,7 @@ void Atoms::SayWhyFailed(Atom& atom, u32 id)
     atom.LastError = error;
     atom.LastErrorFrame = m_Frame.Number;
     if (!isRepeated)
-        m_Console.PrintText(error);
+        m_Console.PrintText(error, LineWeight::Error);
 }
 
 // "atom 7:3: why" of atom 7 itself is "3: why"; of another it names that one.

@@ -24,7 +24,7 @@ CommandStep::CommandStep(CallTrail& trail, const std::string& line)
     : TrailStep(trail, trail.Where()), m_Name("command " + line)
 {
     m_File = &m_Name;
-    if (m_Where->empty())
+    if (IsOutermost())
         m_Where = &m_Name;
 }
 

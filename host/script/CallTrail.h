@@ -34,6 +34,9 @@ public:
     TrailStep& operator=(const TrailStep&) = delete;
 
 protected:
+    // Nothing goes on around it.
+    bool IsOutermost() const { return m_Trail.m_Steps.size() == 1; }
+
     CallTrail& m_Trail;
     const std::string* m_Where;
     std::string* m_File = nullptr; // where the name of a file is to be kept; null: it does not matter

@@ -32,6 +32,14 @@ bool CommandTable::Has(const std::string& name) const
     return m_Commands.count(ToLower(name)) != 0;
 }
 
+std::vector<std::string> CommandTable::Names() const
+{
+    std::vector<std::string> names;
+    for (const auto& [name, command] : m_Commands)
+        names.push_back(name);
+    return names;
+}
+
 int CommandTable::Execute(std::vector<std::string> words) const
 {
     if (words.empty())

@@ -21,6 +21,9 @@ public:
 
     bool Has(const std::string& name) const;
 
+    // In their order, in lower case.
+    std::vector<std::string> Names() const;
+
     // Runs the command that the first word names.
     int Execute(std::vector<std::string> words) const;
 

@@ -102,7 +102,7 @@ int ScriptEngine::ExecuteCommand(const char* line)
 int ScriptEngine::ExecuteWords(std::vector<std::string> words)
 {
     if (!words.empty() && !Commands.Has(words[0]))
-        m_Console.PrintText("There is no command '" + words[0] + "'");
+        m_Console.PrintText("There is no command '" + words[0] + "'", LineWeight::Error);
     return Commands.Execute(std::move(words));
 }
 
@@ -262,7 +262,7 @@ void ScriptEngine::AddFunctions(lua_State* thread)
 // Scripts keep too much. Whose it is nobody knows; if it stayed, all of them would fail for ever.
 void ScriptEngine::MakeRoom()
 {
-    m_Console.PrintText("scripts keep too much memory: their variables are cleared");
+    m_Console.PrintText("scripts keep too much memory: their variables are cleared", LineWeight::Error);
     Globals.ClearVariables();
     Sequences.ForgetRecent();
     if (!m_State.Collect())
@@ -283,7 +283,7 @@ void ScriptEngine::SayError(const std::string& subject)
 {
     const std::string chunk = subject + ":1: ";
     const std::string& why = m_State.Error();
-    m_Console.PrintText(subject + ": " + (why.starts_with(chunk) ? why.substr(chunk.size()) : why));
+    m_Console.PrintText(subject + ": " + (why.starts_with(chunk) ? why.substr(chunk.size()) : why), LineWeight::Error);
 }
 
 // print(value, ...) writes a line, with a blank between values.

@@ -154,6 +154,23 @@ void ScriptGlobals::Add(const std::function<void(lua_State* thread)>& adder)
     });
 }
 
+std::vector<std::string> ScriptGlobals::Names() const
+{
+    std::vector<std::string> names;
+    m_State.Protect([&](lua_State* thread) {
+        lua_pushglobaltable(thread);
+        lua_rawgeti(thread, LUA_REGISTRYINDEX, m_HostNames);
+        for (int table = 1; table <= 2; ++table) {
+            for (lua_pushnil(thread); lua_next(thread, table); lua_pop(thread, 1)) {
+                if (lua_type(thread, -2) == LUA_TSTRING && (table == 1 || !lua_isfunction(thread, -1)))
+                    names.emplace_back(lua_tostring(thread, -2));
+            }
+        }
+        lua_settop(thread, 0);
+    });
+    return names;
+}
+
 void ScriptGlobals::ClearVariables()
 {
     m_State.Protect([](lua_State* thread) {

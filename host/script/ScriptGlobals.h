@@ -3,6 +3,8 @@
 #include "host/script/LuaState.h"
 
 #include <functional>
+#include <string>
+#include <vector>
 
 namespace host {
 
@@ -23,6 +25,9 @@ public:
     // Pushes what a name stands for, a variable or something of the host's; the name lies on top of the stack, and goes.
     // Calls nothing and takes no memory.
     void PushNamed(lua_State* thread) const;
+
+    // The names of all variables, and of what is the host's but its functions.
+    std::vector<std::string> Names() const;
 
     // Takes their values from all variables.
     void ClearVariables();

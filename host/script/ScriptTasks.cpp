@@ -26,7 +26,7 @@ bool ScriptTasks::Start(const std::string& name, std::string_view text)
 {
     const TrailStep step(m_Console.Trail(), name);
     if (m_Tasks.size() >= MostTasks) {
-        m_Console.PrintText("too many scripts are running");
+        m_Console.PrintText("too many scripts are running", LineWeight::Error);
         return false;
     }
 
@@ -72,7 +72,7 @@ bool ScriptTasks::Resume(ScriptTask& task)
 {
     if (task.IsEnded()) {
         const TrailStep step(m_Console.Trail(), task.Name());
-        m_Console.PrintText("ended, since scripts keep too much memory");
+        m_Console.PrintText("ended, since scripts keep too much memory", LineWeight::Error);
         return false;
     }
     const TrailStep step(m_Console.Trail(), task.Name());
@@ -105,7 +105,7 @@ void ScriptTasks::SayWhyFailed(const std::string& name)
 
     const std::string chunk = name + ':';
     const std::string& why = m_State.Error();
-    m_Console.PrintText(why.starts_with(chunk) ? why.substr(chunk.size()) : why);
+    m_Console.PrintText(why.starts_with(chunk) ? why.substr(chunk.size()) : why, LineWeight::Error);
 }
 
 ScriptTask& ScriptTasks::WaitingTask(lua_State* thread, const char* function)

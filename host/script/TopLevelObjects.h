@@ -32,6 +32,14 @@ public:
         return found == m_Rows.end() ? nullptr : found->Handler;
     }
 
+    std::vector<std::string> Names() const
+    {
+        std::vector<std::string> names;
+        for (const Row& row : m_Rows)
+            names.push_back(row.Name);
+        return names;
+    }
+
 private:
     struct Row {
         std::string Name;

@@ -1,0 +1,43 @@
+#include "host/ConsoleCommands.h"
+
+#include "host/Console.h"
+#include "host/script/CommandTable.h"
+
+#include <string>
+
+namespace host {
+
+namespace {
+
+// What a command answers is about nothing but itself.
+void Answer(Console& console, const std::string& line)
+{
+    static const std::string nothing;
+    const TrailStep step(console.Trail(), nothing);
+    console.PrintText(line);
+}
+
+} // namespace
+
+void AddConsoleCommands(CommandTable& commands, Console& console)
+{
+    // echo WORD...
+    commands.Add("echo", [&console](int argc, char** argv) {
+        std::string line;
+        for (int index = 1; index < argc; ++index)
+            line += (index > 1 ? " " : "") + std::string(argv[index]);
+        Answer(console, line);
+        return 0;
+    });
+
+    // help
+    commands.Add("help", [&commands, &console](int, char**) {
+        std::string line = "Commands:";
+        for (const std::string& name : commands.Names())
+            line += ' ' + name;
+        Answer(console, line);
+        return 0;
+    });
+}
+
+} // namespace host

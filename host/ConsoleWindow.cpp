@@ -1,0 +1,75 @@
+#include "host/ConsoleWindow.h"
+
+#include "host/InterfaceSession.h"
+#include "teskara/core/CUIManager.h"
+#include "teskara/element/ElementWatch.h"
+#include "teskara/element/TeskElement.h"
+#include "teskara/text/TeskCommandEntry.h"
+
+namespace host {
+
+namespace {
+
+constexpr const char* File = "console.xml";
+constexpr const char* Name = "Console";
+constexpr const char* InputName = "input@Console";
+
+constexpr u32 KeyF1 = 112;
+constexpr u32 KeyGrave = 192;
+
+} // namespace
+
+bool ConsoleWindow::HandleKey(u32 key)
+{
+    if ((key != KeyF1 && key != KeyGrave) || g_UIManager.ShiftDown || g_UIManager.CtrlDown || g_UIManager.AltDown
+        || IsTyped(key))
+        return false;
+
+    Toggle();
+    return true;
+}
+
+void ConsoleWindow::Toggle()
+{
+    if (const TeskElement* window = Find())
+        g_UIManager.ShowElement(Name, !window->Visible);
+    else
+        Open();
+
+    TeskElement* window = Find();
+    if (!window || !window->Visible)
+        return;
+
+    const ElementWatch watch(*window);
+    window->MoveZTop(false);
+    TeskElement* input = g_UIManager.FindElement(InputName);
+    if (watch.Exists() && input)
+        g_UIManager.SetFocusElement(input);
+}
+
+// The arrow keys begin with what was typed before.
+void ConsoleWindow::Open()
+{
+    m_Session.OpenOwn(File);
+    auto* input = dynamic_cast<TeskCommandEntry*>(g_UIManager.FindElement(InputName));
+    if (!input)
+        return;
+
+    for (const std::string& line : m_Session.Host().TypedCommands().Lines())
+        input->History.Add(line);
+}
+
+TeskElement* ConsoleWindow::Find()
+{
+    return g_UIManager.FindElement(Name);
+}
+
+// A field for text keeps the characters that are typed, but for the console's own.
+bool ConsoleWindow::IsTyped(u32 key)
+{
+    TeskElement* focus = g_UIManager.FindElementByID(g_UIManager.FocusElementID);
+    return key == KeyGrave && focus && focus != g_UIManager.FindElement(InputName)
+        && (focus->IsTypeOf("textentry") || focus->IsTypeOf("textedit"));
+}
+
+} // namespace host
