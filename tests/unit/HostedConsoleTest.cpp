@@ -191,6 +191,7 @@ TEST(HostedConsoleDeathTest, TheConsoleOfTheHostRunsWhatIsTypedAndKeepsIt)
         interface.Frame();
         auto& entry = dynamic_cast<TeskCommandEntry&>(interface.Element("input@Console"));
         EXPECT_EQ(&entry, g_UIManager.GetFocusElement());
+        const std::string greeting = MainLines(interface);
         g_UIManager.OnKeyDown(38); // up
         EXPECT_STREQ("earlier", entry.Text.From(0));
         entry.SetText("echo 1 2");
@@ -198,7 +199,8 @@ TEST(HostedConsoleDeathTest, TheConsoleOfTheHostRunsWhatIsTypedAndKeepsIt)
         entry.SetText("nonsense");
         g_UIManager.OnKeyDown(13);
         EXPECT_STREQ("", entry.Text.From(0));
-        EXPECT_EQ("\at> echo 1 2\n1 2\n\at> nonsense\n\arThere is no command 'nonsense'\n", MainLines(interface));
+        EXPECT_EQ(
+            greeting + "\at> echo 1 2\n1 2\n\at> nonsense\n\arThere is no command 'nonsense'\n", MainLines(interface));
         EXPECT_EQ("1 2\nThere is no command 'nonsense'\n", interface.Lines());
         EXPECT_EQ((std::deque<std::string>{"earlier", "echo 1 2", "nonsense"}), host::CommandHistory(file).Lines());
     });
