@@ -350,7 +350,7 @@ void SequenceEvaluator::SayError(const Sequence& sequence, const SequencePart& p
     const std::string& outer = m_In.Output.Trail().Where();
     const std::string where = outer.empty() ? sequence.Where : outer;
     const TrailStep step(m_In.Output.Trail(), where);
-    m_In.Output.PrintText((isExpression ? "${=" : "${") + part.Text + "}: " + why);
+    m_In.Output.PrintText((isExpression ? "${=" : "${") + part.Text + "}: " + why, LineWeight::Error);
 }
 
 } // namespace host

@@ -59,6 +59,15 @@ TEST(HostedConsoleDeathTest, WarningsAndErrorsHaveTheirColor)
     });
 }
 
+TEST(HostedConsoleDeathTest, AFailedExpressionHasTheColorOfErrors)
+{
+    WithInterface([](HostedInterface& interface) {
+        interface.Load(Main);
+        interface.Expand("${= nothing + 1}");
+        EXPECT_EQ(0u, MainLines(interface).find("\ar${= nothing + 1}: ")) << MainLines(interface);
+    });
+}
+
 TEST(HostedConsoleDeathTest, EachLineThatAnErrorIsBrokenIntoHasTheColor)
 {
     WithInterface([](HostedInterface& interface) {
