@@ -10,9 +10,8 @@
 #include "tests/fuzz/EventHost.h"
 #include "tests/fuzz/ListModel.h"
 #include "tests/fuzz/MemoryFile.h"
+#include "tests/fuzz/ModelCheck.h"
 
-#include <cstdio>
-#include <cstdlib>
 #include <iterator>
 #include <string>
 
@@ -29,23 +28,9 @@ constexpr char Markup[] =
     "<combobox name='combo'><Width>100</Width><Height>20</Height><FullHeight>60</FullHeight>"
     "<ListBox Template='list'/></combobox></Tesk>";
 
-EventHost& StartedHost()
+EventHost& Started()
 {
-    static EventHost* host = [] {
-        auto* started = new EventHost; // outlives the library's end
-        F1(started)->Initialize();
-        return started;
-    }();
-    return *host;
-}
-
-void Require(bool holds, const char* what)
-{
-    if (holds)
-        return;
-
-    std::fprintf(stderr, "%s\n", what);
-    std::abort();
+    return StartedHost<EventHost>();
 }
 
 // The list under test, the box around it or null, and what they should be.
@@ -208,7 +193,7 @@ void RunOn(const char* name, Decisions& bytes)
 extern "C" int LLVMFuzzerTestOneInput(const u8* data, std::size_t size)
 {
     static const MemoryFile file;
-    EventHost& host = StartedHost();
+    EventHost& host = Started();
     Decisions bytes;
     bytes.Take(data, size);
     host.StartAnew();

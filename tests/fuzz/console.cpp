@@ -10,9 +10,8 @@
 #include "tests/fuzz/ChaosHost.h"
 #include "tests/fuzz/ConsoleModel.h"
 #include "tests/fuzz/MemoryFile.h"
+#include "tests/fuzz/ModelCheck.h"
 
-#include <cstdio>
-#include <cstdlib>
 #include <iterator>
 #include <map>
 #include <optional>
@@ -72,24 +71,9 @@ protected:
 
 QuietPlatform g_Platform;
 
-ConsoleHost& StartedHost()
+ConsoleHost& Started()
 {
-    static ConsoleHost* host = [] {
-        SetPlatform(&g_Platform);
-        auto* started = new ConsoleHost; // outlives the library's end
-        F1(started)->Initialize();
-        return started;
-    }();
-    return *host;
-}
-
-void Require(bool holds, const char* what)
-{
-    if (holds)
-        return;
-
-    std::fprintf(stderr, "%s\n", what);
-    std::abort();
+    return StartedHost<ConsoleHost>(&g_Platform);
 }
 
 // The console under test and what it should be.
@@ -174,8 +158,8 @@ void Select(Scene& scene, Decisions& bytes)
     scene.Console.OnLMouseDown(from);
     scene.Console.OnMouseMove(to);
     scene.Console.OnLMouseUp(to);
-    Require(g_Platform.Clipboard == (StartedHost().Opens ? expected.value_or(Before) : Before), "the copies differ");
-    Require(StartedHost().Lines == scene.Model.BadLines, "the lines about bad slots differ");
+    Require(g_Platform.Clipboard == (Started().Opens ? expected.value_or(Before) : Before), "the copies differ");
+    Require(Started().Lines == scene.Model.BadLines, "the lines about bad slots differ");
 }
 
 // The console is emptied in the middle of a copy, whose text is no matter then.
@@ -183,13 +167,13 @@ void SelectWhileItIsCleared(Scene& scene, Decisions& bytes)
 {
     _Point2i from = PointNear(scene.Model, bytes);
     _Point2i to = PointNear(scene.Model, bytes);
-    StartedHost().Told = &scene.Console;
+    Started().Told = &scene.Console;
     scene.Console.OnLMouseDown(from);
     scene.Console.OnLMouseUp(to);
-    StartedHost().Told = nullptr;
+    Started().Told = nullptr;
     scene.Console.Clear();
     scene.Model.Clear();
-    scene.Model.BadLines = StartedHost().Lines;
+    scene.Model.BadLines = Started().Lines;
 }
 
 void Resize(Scene& scene, Decisions& bytes)
@@ -203,7 +187,7 @@ void Resize(Scene& scene, Decisions& bytes)
 
 void Draw(Scene& scene, Decisions&)
 {
-    std::map<i32, std::string>& drawn = StartedHost().Drawn;
+    std::map<i32, std::string>& drawn = Started().Drawn;
     drawn.clear();
     g_UIManager.Render();
     i32 top = scene.Model.Y + 2;
@@ -240,7 +224,7 @@ constexpr Step Steps[] = {
     {"select",     Select},
     {"select while it is cleared", SelectWhileItIsCleared},
     {"resize",     Resize},
-    {"refuse",     [](Scene&, Decisions& bytes) { StartedHost().Opens = bytes.Next() % 4 != 0; }},
+    {"refuse",     [](Scene&, Decisions& bytes) { Started().Opens = bytes.Next() % 4 != 0; }},
     {"frame",      Draw},
 };
 // clang-format on
@@ -287,7 +271,7 @@ void RunOn(const char* name, Decisions& bytes)
 extern "C" int LLVMFuzzerTestOneInput(const u8* data, std::size_t size)
 {
     static const MemoryFile file;
-    ConsoleHost& host = StartedHost();
+    ConsoleHost& host = Started();
     Decisions bytes;
     bytes.Take(data, size);
     host.StartAnew();

@@ -9,9 +9,8 @@
 #include "tests/fuzz/EditModel.h"
 #include "tests/fuzz/EventHost.h"
 #include "tests/fuzz/MemoryFile.h"
+#include "tests/fuzz/ModelCheck.h"
 
-#include <cstdio>
-#include <cstdlib>
 #include <iterator>
 #include <optional>
 #include <string>
@@ -28,24 +27,9 @@ constexpr char Markup[] =
 
 QuietPlatform g_Platform;
 
-EventHost& StartedHost()
+EventHost& Started()
 {
-    static EventHost* host = [] {
-        SetPlatform(&g_Platform);
-        auto* started = new EventHost; // outlives the library's end
-        F1(started)->Initialize();
-        return started;
-    }();
-    return *host;
-}
-
-void Require(bool holds, const char* what)
-{
-    if (holds)
-        return;
-
-    std::fprintf(stderr, "%s\n", what);
-    std::abort();
+    return StartedHost<EventHost>(&g_Platform);
 }
 
 // The edit under test and what it should be.
@@ -307,7 +291,7 @@ void RunSteps(Scene& scene, Decisions& bytes)
 extern "C" int LLVMFuzzerTestOneInput(const u8* data, std::size_t size)
 {
     static const MemoryFile file;
-    EventHost& host = StartedHost();
+    EventHost& host = Started();
     Decisions bytes;
     bytes.Take(data, size);
     host.StartAnew();

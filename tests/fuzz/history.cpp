@@ -9,9 +9,8 @@
 #include "teskara/text/TextKeys.h"
 #include "tests/fuzz/ChaosHost.h"
 #include "tests/fuzz/HistoryModel.h"
+#include "tests/fuzz/ModelCheck.h"
 
-#include <cstdio>
-#include <cstdlib>
 #include <cstring>
 #include <iterator>
 #include <string>
@@ -41,24 +40,9 @@ protected:
 
 QuietPlatform g_Platform;
 
-CommandHost& StartedHost()
+CommandHost& Started()
 {
-    static CommandHost* host = [] {
-        SetPlatform(&g_Platform);
-        auto* started = new CommandHost; // outlives the library's end
-        F1(started)->Initialize();
-        return started;
-    }();
-    return *host;
-}
-
-void Require(bool holds, const char* what)
-{
-    if (holds)
-        return;
-
-    std::fprintf(stderr, "%s\n", what);
-    std::abort();
+    return StartedHost<CommandHost>(&g_Platform);
 }
 
 // The entry under test and what it should be.
@@ -142,7 +126,7 @@ void Compare(const Scene& scene)
     Require(scene.Entry.History.Count() == model.Count, "one remembers more lines");
     Require(scene.Entry.History.Write == model.Write, "the next lines go to different slots");
     Require(scene.Entry.History.Read == model.Read, "the walks stand at different slots");
-    Require(StartedHost().Commands == model.Commands, "different commands were run");
+    Require(Started().Commands == model.Commands, "different commands were run");
 }
 
 void RunSteps(Scene& scene, Decisions& bytes)
@@ -160,7 +144,7 @@ extern "C" int LLVMFuzzerTestOneInput(const u8* data, std::size_t size)
 {
     Decisions bytes;
     bytes.Take(data, size);
-    StartedHost().Commands.clear();
+    Started().Commands.clear();
     g_UIManager.ShiftDown = g_UIManager.CtrlDown = false;
 
     auto* entry = dynamic_cast<TeskCommandEntry*>(g_UIManager.LoadElement(g_UIManager.Screen, "commandentry", "e"));
@@ -177,6 +161,6 @@ extern "C" int LLVMFuzzerTestOneInput(const u8* data, std::size_t size)
     RunSteps(scene, bytes);
 
     g_UIManager.Reset();
-    Require(StartedHost().Books.Imbalance().empty(), "the host is owed something");
+    Require(Started().Books.Imbalance().empty(), "the host is owed something");
     return 0;
 }

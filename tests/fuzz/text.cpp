@@ -8,9 +8,9 @@
 #include "teskara/element/TeskScreen.h"
 #include "teskara/text/TeskTextEntry.h"
 #include "tests/fuzz/EventHost.h"
+#include "tests/fuzz/ModelCheck.h"
 #include "tests/fuzz/TextModel.h"
 
-#include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <iterator>
@@ -44,24 +44,9 @@ public:
     u64 Changes = 0;
 };
 
-EventHost& StartedHost()
+EventHost& Started()
 {
-    static EventHost* host = [] {
-        SetPlatform(&g_Platform);
-        auto* started = new EventHost; // outlives the library's end
-        F1(started)->Initialize();
-        return started;
-    }();
-    return *host;
-}
-
-void Require(bool holds, const char* what)
-{
-    if (holds)
-        return;
-
-    std::fprintf(stderr, "%s\n", what);
-    std::abort();
+    return StartedHost<EventHost>(&g_Platform);
 }
 
 // The entry under test and what it should be.
@@ -225,7 +210,7 @@ void RunSteps(Scene& scene, Decisions& bytes)
 
 void StartAnew()
 {
-    StartedHost().StartAnew();
+    Started().StartAnew();
     g_Platform.Ticks = 10000;
     g_Platform.Clipboard.clear();
     g_UIManager.ShiftDown = g_UIManager.CtrlDown = false;
@@ -255,6 +240,6 @@ extern "C" int LLVMFuzzerTestOneInput(const u8* data, std::size_t size)
     RunSteps(scene, bytes);
 
     g_UIManager.Reset();
-    Require(StartedHost().Books.Imbalance().empty(), "the host is owed something");
+    Require(Started().Books.Imbalance().empty(), "the host is owed something");
     return 0;
 }
