@@ -6,8 +6,7 @@ namespace host {
 
 namespace {
 
-// The skin whose templates all interfaces build upon; the others redirect them.
-constexpr const char* FirstSkin = "slate";
+constexpr const char* DefaultSkin = "slate";
 
 } // namespace
 
@@ -44,10 +43,9 @@ bool InterfaceSession::Open(const std::vector<std::string>& files, const std::st
     for (const std::string& file : files)
         m_Host.Paths().AddInterfaceFile(file);
 
-    if (!OpenSkin(FirstSkin) || (!skin.empty() && skin != FirstSkin && !OpenSkin(skin)))
+    if (!OpenSkin(skin.empty() ? DefaultSkin : skin))
         return false;
 
-    m_Skin = skin;
     for (const std::string& file : files)
         if (!OpenFile(file, file, SkinInUse()))
             return false;
@@ -84,14 +82,22 @@ bool InterfaceSession::OpenFile(const std::string& subject, const std::string& f
 
 TeskSkin* InterfaceSession::SkinInUse() const
 {
-    return m_Skin.empty() ? nullptr : g_UIManager.FindSkin(m_Skin.c_str());
+    return g_UIManager.FindSkin(m_Skin.c_str());
 }
 
+// A skin gives colours, upon which the templates that all skins share are built; what it makes differently comes last.
 bool InterfaceSession::OpenSkin(const std::string& name)
 {
-    const std::filesystem::path folder = m_Host.Paths().InterfacesFolder() / "skins" / name;
-    m_Host.Paths().AddSkinFolder(folder);
-    return OpenFile("skin " + name, (folder / "skin.xml").string(), nullptr);
+    const std::filesystem::path skins = m_Host.Paths().InterfacesFolder() / "skins";
+    const std::filesystem::path folder =
+        name.find('/') == std::string::npos ? skins / name : std::filesystem::path(name);
+    const std::filesystem::path own = folder / "templates.xml";
+    const std::string subject = "skin " + name;
+    m_Host.Paths().SetSkinFolder(folder);
+    m_Skin = name;
+    return OpenFile(subject, (folder / "skin.xml").string(), nullptr)
+        && OpenFile(subject, (skins / "templates.xml").string(), nullptr)
+        && (!exists(own) || OpenFile(subject, own.string(), nullptr));
 }
 
 void InterfaceSession::CountFrame()

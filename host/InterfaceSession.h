@@ -31,8 +31,9 @@ public:
     InterfaceSession(const InterfaceSession&) = delete;
     InterfaceSession& operator=(const InterfaceSession&) = delete;
 
-    // Opens interface files, in their order, in a skin that lies in the interfaces folder; an empty name is the first
-    // skin. False if one could not be opened; a line has said which and why.
+    // Opens interface files, in their order, in a skin: a folder's name among the skins of the interfaces folder, or its
+    // path; empty for the one that is used if nobody chooses. False if one could not be opened; a line has said which and
+    // why.
     bool Open(const std::vector<std::string>& files, const std::string& skin);
 
     // Opens a file of the interfaces folder in the skin that is in use. False: a line has said why not.
@@ -59,7 +60,7 @@ private:
     HostPlatform m_Platform;
     ReferenceHost m_Host;
     FrameState m_Frame;
-    std::string m_Skin; // empty for the first one
+    std::string m_Skin;
     u32 m_SecondStart = 0;
     u32 m_FramesInSecond = 0;
 };

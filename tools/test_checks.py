@@ -3,11 +3,13 @@
 
 import tempfile
 import unittest
+import xml.etree.ElementTree
 from pathlib import Path
 
 import check_format
 import check_layers
 import check_sizes
+import check_skins
 
 GOOD = {
     "teskara/CMakeLists.txt": "set(SOURCES core/Numbers.cpp)",
@@ -101,6 +103,20 @@ class Checks(unittest.TestCase):
         found = check_format.findings(tree, style)
         self.assertEqual(len(found), 1, found)
         self.assertIn("host/A.h:2", found[0])
+
+    def test_each_kind_needs_a_template(self):
+        found = list(check_skins.missing_templates({"button", "map"}, {"button": None}))
+        self.assertEqual(len(found), 1, found)
+        self.assertIn('"map"', found[0])
+
+    def test_skins_tell_the_same_colours(self):
+        def skin(colors):
+            return {"list colors": xml.etree.ElementTree.fromstring(f"<Template>{colors}</Template>")}
+
+        full = skin("<Color>ff000000</Color><BorderColor>ff000000</BorderColor>")
+        self.assertEqual(list(check_skins.missing_colors({"one": full, "other": full})), [])
+        self.assertIn("lacks BorderColor", *check_skins.missing_colors({"one": full, "other": skin("<Color/>")}))
+        self.assertIn("lacks BorderColor, Color", *check_skins.missing_colors({"one": full, "other": {}}))
 
 
 if __name__ == "__main__":

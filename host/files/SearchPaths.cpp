@@ -74,9 +74,9 @@ void SearchPaths::AddInterfaceFile(const std::string& file)
     m_BesideFiles.push_back(Absolute(file).parent_path());
 }
 
-void SearchPaths::AddSkinFolder(const fs::path& folder)
+void SearchPaths::SetSkinFolder(const fs::path& folder)
 {
-    m_Skins.insert(m_Skins.begin(), folder);
+    m_Skin = Absolute(folder);
 }
 
 std::optional<std::string> SearchPaths::FindInterface(const std::string& name) const
@@ -96,9 +96,7 @@ std::optional<std::string> SearchPaths::FindResource(const std::string& name) co
         return IsFile(name) ? std::optional(name) : std::nullopt;
     if (auto found = FirstIn(m_BesideFiles, name))
         return found;
-    if (auto found = FirstIn(m_Skins, name))
-        return found;
-    return FirstIn({m_Interfaces}, name);
+    return FirstIn({m_Skin, m_Interfaces}, name);
 }
 
 } // namespace host

@@ -17,20 +17,20 @@ public:
     // An interface file that is to be opened: what it names may lie beside it.
     void AddInterfaceFile(const std::string& file);
 
-    // A skin's folder. One that is added later is looked at earlier.
-    void AddSkinFolder(const std::filesystem::path& folder);
+    // The folder of the skin in use.
+    void SetSkinFolder(const std::filesystem::path& folder);
 
     const std::filesystem::path& InterfacesFolder() const { return m_Interfaces; }
 
     // Full path of an interface file: absolute or relative to the working folder, else in the interfaces folder.
     std::optional<std::string> FindInterface(const std::string& name) const;
 
-    // Full path of an image: beside the opened files, else in the skins' folders, else in the interfaces folder.
+    // Full path of an image: beside the opened files, else in the skin's folder, else in the interfaces folder.
     std::optional<std::string> FindResource(const std::string& name) const;
 
 private:
     std::vector<std::filesystem::path> m_BesideFiles;
-    std::vector<std::filesystem::path> m_Skins;
+    std::filesystem::path m_Skin;
     std::filesystem::path m_Interfaces;
 };
 
