@@ -3,6 +3,8 @@
 
 #include "teskara/collections/TeskComboBox.h"
 #include "teskara/collections/TeskListBox.h"
+#include "teskara/collections/TeskTable.h"
+#include "teskara/collections/TeskTableCell.h"
 #include "teskara/controls/TeskButton.h"
 #include "teskara/controls/TeskCheckBox.h"
 #include "teskara/controls/TeskCommandButton.h"
@@ -82,8 +84,8 @@ TeskFactory<TeskScriptMessageBox> g_ScriptMessageBox("scriptmessagebox");
 TeskFactory<TeskScrollBar> g_ScrollBar("scrollbar");
 TeskFactory<TeskSlider> g_Slider("slider");
 PendingFactory g_TabControl("tabcontrol");
-PendingFactory g_TableCell("tablecell");
-PendingFactory g_Table("table");
+TeskFactory<TeskTableCell> g_TableCell("tablecell");
+TeskFactory<TeskTable> g_Table("table");
 TeskFactory<TeskText> g_Text("text");
 TeskFactory<TeskTextEdit> g_TextEdit("textedit");
 TeskFactory<TeskTextEntry> g_TextEntry("textentry");
