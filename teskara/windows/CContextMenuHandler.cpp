@@ -117,18 +117,18 @@ try {
     return;
 }
 
+// Menus that open each other in a circle end where the way up began.
 void CContextMenuHandler::DestroyMenu(bool upward)
 {
     const MenuHandlerWatch self(this);
     const MenuHandlerWatch parent(Parent);
     CloseOwn();
-    if (!upward)
+    if (!upward || !parent.Exists() || (self.Exists() && std::exchange(m_ClosesUpward, true)))
         return;
 
+    parent.Get()->DestroyMenu(true);
     if (self.Exists())
-        SetParent(nullptr); // so that menus that open each other in a circle have an end
-    if (CContextMenuHandler* next = parent.Get())
-        next->DestroyMenu(true);
+        m_ClosesUpward = false;
 }
 
 void CContextMenuHandler::CloseOwn()

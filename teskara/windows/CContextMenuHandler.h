@@ -16,8 +16,8 @@ class XMLNode;
 //         void OnClick(unsigned int id) override { ... }
 //     };
 //
-// A click closes the menu and all menus that led to it; so does the end of the handler with its own menu and what was
-// opened from it. Closing may run scripts. The handler may end in any of its operations.
+// A click closes the menu and those of all handlers above it, by Parent; so does the end of the handler with its own menu
+// and what was opened from it. Closing may run scripts. The handler may end in any of its operations.
 class TESKARA_EXPORT CContextMenuHandler
 {
 public:
@@ -41,7 +41,7 @@ public:
     // Opens the menu beside a row of another one.
     void CreateSubmenu(CContextMenuHandler& parent, unsigned int id, int x, int y);
 
-    // Closes the menu with what was opened from it; upward, also those that led to it.
+    // Closes the menu with what was opened from it; upward, also those of the handlers above.
     void DestroyMenu(bool upward);
 
     // Each adds a row at the bottom and returns its id; without an open menu they return 0. An id of 0 stands for the
@@ -59,7 +59,7 @@ public:
     XMLNode* Template = nullptr; // look of the menu, borrowed; null for the template "contextmenu"
     TeskContextMenu* Menu = nullptr; // null while it is closed; belongs to the tree
     CContextMenuHandler* Child = nullptr; // of the submenu that is open
-    CContextMenuHandler* Parent = nullptr; // of the menu that opened this one last
+    CContextMenuHandler* Parent = nullptr; // of the menu that opened this one last; stays when both have closed
 
 private:
     friend class MenuHandlerWatch;
@@ -72,5 +72,6 @@ private:
 
     CContextMenuHandler* m_Opened = nullptr; // the first handler that names this one as its Parent
     CContextMenuHandler* m_NextOpened = nullptr; // the next one that names the same
+    bool m_ClosesUpward = false;
     MenuHandlerWatch* m_Watches = nullptr;
 };

@@ -306,8 +306,11 @@ TEST_F(CContextMenuHandlerTest, MenusThatOpenEachOtherInACircleClose)
     ClickRow(Middle, 2);
     EXPECT_EQ(nullptr, Middle.Menu);
     EXPECT_EQ(nullptr, Top.Menu);
-    EXPECT_EQ(nullptr, Top.Parent);
-    EXPECT_EQ(nullptr, Middle.Parent);
+    EXPECT_EQ(&Middle, Top.Parent);
+    EXPECT_EQ(&Top, Middle.Parent) << "the circle stays";
+    Middle.Create(100, 50);
+    Top.DestroyMenu(true);
+    EXPECT_EQ(nullptr, Middle.Menu);
 }
 
 TEST_F(CContextMenuHandlerTest, AMenuThatIsDeletedTellsItsHandler)
