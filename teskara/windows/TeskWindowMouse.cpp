@@ -124,9 +124,12 @@ bool TeskWindow::GiveClickFocus()
     return self.Exists();
 }
 
-// By an edge, else by whatever was pressed.
+// By an edge, else by whatever was pressed. What a lock came too late for goes on.
 void TeskWindow::Grab(const _Point2i& point)
 {
+    if (Locked)
+        return;
+
     ResizeEdges = ResizeEdgesAt(point);
     if (ResizeEdges != 0)
         ResizeAnchor = point;

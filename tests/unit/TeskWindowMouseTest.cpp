@@ -162,6 +162,20 @@ TEST_F(TeskWindowMouseTest, EachEdgeResizes)
     }
 }
 
+TEST_F(TeskWindowMouseTest, ALockDuringAResizeDoesNotEndItNorDoesAnotherPress)
+{
+    UseTemplate("<Resizable/>");
+    TeskWindow& window = LoadWindow();
+    PressAt(302, 150);
+    window.Locked = true;
+    PressAt(312, 150);
+    EXPECT_EQ(u32{RightEdge}, window.ResizeEdges);
+    MoveTo(322, 150);
+    EXPECT_EQ("97,97 226x156", PlaceOf(window));
+    Release();
+    EXPECT_EQ(0u, window.ResizeEdges);
+}
+
 TEST_F(TeskWindowMouseTest, OnlyTheEdgesThatResizeAreCaught)
 {
     UseTemplate("<WidthResizable/>");
