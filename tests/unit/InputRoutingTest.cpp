@@ -4,6 +4,7 @@
 #include "tests/unit/ToolkitTest.h"
 
 #include <algorithm>
+#include <functional>
 #include <iterator>
 #include <string>
 
@@ -178,6 +179,30 @@ TEST_F(InputRoutingTest, EveryKeySetsTheTickOfTheLastInput)
     System.Ticks = 20001;
     g_UIManager.OnKeyUp(65);
     EXPECT_EQ(20001u, g_UIManager.LastInputTick);
+}
+
+TEST_F(InputRoutingTest, EveryEventOfTheMouseSetsTheTickOfTheLastInputAndNothingElseDoes)
+{
+    MoveTo(10, 10);
+    const std::function<void()> events[] = {
+        [] { MoveTo(20, 20); },
+        [] { g_UIManager.OnMouseWheel(1); },
+        [] { g_UIManager.OnLMouseDown(); },
+        [] { g_UIManager.OnLMouseUp(); },
+        [] { g_UIManager.OnRMouseDown(); },
+        [] { g_UIManager.OnRMouseUp(); },
+    };
+    for (const auto& event : events) {
+        ++System.Ticks;
+        event();
+        EXPECT_EQ(System.Ticks, g_UIManager.LastInputTick);
+    }
+
+    ++System.Ticks;
+    EXPECT_FALSE(MoveTo(20, 20)) << "the mouse is there already";
+    EXPECT_FALSE(g_UIManager.OnLMouseUp()) << "no button is down";
+    EXPECT_FALSE(g_UIManager.OnRMouseUp());
+    EXPECT_EQ(System.Ticks - 1, g_UIManager.LastInputTick);
 }
 
 // --- Presses

@@ -6,7 +6,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <climits>
+#include <iterator>
 #include <string>
 
 namespace {
@@ -79,6 +81,43 @@ void StoreNothing(CUIManager& manager)
     manager.RemoveSkin("");
 }
 
+void ExpectNothingHeld(const CUIManager& manager)
+{
+    EXPECT_TRUE(manager.ElementsByName.empty());
+    EXPECT_TRUE(manager.ElementsByID.empty());
+    EXPECT_EQ(nullptr, manager.Screen);
+    EXPECT_TRUE(manager.Factories.empty());
+    EXPECT_EQ(1u, manager.NextElementID);
+    EXPECT_TRUE(manager.Templates.empty());
+    EXPECT_TRUE(manager.Skins.empty());
+    EXPECT_EQ(nullptr, manager.CurrentSkin);
+    EXPECT_STREQ("Tesk", manager.RootTagName);
+    EXPECT_STREQ("", manager.CurrentFile);
+    EXPECT_FALSE(manager.ShuttingDown);
+    EXPECT_EQ(0u, manager.ObjectClass);
+    EXPECT_TRUE(manager.ElementMetadata.empty());
+}
+
+void ExpectNoInput(const CUIManager& manager)
+{
+    for (const u32 id : {manager.FocusElementID, manager.MouseOverElementID, manager.LeftPressElementID,
+             manager.RightPressElementID, manager.MouseCaptureElementID, manager.TooltipElementID,
+             manager.LastLeftClickElementID, manager.LastRightClickElementID})
+        EXPECT_EQ(0u, id);
+    for (const u32 tick :
+        {manager.MouseEnterTick, manager.LastInputTick, manager.LastLeftClickTick, manager.LastRightClickTick})
+        EXPECT_EQ(0u, tick);
+    EXPECT_FALSE(manager.ShiftDown || manager.AltDown || manager.CtrlDown || manager.ZOrderChanged);
+    EXPECT_EQ(ButtonUp, manager.LeftButtonState);
+    EXPECT_EQ(ButtonUp, manager.RightButtonState);
+    EXPECT_EQ(-1, manager.MousePosition.x);
+    EXPECT_EQ(-1, manager.MousePosition.y);
+    EXPECT_EQ(0, manager.LastClickPosition.x);
+    EXPECT_EQ(0, manager.LastClickPosition.y);
+    EXPECT_EQ(256, std::count(std::begin(manager.KeyState), std::end(manager.KeyState), u8{0}));
+    EXPECT_TRUE(manager.KeyStates.empty());
+}
+
 void DoEverythingWithNothing()
 {
     AskForNothing(g_UIManager);
@@ -91,6 +130,27 @@ void DoEverythingWithNothing()
 }
 
 } // namespace
+
+TEST(ManagerLifeDeathTest, ANewManagerHasNothingAndItsOwnTimes)
+{
+    InFreshProcess([] {
+        TestPlatform platform;
+        SetPlatform(&platform);
+        {
+            CUIManager manager;
+            ExpectNothingHeld(manager);
+            ExpectNoInput(manager);
+            EXPECT_EQ(10000u, manager.FrameTick);
+            EXPECT_EQ(1000u, manager.TooltipDelay);
+            EXPECT_EQ(250u, manager.DoubleClickTime);
+            EXPECT_EQ(50u, manager.KeyRepeatRate);
+            EXPECT_EQ(250u, manager.KeyRepeatDelay);
+        }
+        EXPECT_EQ(34u, g_UIManager.Factories.size()) << "the kinds are there as soon as the library is";
+        EXPECT_EQ(1u, g_UIManager.NextElementID);
+        SetPlatform(nullptr);
+    });
+}
 
 TEST(ManagerLifeDeathTest, NothingIsDoneWithNothingInEveryStageOfLife)
 {

@@ -1,0 +1,83 @@
+#include "teskara/collections/TeskListBox.h"
+#include "teskara/core/CUIManager.h"
+#include "teskara/element/TeskScreen.h"
+#include "tests/unit/ToolkitTest.h"
+
+namespace {
+
+// Writes down the room that it is given for its answers.
+class MeasuringHost : public TestHost
+{
+public:
+    int DataParse(const char* text, char* output, u32 size) override
+    {
+        Sizes.push_back(size);
+        return TestHost::DataParse(text, output, size);
+    }
+
+    int ExecuteAtomForText(u32, int, char**, _MvTypeVar*, u32, char*, u32 size) override
+    {
+        Sizes.push_back(size);
+        return 0;
+    }
+
+    bool GetKeyName(u32, char*, u32 size) override
+    {
+        Sizes.push_back(size);
+        return false;
+    }
+
+    std::vector<u32> Sizes;
+};
+
+class HostBuffersTest : public ToolkitTest
+{
+protected:
+    ~HostBuffersTest() override { F1(&Host); }
+
+    std::vector<u32> TakeSizes()
+    {
+        std::vector<u32> taken;
+        taken.swap(Measures.Sizes);
+        return taken;
+    }
+
+    // Loads from the usual host, and then measures.
+    void LoadMeasured(const std::string& markup)
+    {
+        Load(markup);
+        F1(&Measures);
+    }
+
+    MeasuringHost Measures;
+};
+
+using Sizes = std::vector<u32>;
+
+} // namespace
+
+TEST_F(HostBuffersTest, ATextMayExpandTo2047Bytes)
+{
+    LoadMeasured("<text name='T'><Width>100</Width><Height>20</Height><Text>${V}</Text></text>");
+    g_UIManager.Render();
+    EXPECT_EQ((Sizes{2048}), TakeSizes());
+}
+
+TEST_F(HostBuffersTest, AKeyMayHaveANameOf63Bytes)
+{
+    LoadMeasured("<frame name='A'><OnKeyDown>down</OnKeyDown></frame>");
+    g_UIManager.SetFocusElement(&Element("A"));
+    EXPECT_FALSE(g_UIManager.OnKeyDown(65));
+    EXPECT_EQ((Sizes{64}), TakeSizes());
+}
+
+TEST_F(HostBuffersTest, AnAtomThatSortsMayAnswer511Bytes)
+{
+    g_UIManager.LoadElement(g_UIManager.Screen, "listbox", "L");
+    F1(&Measures);
+    auto& list = As<TeskListBox>("L");
+    list.AddItem("a", "", 0);
+    list.AddItem("b", "", 0);
+    EXPECT_TRUE(list.SortByAtom(1));
+    EXPECT_EQ((Sizes{512}), TakeSizes());
+}
