@@ -38,6 +38,16 @@ public:
             m_NoneFreeBelow = std::min(m_NoneFreeBelow, slot);
     }
 
+    // Adds free slots until there are so many; a table never shrinks. False: there are as many already.
+    bool Resize(std::size_t size)
+    {
+        if (size <= m_Slots.size())
+            return false;
+
+        m_Slots.resize(size, nullptr);
+        return true;
+    }
+
     // Number of slots, the free ones included.
     std::size_t Size() const { return m_Slots.size(); }
 

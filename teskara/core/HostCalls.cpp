@@ -314,4 +314,17 @@ char* MakeTempBuffer(std::size_t size, const char* text) noexcept
     return CallScripts<char*>(nullptr, [&](HostScriptInterface& host) { return host.MakeTempBuffer(size, text); });
 }
 
+u32 RegisterTransientClass2(const char* name) noexcept
+{
+    return CallScripts(u32{0}, [&](HostScriptInterface& host) { return host.RegisterTransientClass2(name); });
+}
+
+void InvalidateTransientObject2(u32 classID, void* object) noexcept
+{
+    CallScripts(false, [&](HostScriptInterface& host) {
+        host.InvalidateTransientObject2(classID, object);
+        return true;
+    });
+}
+
 } // namespace Host

@@ -169,5 +169,7 @@ void SetUserInput(HostScript& script, const char* text) noexcept;
 // What a script would call a reference. May run scripts. False: there is no value.
 bool ParseTypedValue(const char* text, _MvTypeVar& result) noexcept;
 char* MakeTempBuffer(std::size_t size, const char* text) noexcept;
+u32 RegisterTransientClass2(const char* name) noexcept;
+void InvalidateTransientObject2(u32 classID, void* object) noexcept;
 
 } // namespace Host

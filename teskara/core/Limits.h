@@ -54,6 +54,8 @@ inline constexpr u32 NestedNotifications = 256;
 inline constexpr std::size_t RingLines = 1000000;
 // Slots of a table's grid. A table that asks for more gets no grid.
 inline constexpr u64 TableSlots = 1000000;
+// Positions of a script index. Beyond them nothing is added, and it does not grow.
+inline constexpr u32 IndexPositions = 16 * 1024 * 1024;
 // A frame's walk over children ends after so many steps for each child that there was at its start, and so many
 // besides.
 inline constexpr std::size_t ChildWalkFactor = 4;

@@ -90,6 +90,21 @@ TEST(CIndex, BeyondTheEndNothingIsSet)
     EXPECT_EQ(0u, index.Add(&entry));
 }
 
+TEST(CIndex, ResizeOnlyAddsFreeSlots)
+{
+    CIndex<int> index;
+    int entry = 0;
+    EXPECT_TRUE(index.Resize(3));
+    EXPECT_EQ(3u, index.Size());
+    EXPECT_EQ(nullptr, index.Get(2));
+    EXPECT_FALSE(index.Resize(3));
+    EXPECT_FALSE(index.Resize(0));
+    EXPECT_EQ(3u, index.Size());
+    for (std::size_t slot = 0; slot < 4; ++slot)
+        EXPECT_EQ(slot, index.Add(&entry));
+    EXPECT_EQ(13u, index.Size());
+}
+
 TEST(CIndex, HundredThousandEntriesFillItInOrder)
 {
     constexpr std::size_t count = 100000;

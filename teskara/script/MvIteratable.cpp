@@ -1,0 +1,3 @@
+#include "teskara/script/MvIteratable.h"
+
+MvIteratable::~MvIteratable() = default;

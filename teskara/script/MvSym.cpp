@@ -1,0 +1,3 @@
+#include "teskara/script/MvSym.h"
+
+MvSym::~MvSym() = default;
