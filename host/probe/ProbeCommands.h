@@ -32,4 +32,5 @@ std::span<const ProbeCommand> MarkupCommands();
 std::span<const ProbeCommand> InputCommands();
 std::span<const ProbeCommand> ScriptCommands();
 std::span<const ProbeCommand> MenuCommands();
+std::span<const ProbeCommand> IndexCommands();
 std::span<const ProbeCommand> PendingCommands();

@@ -73,6 +73,7 @@ void ProbeSession::Carry(const CommandLine& line)
 void ProbeSession::End()
 {
     Output.TraceNone();
+    Indexes.clear();
     g_UIManager.Shutdown();
     Output.Take();
 }

@@ -16,7 +16,10 @@
 #include "host/probe/ScriptReferences.h"
 #include "host/probe/SequenceEvaluator.h"
 #include "host/probe/TemporaryTexts.h"
+#include "teskara/script/MvIndex.h"
 
+#include <map>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -69,6 +72,7 @@ public:
     ProbePositions Positions;
     ProbeFactories Factories;
     ProbeMenu::Menus Menus;
+    std::map<std::string, std::unique_ptr<MvIndex>> Indexes;
     RecordingHost Host;
 
 private:
