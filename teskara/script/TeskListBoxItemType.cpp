@@ -2,6 +2,7 @@
 
 #include "teskara/collections/TeskListBox.h"
 #include "teskara/core/BoundedText.h"
+#include "teskara/script/HeldObject.h"
 #include "teskara/script/ScriptActions.h"
 
 #include <cstring>
@@ -63,25 +64,14 @@ constexpr ScriptMethod<ListBoxItem> Methods[] = {
 
 } // namespace
 
-// A host that keeps the pointer alone gives no serial number back.
 ListBoxItem* ListBoxItemOf(MvValue value)
 {
-    auto* item = static_cast<ListBoxItem*>(value.Object);
-    if (!ScriptHold<ListBoxItem>::IsAlive(item))
-        return nullptr;
-
-    const u64 serial = value.Words[1];
-    return serial == 0 || serial == item->Serial ? item : nullptr;
+    return NumberedObject<ListBoxItem>(value);
 }
 
 MvTypeDefinition* ListBoxItemValue::Put(MvValue& value, ListBoxItem* item)
 {
-    if (!item || !item->Hold.HandOut(item))
-        return nullptr;
-
-    value.Object = item;
-    value.Words[1] = item->Serial;
-    return pTeskListBoxItemType;
+    return PutNumbered(value, item) ? pTeskListBoxItemType : nullptr;
 }
 
 TeskListBoxItemType::TeskListBoxItemType(const char* name) : TableType(name, Members, Methods) { }
