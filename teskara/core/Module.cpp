@@ -3,6 +3,7 @@
 
 #include "teskara/collections/TeskComboBox.h"
 #include "teskara/collections/TeskListBox.h"
+#include "teskara/collections/TeskTabControl.h"
 #include "teskara/collections/TeskTable.h"
 #include "teskara/collections/TeskTableCell.h"
 #include "teskara/controls/TeskButton.h"
@@ -83,7 +84,7 @@ TeskFactory<TeskScriptInputBox> g_ScriptInputBox("scriptinputbox");
 TeskFactory<TeskScriptMessageBox> g_ScriptMessageBox("scriptmessagebox");
 TeskFactory<TeskScrollBar> g_ScrollBar("scrollbar");
 TeskFactory<TeskSlider> g_Slider("slider");
-PendingFactory g_TabControl("tabcontrol");
+TeskFactory<TeskTabControl> g_TabControl("tabcontrol");
 TeskFactory<TeskTableCell> g_TableCell("tablecell");
 TeskFactory<TeskTable> g_Table("table");
 TeskFactory<TeskText> g_Text("text");

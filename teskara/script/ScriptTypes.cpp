@@ -16,6 +16,8 @@
 #include "teskara/script/TeskMessageBoxType.h"
 #include "teskara/script/TeskScrollBarType.h"
 #include "teskara/script/TeskSliderType.h"
+#include "teskara/script/TeskTabControlType.h"
+#include "teskara/script/TeskTabType.h"
 #include "teskara/script/TeskTextEditType.h"
 #include "teskara/script/TeskTextEntryType.h"
 #include "teskara/script/TeskTextType.h"
@@ -125,8 +127,8 @@ constexpr TypeRow Types[] = {
     {"teskmessagebox", &pTeskMessageBoxType, &pTeskElementType, Make<TeskMessageBoxType>},
     {"teskscrollbar", &pTeskScrollBarType, &pTeskElementType, Make<TeskScrollBarType>},
     {"teskslider", &pTeskSliderType, &pTeskElementType, Make<TeskSliderType>},
-    {"tesktab", &pTeskTabType, &pTeskFrameType, Nameless},
-    {"tesktabcontrol", &pTeskTabControlType, &pTeskFrameType, Nameless},
+    {"tesktab", &pTeskTabType, &pTeskFrameType, Make<TeskTabType>},
+    {"tesktabcontrol", &pTeskTabControlType, &pTeskFrameType, Make<TeskTabControlType>},
     {"tesktext", &pTeskTextType, &pTeskElementType, Make<TeskTextType>},
     {"tesktextedit", &pTeskTextEditType, &pTeskElementType, Make<TeskTextEditType>},
     {"tesktextentry", &pTeskTextEntryType, &pTeskElementType, Make<TeskTextEntryType>},

@@ -87,6 +87,8 @@ constexpr TypeNames AllNames[] = {
     {"teskslider", 0, "Border Range Value Vertical Texture HandleTexture", "SetRange SetValue"},
     {"teskscrollbar", 0, "Value Range Vertical", "SetValue RaiseValue LowerValue SetRange"},
     {"teskhudelement", 0, "Text Group Font UpdateInterval", "SetText SetGroup SetUpdateInterval"},
+    {"tesktabcontrol", 0, "Font SelectedTab Tab Tabs TabTexture TabSelectedTexture", "AddTab"},
+    {"tesktab", 0, "Name ID Order", "Select Remove Move Rename"},
     {"tesktextentry", 0,
         "Text Font BackgroundColor BorderColor Border Texture TextureFocused TextureCaret TextureCaretOverwrite "
         "MaxLength",
