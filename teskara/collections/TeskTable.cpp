@@ -69,6 +69,36 @@ bool IsTooLarge(const GridExtent& extent)
     return extent.Columns != 0 && extent.Rows > Limits::TableSlots / extent.Columns;
 }
 
+// A layout that is running. Tables in the cells of tables are laid out inside one another, once for each slot of each cell
+// around them, and that without end unless the outermost one counts.
+class RunningLayout
+{
+public:
+    RunningLayout() : m_Number(++s_LastNumber)
+    {
+        if (s_Depth++ == 0)
+            s_Repeats = 0;
+    }
+
+    ~RunningLayout() { --s_Depth; }
+    RunningLayout(const RunningLayout&) = delete;
+    RunningLayout& operator=(const RunningLayout&) = delete;
+
+    // False: the cell was placed already, and has to make do with that.
+    bool Admit(TeskTableCell& cell) const
+    {
+        const bool isRepeat = cell.LayoutNumber == m_Number;
+        cell.LayoutNumber = m_Number;
+        return !isRepeat || ++s_Repeats <= Limits::RepeatedCells;
+    }
+
+private:
+    static inline u32 s_LastNumber = 0;
+    static inline u32 s_Depth = 0;
+    static inline u32 s_Repeats = 0;
+    u32 m_Number;
+};
+
 void PutInPlace(TeskTableCell& cell, const GridLines& rowLines, const GridLines& columnLines)
 {
     const GridStretch across = columnLines.Spanned(cell.Column, cell.ColSpan);
@@ -186,10 +216,11 @@ try {
 
     const GridLines rowLines = RowSizes.ShareOut(Height);
     const GridLines columnLines = ColumnSizes.ShareOut(Width);
+    const RunningLayout layout;
     const ElementWatch self(*this);
     for (std::size_t slot = 0; slot < Cells.Count(); ++slot) {
         TeskTableCell* cell = Cells[slot];
-        if (!cell)
+        if (!cell || !layout.Admit(*cell))
             continue;
 
         PutInPlace(*cell, rowLines, columnLines);

@@ -27,4 +27,5 @@ public:
     u32 ColSpan = 1;
     u32 Row = 0; // the first that it covers; set by the table
     u32 Column = 0;
+    u32 LayoutNumber = 0; // of the last layout that placed it
 };

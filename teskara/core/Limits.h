@@ -54,6 +54,9 @@ inline constexpr u32 NestedNotifications = 256;
 inline constexpr std::size_t RingLines = 1000000;
 // Slots of a table's grid. A table that asks for more gets no grid.
 inline constexpr u64 TableSlots = 1000000;
+// Cells that a layout places once more because they cover several slots, counting those of tables inside. Beyond it a
+// cell is placed once in each layout of its table.
+inline constexpr u32 RepeatedCells = 10000;
 // Positions of a script index. Beyond them nothing is added, and it does not grow.
 inline constexpr u32 IndexPositions = 16 * 1024 * 1024;
 // A frame's walk over children ends after so many steps for each child that there was at its start, and so many

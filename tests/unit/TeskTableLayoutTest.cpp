@@ -1,6 +1,8 @@
+#include "teskara/core/Limits.h"
 #include "teskara/element/TeskElementFactory.h"
 #include "tests/unit/TableTest.h"
 
+#include <algorithm>
 #include <functional>
 #include <string>
 
@@ -48,6 +50,37 @@ TEST_F(TeskTableLayoutTest, ASpannedCellIsLaidOutForEachOfItsSlots)
     Sensor::Act = [&](Sensor& self) { heard += self.Parent->Name.back(); };
     Lay(table);
     EXPECT_EQ("0001000", heard);
+}
+
+TEST_F(TeskTableLayoutTest, ACellIsLaidOutOnlySoManyTimesMore)
+{
+    for (const u32 slots : {Limits::RepeatedCells, Limits::RepeatedCells + 1, Limits::RepeatedCells + 2}) {
+        TeskTable& table = MakeTable("<Row><Cell ColSpan='" + std::to_string(slots) + "'>" + Inside + "</Cell></Row>");
+        u32 turns = 0;
+        Sensor::Act = [&](Sensor&) { ++turns; };
+        Lay(table);
+        EXPECT_EQ(std::min(slots, Limits::RepeatedCells + 1), turns);
+        turns = 0;
+        Lay(table);
+        EXPECT_EQ(std::min(slots, Limits::RepeatedCells + 1), turns);
+        Sensor::Act = nullptr;
+    }
+}
+
+// Each would double the work of what is in it.
+TEST_F(TeskTableLayoutTest, TablesInCellsOfTwoSlotsAreLaidOutInTime)
+{
+    std::string markup;
+    for (int level = 0; level < 60; ++level)
+        markup = "<Row><Cell ColSpan='2'><Children><table Name='T'><Width>100%</Width><Height>100%</Height>" + markup
+            + "</table></Children></Cell></Row>";
+    TeskTable& table = MakeTable(markup);
+    table.Width = 300;
+    Lay(table);
+    const TeskElement* innermost = &table;
+    while (innermost->FirstChild)
+        innermost = innermost->FirstChild;
+    EXPECT_EQ(300u, innermost->Width);
 }
 
 TEST_F(TeskTableLayoutTest, ACellMayBeChangedBetweenItsSlots)
