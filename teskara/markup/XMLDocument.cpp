@@ -115,6 +115,8 @@ bool XMLDocument::ParseStream(std::unique_ptr<XMLStream> stream)
     } catch (const std::bad_alloc&) {
         parsed = false;
     }
+    if (!parsed)
+        FailedAt = Stream->Position();
     Stream.reset();
     return parsed;
 }

@@ -48,6 +48,7 @@ public:
     bool KeepTree;
     std::map<std::string, std::string, std::less<>> Entities;
     char ErrorText[Limits::MarkupErrorBytes];
+    u64 FailedAt = 0; // so many UTF-16 units of the input were taken when the parse failed; a byte-order mark is none
     std::unique_ptr<XMLStream> Stream; // during a parse only
 
 private:

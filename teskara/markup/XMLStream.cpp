@@ -68,6 +68,7 @@ bool XMLStream::ReadMore()
         return false;
 
     const std::size_t held = UnreadCount();
+    m_UnitsBefore = Position();
     std::memmove(Buffer, Unread, held * sizeof(char16_t));
     SetData(held);
 

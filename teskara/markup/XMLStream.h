@@ -50,6 +50,9 @@ public:
     // Whether a token could not be read, as opposed to the input being at its end.
     bool HasFailed() const { return m_Failed; }
 
+    // How many units of the input have been taken.
+    u64 Position() const { return m_UnitsBefore + static_cast<u64>(Unread - Buffer); }
+
     char16_t* Buffer = nullptr;
     char16_t* DataEnd = nullptr; // a zero unit and more that may be read stand behind it
     char16_t* BufferEnd = nullptr;
@@ -78,6 +81,7 @@ private:
 
     std::size_t UnreadCount() const { return static_cast<std::size_t>(DataEnd - Unread); }
 
+    u64 m_UnitsBefore = 0; // that left the buffer
     bool m_HoldsOnlyAscii = true;
     bool m_Failed = false;
 };
