@@ -54,6 +54,13 @@ void Console::Warn(const char* format, ...)
     va_end(arguments);
 }
 
+void Console::Answer(const std::string& text)
+{
+    static const std::string nothing;
+    const TrailStep step(m_Trail, nothing);
+    PrintText(text);
+}
+
 void Console::PrintArguments(LineWeight weight, const char* format, std::va_list arguments)
 {
     char line[LongestLine];
@@ -79,6 +86,8 @@ void Console::WriteLine(const std::string& line, LineWeight weight)
         m_Screen(Printable(line, ColorCodes::Mark), weight);
 
     const std::string plain = Printable(WithoutColors(line), 0);
+    if (m_Copy)
+        *m_Copy += plain + '\n';
     if (const Taker taker = m_Taker) // which may send the next lines elsewhere
         taker(plain);
     else

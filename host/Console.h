@@ -25,6 +25,9 @@ public:
     // From now on lines go there. Returns where they went until now; null is the standard error stream.
     Taker SendTo(Taker taker) { return std::exchange(m_Taker, std::move(taker)); }
 
+    // From now on lines are added there as well, each with a line end; null ends that. Returns where they were added.
+    std::string* CopyTo(std::string* copy) { return std::exchange(m_Copy, copy); }
+
     using Screen = std::function<void(const std::string& line, LineWeight weight)>;
 
     // From now on the interface shows lines too.
@@ -33,6 +36,9 @@ public:
     // Writes a text, printf style.
     void Print(const char* format, ...);
     void Warn(const char* format, ...);
+
+    // Writes what a command answers: it is about nothing but itself.
+    void Answer(const std::string& text);
 
     // Writes a text as it is, each of its lines as one of its own.
     void PrintText(const std::string& text, LineWeight weight = LineWeight::Plain);
@@ -43,6 +49,7 @@ private:
 
     CallTrail m_Trail;
     Taker m_Taker;
+    std::string* m_Copy = nullptr;
     Screen m_Screen;
 };
 

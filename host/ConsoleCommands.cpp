@@ -7,18 +7,6 @@
 
 namespace host {
 
-namespace {
-
-// What a command answers is about nothing but itself.
-void Answer(Console& console, const std::string& line)
-{
-    static const std::string nothing;
-    const TrailStep step(console.Trail(), nothing);
-    console.PrintText(line);
-}
-
-} // namespace
-
 void AddConsoleCommands(CommandTable& commands, Console& console)
 {
     // echo WORD...
@@ -26,7 +14,7 @@ void AddConsoleCommands(CommandTable& commands, Console& console)
         std::string line;
         for (int index = 1; index < argc; ++index)
             line += (index > 1 ? " " : "") + std::string(argv[index]);
-        Answer(console, line);
+        console.Answer(line);
         return 0;
     });
 
@@ -35,7 +23,7 @@ void AddConsoleCommands(CommandTable& commands, Console& console)
         std::string line = "Commands:";
         for (const std::string& name : commands.Names())
             line += ' ' + name;
-        Answer(console, line);
+        console.Answer(line);
         return 0;
     });
 }

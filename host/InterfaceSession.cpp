@@ -1,5 +1,6 @@
 #include "host/InterfaceSession.h"
 
+#include "host/files/MarkupFault.h"
 #include "teskara/core/CUIManager.h"
 
 namespace host {
@@ -47,14 +48,20 @@ bool InterfaceSession::Open(const std::vector<std::string>& files, const std::st
         return false;
 
     for (const std::string& file : files)
-        if (!OpenFile(file, file, SkinInUse()))
+        if (!OpenFile(file))
             return false;
     return true;
 }
 
+bool InterfaceSession::OpenFile(const std::string& file)
+{
+    const std::filesystem::path path = file;
+    return Load(path.is_absolute() ? path.filename().string() : file, file, g_UIManager.FindSkin(m_Skin.c_str()));
+}
+
 bool InterfaceSession::OpenOwn(const std::string& name)
 {
-    return OpenFile(name, (m_Host.Paths().InterfacesFolder() / name).string(), SkinInUse());
+    return OpenFile((m_Host.Paths().InterfacesFolder() / name).string());
 }
 
 bool InterfaceSession::DrawFrame(int width, int height, float scale)
@@ -74,15 +81,18 @@ void InterfaceSession::SkipFrame()
     g_UIManager.Render();
 }
 
-bool InterfaceSession::OpenFile(const std::string& subject, const std::string& file, TeskSkin* skin)
+// Where a file is no markup, the place is told as well.
+bool InterfaceSession::Load(const std::string& subject, const std::string& file, TeskSkin* skin)
 {
     const TrailStep step(m_Host.Output().Trail(), subject);
-    return g_UIManager.LoadInterfaceXML(file.c_str(), true, skin);
-}
+    if (g_UIManager.LoadInterfaceXML(file.c_str(), true, skin))
+        return true;
 
-TeskSkin* InterfaceSession::SkinInUse() const
-{
-    return g_UIManager.FindSkin(m_Skin.c_str());
+    const auto path = m_Host.Paths().FindInterface(file);
+    const auto fault = path ? FindMarkupFault(*path) : std::nullopt;
+    if (fault && fault->Line != 0)
+        m_Host.Output().Warn("%s", Describe(*path, *fault).c_str());
+    return false;
 }
 
 // A skin gives colours, upon which the templates that all skins share are built; what it makes differently comes last.
@@ -95,9 +105,9 @@ bool InterfaceSession::OpenSkin(const std::string& name)
     const std::string subject = "skin " + name;
     m_Host.Paths().SetSkinFolder(folder);
     m_Skin = name;
-    return OpenFile(subject, (folder / "skin.xml").string(), nullptr)
-        && OpenFile(subject, (skins / "templates.xml").string(), nullptr)
-        && (!exists(own) || OpenFile(subject, own.string(), nullptr));
+    return Load(subject, (folder / "skin.xml").string(), nullptr)
+        && Load(subject, (skins / "templates.xml").string(), nullptr)
+        && (!exists(own) || Load(subject, own.string(), nullptr));
 }
 
 void InterfaceSession::CountFrame()

@@ -36,8 +36,14 @@ public:
     // why.
     bool Open(const std::vector<std::string>& files, const std::string& skin);
 
-    // Opens a file of the interfaces folder in the skin that is in use. False: a line has said why not.
+    // Opens a file, or one of the interfaces folder, in the skin that is in use. What stands in it replaces elements of the
+    // same names. False: a line has said why not.
+    bool OpenFile(const std::string& file);
     bool OpenOwn(const std::string& name);
+
+    // Uses a skin, or reads it anew, for what is made from now on. False: a line has said why not.
+    bool OpenSkin(const std::string& name);
+    const std::string& Skin() const { return m_Skin; }
 
     // Lets the toolkit draw a frame of a size in pixels of the interface, each scale pixels of the target in size.
     // True if there is something new to present.
@@ -51,9 +57,7 @@ public:
     ReferenceHost& Host() { return m_Host; }
 
 private:
-    bool OpenFile(const std::string& subject, const std::string& file, TeskSkin* skin);
-    TeskSkin* SkinInUse() const;
-    bool OpenSkin(const std::string& name);
+    bool Load(const std::string& subject, const std::string& file, TeskSkin* skin);
     void CountFrame();
 
     HostClock m_Clock;

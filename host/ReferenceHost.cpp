@@ -2,6 +2,7 @@
 
 #include "host/ConsoleCommands.h"
 #include "host/display/KeyCodes.h"
+#include "host/files/WholeFile.h"
 #include "teskara/core/CUIManager.h"
 #include "teskara/element/TeskElement.h"
 #include "teskara/text/TeskCommandEntry.h"
@@ -9,8 +10,6 @@
 #include <cstdarg>
 #include <cstdio>
 #include <cstring>
-#include <fstream>
-#include <iterator>
 #include <string_view>
 
 namespace host {
@@ -250,6 +249,7 @@ bool ReferenceHost::LocateFile(const char* name, char* path)
     if (!WritePath(m_Paths.FindInterface(name), path))
         return false;
 
+    m_Files.NoteInterface(path);
     m_Console.Trail().NoteFile(name);
     return true;
 }
@@ -307,13 +307,12 @@ int ReferenceHost::RunScriptFile(int argc, char** argv)
     }
     const std::filesystem::path name = argv[1];
     const auto path = name.extension() == ".lua" ? m_Paths.FindInterface(argv[1]) : std::nullopt;
-    std::ifstream file(path ? *path : std::string(), std::ios::binary);
-    if (!file) {
+    const auto text = path ? ReadWholeFile(*path) : std::nullopt;
+    if (!text) {
         m_Console.Warn("Could not run script '%s'", argv[1]);
         return -1;
     }
-    const std::string text(std::istreambuf_iterator<char>(file), {});
-    return m_Scripts.Tasks.Start(name.filename().string(), text) ? 0 : -1;
+    return m_Scripts.Tasks.Start(name.filename().string(), *text) ? 0 : -1;
 }
 
 void ReferenceHost::DrawRect(const tagRECT& rect, u32 color)
@@ -385,6 +384,8 @@ u32 ReferenceHost::LoadTextureResource(const char* path, u32 colorKey)
 {
     std::string why;
     const u32 texture = m_Canvas.Textures().Acquire(path ? path : "", colorKey, why);
+    if (path && *path)
+        m_Files.NoteImage(path);
     if (!why.empty())
         m_Console.Warn("Could not load image %s: %s", path, why.c_str());
     return texture;

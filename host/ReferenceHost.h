@@ -7,6 +7,7 @@
 #include "host/files/CommandHistory.h"
 #include "host/files/SearchPaths.h"
 #include "host/files/StoredPositions.h"
+#include "host/files/UsedFiles.h"
 #include "host/script/CommandCompletion.h"
 #include "host/script/ScriptEngine.h"
 #include "host/script/ScriptNames.h"
@@ -27,6 +28,10 @@ public:
     Console& Output() { return m_Console; }
     SearchPaths& Paths() { return m_Paths; }
     ScriptEngine& Scripts() { return m_Scripts; }
+    const UsedFiles& Files() const { return m_Files; }
+
+    // An image's file has changed: the elements that are made from now on show what it holds.
+    void ReadImageAnew(const std::string& path) { m_Canvas.Textures().ReadAnew(path); }
 
     // Keeps the commands that are typed in a file, with those of earlier runs.
     void KeepCommands(const std::filesystem::path& file) { m_History = CommandHistory(file); }
@@ -108,6 +113,7 @@ private:
     FrameState m_Frame;
     Canvas m_Canvas;
     SearchPaths m_Paths;
+    UsedFiles m_Files;
     StoredPositions m_Positions;
     CommandHistory m_History{{}};
     ScriptEngine m_Scripts;

@@ -4,6 +4,7 @@
 #include "host/display/InputRouter.h"
 #include "host/display/MouseCursor.h"
 #include "host/display/Window.h"
+#include "host/live/LiveReload.h"
 #include "program/Commands.h"
 #include "program/DisplaySize.h"
 #include "program/InterfaceOptions.h"
@@ -45,7 +46,7 @@ void WriteAnswer(const std::string& line)
     std::fflush(stdout);
 }
 
-void RunFrames(host::InterfaceSession& session, host::Window& window)
+void RunFrames(host::InterfaceSession& session, host::Window& window, host::LiveReload& live)
 {
     host::InputRouter input(g_UIManager, session.System());
     host::ConsoleWindow console(session);
@@ -57,6 +58,7 @@ void RunFrames(host::InterfaceSession& session, host::Window& window)
     bool shown = false;
     for (u32 due = SDL_GetTicks(); HandleEvents(session, input);) {
         prompt.Advance();
+        live.Advance();
         const bool fresh = session.DrawFrame(window.Width(), window.Height(), window.Scale());
         if (fresh)
             window.Present();
@@ -86,7 +88,7 @@ bool FindDisplay()
     return (driver != "offscreen" && driver != "dummy") || SDL_getenv("SDL_VIDEODRIVER");
 }
 
-int Run(const InterfaceOptions& options)
+int Run(const InterfaceOptions& options, bool watch)
 {
     if (!FindDisplay()) {
         std::fprintf(stderr, "teskara: There is no display to open a window on; `teskara shot` makes a picture.\n");
@@ -104,10 +106,11 @@ int Run(const InterfaceOptions& options)
     settings.Width = options.Size.Width;
     settings.Height = options.Size.Height;
     host::InterfaceSession session(window.Target(), settings);
+    host::LiveReload live(session, watch ? host::LiveReload::Watching::On : host::LiveReload::Watching::Off);
     if (!session.Open(options.Files, options.Skin))
         return ExitFailed;
 
-    RunFrames(session, window);
+    RunFrames(session, window, live);
     return ExitDone;
 }
 
@@ -118,8 +121,10 @@ void AddRunCommand(CLI::App& app, int& exitCode)
     const auto options = std::make_shared<InterfaceOptions>();
     CLI::App* run = app.add_subcommand("run", "Open interface files in a window");
     options->AddTo(*run);
-    run->callback([options, &exitCode] {
-        exitCode = Run(*options);
+    const auto watch = std::make_shared<bool>(false);
+    run->add_flag("--watch,!--no-watch", *watch, "Show a file anew when it, a skin or an image changes")->take_last();
+    run->callback([options, watch, &exitCode] {
+        exitCode = Run(*options, *watch);
         SDL_Quit();
     });
 }

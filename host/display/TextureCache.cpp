@@ -97,6 +97,13 @@ void TextureCache::Release(u32 id)
         --found->second.Count;
 }
 
+void TextureCache::ReadAnew(const std::string& path)
+{
+    const auto isOfFile = [&path](const auto& entry) { return entry.first.first == path; };
+    std::erase_if(m_IDs, isOfFile);
+    std::erase_if(m_FailedUntil, isOfFile);
+}
+
 const Image* TextureCache::Find(u32 id) const
 {
     if (id == WhiteID)
@@ -129,7 +136,9 @@ void TextureCache::Collect()
             continue;
         }
         Destroy(entry);
-        m_IDs.erase(entry.Name);
+        const auto named = m_IDs.find(entry.Name);
+        if (named != m_IDs.end() && named->second == at->first)
+            m_IDs.erase(named);
         at = m_Images.erase(at);
     }
 }

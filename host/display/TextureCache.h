@@ -37,6 +37,9 @@ public:
     u32 Acquire(const std::string& path, u32 colorKey, std::string& why);
     void Release(u32 id);
 
+    // A file has changed: whoever asks for its image from now on gets what it holds then. Who has one keeps it.
+    void ReadAnew(const std::string& path);
+
     // Null for an id that is not in use.
     const Image* Find(u32 id) const;
 

@@ -2,6 +2,8 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <fstream>
+#include <iterator>
 #include <memory>
 #include <string>
 #include <unistd.h>
@@ -38,6 +40,14 @@ bool Finish(std::unique_ptr<std::FILE, CloseFile> file)
 }
 
 } // namespace
+
+std::optional<std::string> ReadWholeFile(const fs::path& path)
+{
+    std::ifstream file(path, std::ios::binary);
+    if (!file)
+        return std::nullopt;
+    return std::string(std::istreambuf_iterator<char>(file), {});
+}
 
 bool WriteWholeFile(const fs::path& path, std::string_view text)
 {
