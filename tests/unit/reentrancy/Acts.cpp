@@ -45,6 +45,9 @@ void DeleteParts()
     Delete("DownButton@Self@Parent@Grand");
     Delete("vertical@Self@Parent@Grand");
     Delete("List@Self@Parent@Grand");
+    Delete("Cell 1@Self@Parent@Grand");
+    Delete("Cell 0@Self@Parent@Grand");
+    Delete("Cell 2@Self@Parent@Grand");
 }
 
 void LoadManyInto(TeskElement* parent)

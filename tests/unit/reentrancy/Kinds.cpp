@@ -31,7 +31,8 @@ constexpr u64 IsTextEdit = Follows | Sends(7) | Sends(8) | Sends(10) | Sends(11)
 constexpr u64 IsConsole = FollowsHeldMouse | HasLines | ClearsLines | HasFont | HasTexture | SetsTexture;
 constexpr u64 IsTooltip =
     PassesOn | SendsPresses | ExpandsText | SetsLines | KnowsReset | HasFont | HasTexture | SetsTexture;
-constexpr u64 IsWindow = Follows | Sends(11) | HasTitleBar | KnowsReset | HasTexture | SetsTexture;
+constexpr u64 IsWindow = Follows | Sends(11) | HasTitleBar | LoadsParts | KnowsReset | HasTexture | SetsTexture;
+constexpr u64 IsTable = IsFrame | HasCells | LoadsParts;
 
 constexpr char FrameMarkup[] = "<Texture Filename='#camera'/><Border>1</Border>";
 constexpr char TextMarkup[] = "<Wrap>1</Wrap><Text>${words}</Text>";
@@ -92,6 +93,12 @@ void PrepareWindow()
     Self()->FirstChild->Show(false);
 }
 
+// The first row is empty, since the mouse goes there. The first cell covers four slots, and another finds no room.
+constexpr char TableMarkup[] =
+    "<Texture Filename='#camera'/><Row/><Row><Cell RowSpan='2' ColSpan='2'><OnLoad>OnLoad of a part"
+    "</OnLoad><OnUnload>OnUnload of a part</OnUnload><Children><foreign Name='Inner'/></Children></Cell><Cell/></Row>"
+    "<Row><Cell><OnUnload>OnUnload of a part</OnUnload></Cell><Cell/></Row>";
+
 constexpr char CommandEntryMarkup[] = "<MaxLength>20</MaxLength><Texture Filename='#a'/><Console>Status</Console>"
                                       "<CommandHistory>2</CommandHistory><OnChange>OnChange</OnChange>"
                                       "<OnCommand>OnCommand</OnCommand>";
@@ -138,6 +145,7 @@ constexpr Kind Kinds[] = {
     {"textedit",        IsTextEdit,                            TextEditMarkup,  PrepareTextEdit},
     {"tooltip",         IsTooltip,                             FrameMarkup,     PrepareTooltip},
     {"window",          IsWindow,                              WindowMarkup,    PrepareWindow},
+    {"table",           IsTable,                               TableMarkup,     nullptr},
     {"foreigntext",     IsText | ReadsFonts,                   TextMarkup,      nullptr},
     {"foreignframe",    IsFrame | ReadsTextures,               FrameMarkup,     nullptr},
     {"foreign",         Follows | PassesOn | IsForeign,        "",              nullptr},

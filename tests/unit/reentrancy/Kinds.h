@@ -40,6 +40,8 @@ enum Trait : u64 {
     EditsText = u64{1} << 52, // repeats its keys, and a script runs as they change it
     ScriptsScroll = u64{1} << 53, // its scroll bar runs a script
     ClearsLines = u64{1} << 54, // scripts empty it
+    LoadsParts = u64{1} << 55, // its parts run scripts as they come and go
+    HasCells = u64{1} << 56, // a table, whose cells are such parts
 };
 
 // It tells its parent so, of its own accord or for others.
