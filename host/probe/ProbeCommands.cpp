@@ -9,7 +9,7 @@ std::map<std::string_view, const ProbeCommand*> CollectCommands()
 {
     std::map<std::string_view, const ProbeCommand*> commands;
     for (const auto list : {SetUpCommands(), HostAnswerCommands(), LifeCommands(), ElementCommands(), DrawingCommands(),
-             MarkupCommands(), InputCommands(), ScriptCommands(), MenuCommands(), IndexCommands(), PendingCommands()}) {
+             MarkupCommands(), InputCommands(), ScriptCommands(), MenuCommands(), MapCommands(), IndexCommands()}) {
         for (const ProbeCommand& command : list)
             commands.emplace(command.Name, &command);
     }

@@ -33,4 +33,4 @@ std::span<const ProbeCommand> InputCommands();
 std::span<const ProbeCommand> ScriptCommands();
 std::span<const ProbeCommand> MenuCommands();
 std::span<const ProbeCommand> IndexCommands();
-std::span<const ProbeCommand> PendingCommands();
+std::span<const ProbeCommand> MapCommands();

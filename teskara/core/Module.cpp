@@ -31,6 +31,10 @@
 #include "teskara/text/TeskTextEdit.h"
 #include "teskara/text/TeskTextEntry.h"
 #include "teskara/windows/TeskContextMenu.h"
+#include "teskara/windows/TeskMap.h"
+#include "teskara/windows/TeskMapBlip.h"
+#include "teskara/windows/TeskMapBlipView.h"
+#include "teskara/windows/TeskMapView.h"
 #include "teskara/windows/TeskMessageBox.h"
 #include "teskara/windows/TeskScriptInputBox.h"
 #include "teskara/windows/TeskScriptMessageBox.h"
@@ -75,10 +79,10 @@ TeskFactory<TeskGauge> g_Gauge("gauge");
 TeskFactory<TeskGaugeFiller> g_GaugeFiller("gaugefiller");
 TeskFactory<TeskHudElement> g_HudElement("hudelement");
 TeskFactory<TeskListBox> g_ListBox("listbox");
-PendingFactory g_MapBlip("mapblip");
-PendingFactory g_MapBlipView("mapblipview");
-PendingFactory g_Map("map");
-PendingFactory g_MapView("mapview");
+TeskFactory<TeskMapBlip> g_MapBlip("mapblip");
+TeskFactory<TeskMapBlipView> g_MapBlipView("mapblipview");
+TeskFactory<TeskMap> g_Map("map");
+TeskFactory<TeskMapView> g_MapView("mapview");
 TeskFactory<TeskMessageBox> g_MessageBox("messagebox");
 TeskFactory<TeskScriptInputBox> g_ScriptInputBox("scriptinputbox");
 TeskFactory<TeskScriptMessageBox> g_ScriptMessageBox("scriptmessagebox");

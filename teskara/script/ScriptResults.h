@@ -70,6 +70,16 @@ struct FloatValue {
     }
 };
 
+// The point is the object's.
+struct PointValue {
+    static constexpr const char* Name = "point3f";
+    static MvTypeDefinition* Put(MvValue& value, _Point3f& point)
+    {
+        value.Object = &point;
+        return pPoint3fType;
+    }
+};
+
 // The text is the object's or the program's: it must live until the host has read it.
 struct StringValue {
     static constexpr const char* Name = "string";
@@ -155,6 +165,7 @@ template <auto Source> inline constexpr ResultOf<UintValue, Source> Uint;
 template <auto Source> inline constexpr ResultOf<Int64Value, Source> Int64;
 template <auto Source> inline constexpr ResultOf<BoolValue, Source> Bool;
 template <auto Source> inline constexpr ResultOf<FloatValue, Source> Float;
+template <auto Source> inline constexpr ResultOf<PointValue, Source> Point;
 template <auto Source> inline constexpr ResultOf<StringValue, Source> String;
 template <auto Source> inline constexpr ResultOf<ElementValue, Source> Element;
 template <auto Source> inline constexpr ResultOf<FontValue, Source> Font;

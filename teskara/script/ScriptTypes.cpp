@@ -13,6 +13,8 @@
 #include "teskara/script/TeskHudElementType.h"
 #include "teskara/script/TeskListBoxItemType.h"
 #include "teskara/script/TeskListBoxType.h"
+#include "teskara/script/TeskMapBlipType.h"
+#include "teskara/script/TeskMapType.h"
 #include "teskara/script/TeskMessageBoxType.h"
 #include "teskara/script/TeskScrollBarType.h"
 #include "teskara/script/TeskSliderType.h"
@@ -122,8 +124,8 @@ constexpr TypeRow Types[] = {
     {"teskfont", &pTeskFontType, nullptr, Make<TeskFontType>},
     {"teskgauge", &pTeskGaugeType, &pTeskFrameType, Make<TeskGaugeType>},
     {"teskhudelement", &pTeskHudElementType, &pTeskElementType, Make<TeskHudElementType>},
-    {"teskmapblip", &pTeskMapBlipType, &pTeskFrameType, Nameless},
-    {"teskmap", &pTeskMapType, &pTeskElementType, Nameless},
+    {"teskmapblip", &pTeskMapBlipType, &pTeskFrameType, Make<TeskMapBlipType>},
+    {"teskmap", &pTeskMapType, &pTeskElementType, Make<TeskMapType>},
     {"teskmessagebox", &pTeskMessageBoxType, &pTeskElementType, Make<TeskMessageBoxType>},
     {"teskscrollbar", &pTeskScrollBarType, &pTeskElementType, Make<TeskScrollBarType>},
     {"teskslider", &pTeskSliderType, &pTeskElementType, Make<TeskSliderType>},

@@ -89,6 +89,11 @@ constexpr TypeNames AllNames[] = {
     {"teskhudelement", 0, "Text Group Font UpdateInterval", "SetText SetGroup SetUpdateInterval"},
     {"tesktabcontrol", 0, "Font SelectedTab Tab Tabs TabTexture TabSelectedTexture", "AddTab"},
     {"tesktab", 0, "Name ID Order", "Select Remove Move Rename"},
+    {"teskmapblip", 0, "Location Custom Label Font", "SetType SetLabel SetCustom Remove"},
+    {"teskmap", 0,
+        "BlipFactory BlipTemplate Origin Rotation MapSizeX MapSizeY Radial ZClipping xShowLabels Blips Blip NextBlip",
+        "AddBlip SetOrigin SetRotation SetMapSize ClipZ UnclipZ ToggleZClipping ClipText UnclipText ToggleTextClipping "
+        "ShowLabels HideLabels ToggleLabels EnableRotation DisableRotation ToggleRotation"},
     {"tesktextentry", 0,
         "Text Font BackgroundColor BorderColor Border Texture TextureFocused TextureCaret TextureCaretOverwrite "
         "MaxLength",
