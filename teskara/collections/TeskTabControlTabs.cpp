@@ -7,6 +7,7 @@
 #include "teskara/core/BoundedText.h"
 #include "teskara/core/CUIManager.h"
 #include "teskara/core/HostCalls.h"
+#include "teskara/core/MarkupReading.h"
 #include "teskara/core/Numbers.h"
 #include "teskara/element/ElementWatch.h"
 #include "teskara/element/TeskElementFactory.h"
@@ -52,6 +53,7 @@ u32 TeskTabControl::AddTab(const char* name, XMLNode* firstChild, const char* fr
     if (!tab)
         return 0;
 
+    const MarkupReading reading;
     const u32 id = tab->ID;
     const u64 serial = tab->Serial;
     TeskFrame& frame = *tab->Frame;

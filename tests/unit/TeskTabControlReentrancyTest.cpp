@@ -96,6 +96,14 @@ TEST_F(TeskTabControlReentrancyTest, ATabMayBeRemovedWhileItIsFilled)
     EXPECT_EQ("", Host.TakeCalls());
 }
 
+TEST_F(TeskTabControlReentrancyTest, WhatATabIsFilledFromMayBeRemovedMeanwhile)
+{
+    TeskTabControl& control = MakeControl();
+    Host.Scripts["load"] = [](TeskElement&) { g_UIManager.ClearTemplates(); };
+    AddFilled(control, "a", "<frame name='F'><OnLoad>load</OnLoad></frame><frame name='G'/>");
+    EXPECT_EQ("g", control.RetrieveTab(1)->Frame->LastChild->Name);
+}
+
 TEST_F(TeskTabControlReentrancyTest, AnotherTabMayTakeTheIdOfOneThatIsFilled)
 {
     TeskTabControl& control = MakeControlOf({"a"});

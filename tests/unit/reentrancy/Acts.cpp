@@ -48,6 +48,10 @@ void DeleteParts()
     Delete("Cell 1@Self@Parent@Grand");
     Delete("Cell 0@Self@Parent@Grand");
     Delete("Cell 2@Self@Parent@Grand");
+    Delete("left@Self@Parent@Grand");
+    Delete("right@Self@Parent@Grand");
+    Delete("a@Self@Parent@Grand");
+    Delete("b@Self@Parent@Grand");
 }
 
 void LoadManyInto(TeskElement* parent)
@@ -154,6 +158,11 @@ constexpr ScriptAct ScriptActs[] = {
     {ScriptAct::List,   nullptr,   "SelectItem",    {"3"},                        DropsList},
     {ScriptAct::List,   nullptr,   "Destroy",       {},                           DropsList},
     {ScriptAct::This,   nullptr,   "SetSelection",  {"4"},                        DropsList},
+    {ScriptAct::This,   nullptr,   "AddTab",        {"more"},                     HasTabs},
+    {ScriptAct::This,   "SelectedTab", "Remove",    {},                           HasTabs},
+    {ScriptAct::This,   "SelectedTab", "Move",      {"2"},                        HasTabs},
+    {ScriptAct::This,   "SelectedTab", "Rename",    {"other"},                    HasTabs},
+    {ScriptAct::This,   "SelectedTab", "Destroy",   {},                           HasTabs},
     {ScriptAct::This,   nullptr,   "Print",         {"${more}"},                  SetsLines},
     {ScriptAct::This,   nullptr,   "SetLine",       {"0", "${more}"},             SetsLines},
     {ScriptAct::This,   nullptr,   "Reset",         {},                           KnowsReset},

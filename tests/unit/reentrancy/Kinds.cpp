@@ -31,8 +31,9 @@ constexpr u64 IsTextEdit = Follows | Sends(7) | Sends(8) | Sends(10) | Sends(11)
 constexpr u64 IsConsole = FollowsHeldMouse | HasLines | ClearsLines | HasFont | HasTexture | SetsTexture;
 constexpr u64 IsTooltip =
     PassesOn | SendsPresses | ExpandsText | SetsLines | KnowsReset | HasFont | HasTexture | SetsTexture;
+constexpr u64 IsTabControl = Follows | PassesOn | HasTabs | LoadsParts | UnloadsParts | HasFont | SetsTexture;
 constexpr u64 IsWindow = Follows | Sends(11) | HasTitleBar | LoadsParts | KnowsReset | HasTexture | SetsTexture;
-constexpr u64 IsTable = IsFrame | HasCells | LoadsParts;
+constexpr u64 IsTable = IsFrame | HasCells | LoadsParts | UnloadsParts;
 
 constexpr char FrameMarkup[] = "<Texture Filename='#camera'/><Border>1</Border>";
 constexpr char TextMarkup[] = "<Wrap>1</Wrap><Text>${words}</Text>";
@@ -65,6 +66,14 @@ constexpr char ComboBoxMarkup[] =
     "<Texture Filename='#a'/><FullHeight>90</FullHeight><OnSelect>OnSelect</OnSelect><ListBox><ScrollBar>"
     "<Width>10</Width><Slider><OnChange>OnChange</OnChange></Slider></ScrollBar></ListBox>"
     "<Items><item Default='1'>a</item><item>b</item><item>c</item><item>d</item></Items>";
+
+// Of the three tabs the second is cut, and the first is shown by the first frame.
+constexpr char TabControlMarkup[] =
+    "<TabHeight>10</TabHeight><Draggable/><TabTexture Filename='#a'/><TabSelectedTexture Filename='#b'/>"
+    "<FrameTexture Filename='#c'/><LeftTexture Filename='#d'/><OnSelect>OnSelect</OnSelect><Tabs><Tab Name='a'>"
+    "<frame name='In'><Width>3</Width><OnLoad>OnLoad of a part</OnLoad><OnUnload>OnUnload of a part</OnUnload>"
+    "<OnRender>OnRender of a part</OnRender></frame><foreign name='Inside'><Width>3</Width><Height>r30</Height>"
+    "</foreign></Tab><Tab Name='b'/><Tab Name='c'/></Tabs>";
 
 constexpr char TextEntryMarkup[] = "<MaxLength>20</MaxLength><Texture Filename='#a'/><TextureFocused Filename='#b'/>"
                                    "<Border>1</Border><OnChange>OnChange</OnChange>";
@@ -143,6 +152,7 @@ constexpr Kind Kinds[] = {
     {"commandentry",    IsField | EntersLines,                 CommandEntryMarkup, nullptr},
     {"console",         IsConsole,                             ConsoleMarkup,   PrepareConsole},
     {"textedit",        IsTextEdit,                            TextEditMarkup,  PrepareTextEdit},
+    {"tabcontrol",      IsTabControl,                          TabControlMarkup, nullptr},
     {"tooltip",         IsTooltip,                             FrameMarkup,     PrepareTooltip},
     {"window",          IsWindow,                              WindowMarkup,    PrepareWindow},
     {"table",           IsTable,                               TableMarkup,     nullptr},

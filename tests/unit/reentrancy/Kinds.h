@@ -42,6 +42,8 @@ enum Trait : u64 {
     ClearsLines = u64{1} << 54, // scripts empty it
     LoadsParts = u64{1} << 55, // its parts run scripts as they come and go
     HasCells = u64{1} << 56, // a table, whose cells are such parts
+    HasTabs = u64{1} << 57, // selects, drags and scrolls tabs, whose elements are such parts
+    UnloadsParts = u64{1} << 58, // its parts run scripts as it goes itself
 };
 
 // It tells its parent so, of its own accord or for others.

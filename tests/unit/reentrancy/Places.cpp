@@ -1,7 +1,9 @@
 #include "tests/unit/reentrancy/Places.h"
 
+#include "teskara/collections/TeskTabControl.h"
 #include "teskara/core/CUIManager.h"
 #include "teskara/element/TeskElement.h"
+#include "teskara/markup/XMLNode.h"
 #include "teskara/text/TeskCommandEntry.h"
 #include "teskara/text/TeskTextEdit.h"
 #include "teskara/text/TeskTextEntry.h"
@@ -468,6 +470,59 @@ void CallAddLine()
     Tell(Self(), "AddLine", {"more"});
 }
 
+TeskTabControl* TabControl()
+{
+    return dynamic_cast<TeskTabControl*>(Self());
+}
+
+void SelectTab()
+{
+    if (TeskTabControl* control = TabControl())
+        control->SelectTab(2);
+}
+
+void RemoveTab()
+{
+    if (TeskTabControl* control = TabControl())
+        control->RemoveTab(1);
+}
+
+void AddTab()
+{
+    XMLNode* elements = g_UIManager.AddTemplate(
+        "Elements", "<Template><frame name='In'><OnLoad>OnLoad of a part</OnLoad></frame><frame name='F'/></Template>");
+    if (TeskTabControl* control = TabControl())
+        control->AddTab("filled", elements->FirstChild, "filled", nullptr);
+}
+
+void PressOnStrip(i32 x)
+{
+    if (!TabControl())
+        return;
+    MoveTo(x, 15);
+    g_UIManager.OnLMouseDown();
+}
+
+void PressAnotherTab()
+{
+    PressOnStrip(45);
+    g_UIManager.OnLMouseUp();
+}
+
+void DragTab()
+{
+    PressOnStrip(25);
+    if (TabControl())
+        MoveTo(45, 15);
+    g_UIManager.OnLMouseUp();
+}
+
+void ScrollTabs()
+{
+    PressOnStrip(55);
+    g_UIManager.OnLMouseUp();
+}
+
 // As if the mouse had not been moved for a while.
 void RestMouse()
 {
@@ -500,10 +555,11 @@ constexpr Place Places[] = {
     {"OnUnload",             "reset",                 EveryKind,     ResetAll},
     {"OnUnload",             "unload",                EveryKind,     UnloadFile},
     {"OnUnload",             "replace",               EveryKind,     ReplaceByLoad},
-    {"OnUnload of a part",   "delete self",           HasCells,      DeleteSelf},
+    {"OnUnload of a part",   "delete self",           UnloadsParts,  DeleteSelf},
     {"SaveElementPosition",  "delete self",           EveryKind,     DeleteSelf},
     {"SaveElementPosition",  "delete grandparent",    EveryKind,     DeleteGrandparent},
     {"OnChange",             "delete self",           EditsLines,    DeleteSelf},
+    {"OnUnload of a part",   "remove a tab",          HasTabs,       RemoveTab},
     {"OnDestroy",            "delete self",           IsForeign,     DeleteSelf},
     {"OnDestroy",            "delete grandparent",    IsForeign,     DeleteGrandparent},
     {"OnDestroy",            "end of the kind",       IsForeign,     EndForeignKinds},
@@ -514,6 +570,7 @@ constexpr Place Places[] = {
     // a frame
     {"OnRender",             "frame",                 EveryKind,     Frame},
     {"OnRender of the child", "frame",                EveryKind,     Frame},
+    {"OnRender of a part",   "frame",                 HasTabs,       Frame},
     {"Render",               "frame",                 IsForeign,     Frame},
     {"Render of the child",  "frame",                 EveryKind,     Frame},
     {"DataParse",            "frame",                 ExpandsText,   Frame},
@@ -553,6 +610,8 @@ constexpr Place Places[] = {
     {"OnChange",             "wheel",                 HasLines,      TurnWheel},
     {"PrintLine",            "drag",                  HasLines,      DragAcross},
     {"OnSelect",             "pick",                  DropsList,     OpenAndPickRow},
+    {"OnSelect",             "press a tab",           HasTabs,       PressAnotherTab},
+    {"OnMouseMove",          "drag a tab",            HasTabs,       DragTab},
 
     {"SizeRecalculated of the child", "drag an edge", HasTitleBar,   DragTheLeftEdge},
     {"OnKeyboardEnter of a part", "click",            HasTitleBar,   ClickLeft},
@@ -607,6 +666,9 @@ constexpr Place Places[] = {
     {"OnDeSelect",           "RemoveItem",            HasRows,       CallRemoveItem},
     {"OnDeSelect",           "ClearItems",            HasRows,       CallClearItems},
     {"OnChange",             "AddItem",               HasRows,       CallAddItem},
+    {"OnSelect",             "SelectTab",             HasTabs,       SelectTab},
+    {"OnLoad of a part",     "AddTab",                HasTabs,       AddTab},
+    {"SizeRecalculated of the child", "AddTab",       HasTabs,       AddTab},
     {"ExecuteAtomForText",   "Sort",                  HasRows,       CallSort},
     {"ParseTypedValue",      "Copy",                  HasTexture,    CallCopyTexture},
 
@@ -627,6 +689,8 @@ constexpr Place Places[] = {
     {"notification 9",       "pick",                  Sends(9),      OpenAndPickRow},
     {"notification 12",      "double click",          Sends(12),     DoubleClickOnRow},
     {"notification 13",      "drag",                  Sends(13),     DragRow},
+    {"notification 6",       "scroll",                HasTabs,       ScrollTabs},
+    {"notification 51",      "remove a tab",          HasTabs,       RemoveTab},
     {"notification 10",      "double click",          Sends(10),     DoubleClickLeft},
     {"notification 11",      "double click",          Sends(11),     DoubleClickRight},
     {"notification 14",      "move",                  Sends(14),     Enter},
