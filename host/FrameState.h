@@ -3,6 +3,7 @@
 #include "teskara/core/Types.h"
 
 #include <ctime>
+#include <string>
 
 namespace host {
 
@@ -15,6 +16,7 @@ struct FrameState {
     int Height = 0;
     _Point2i Mouse;
     std::tm Time = {};
+    std::string Skin; // the name of the one in use
 };
 
 } // namespace host

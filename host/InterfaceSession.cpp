@@ -56,7 +56,7 @@ bool InterfaceSession::Open(const std::vector<std::string>& files, const std::st
 bool InterfaceSession::OpenFile(const std::string& file)
 {
     const std::filesystem::path path = file;
-    return Load(path.is_absolute() ? path.filename().string() : file, file, g_UIManager.FindSkin(m_Skin.c_str()));
+    return Load(path.is_absolute() ? path.filename().string() : file, file, g_UIManager.FindSkin(m_Frame.Skin.c_str()));
 }
 
 bool InterfaceSession::OpenOwn(const std::string& name)
@@ -104,7 +104,8 @@ bool InterfaceSession::OpenSkin(const std::string& name)
     const std::filesystem::path own = folder / "templates.xml";
     const std::string subject = "skin " + name;
     m_Host.Paths().SetSkinFolder(folder);
-    m_Skin = name;
+    m_Frame.Skin = name;
+    m_Host.Scripts().SetFrame(m_Frame);
     return Load(subject, (folder / "skin.xml").string(), nullptr)
         && Load(subject, (skins / "templates.xml").string(), nullptr)
         && (!exists(own) || Load(subject, own.string(), nullptr));

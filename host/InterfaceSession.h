@@ -43,7 +43,7 @@ public:
 
     // Uses a skin, or reads it anew, for what is made from now on. False: a line has said why not.
     bool OpenSkin(const std::string& name);
-    const std::string& Skin() const { return m_Skin; }
+    const std::string& Skin() const { return m_Frame.Skin; }
 
     // Lets the toolkit draw a frame of a size in pixels of the interface, each scale pixels of the target in size.
     // True if there is something new to present.
@@ -64,7 +64,6 @@ private:
     HostPlatform m_Platform;
     ReferenceHost m_Host;
     FrameState m_Frame;
-    std::string m_Skin;
     u32 m_SecondStart = 0;
     u32 m_FramesInSecond = 0;
 };

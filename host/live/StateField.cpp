@@ -1,8 +1,10 @@
 #include "host/live/StateField.h"
 
+#include "teskara/collections/CTeskTab.h"
 #include "teskara/collections/ListBoxItem.h"
 #include "teskara/collections/TeskComboBox.h"
 #include "teskara/collections/TeskListBox.h"
+#include "teskara/collections/TeskTabControl.h"
 #include "teskara/controls/TeskCheckBox.h"
 #include "teskara/controls/TeskScrollBar.h"
 #include "teskara/controls/TeskSlider.h"
@@ -55,7 +57,8 @@ template <class... Numbers> std::string Join(Numbers... numbers)
 // The element as what it is, unless it is a part of another control that looks after it.
 template <class Kind> Kind* OwnKind(TeskElement& element)
 {
-    const bool isPart = dynamic_cast<TeskComboBox*>(element.Parent) || dynamic_cast<TeskScrollBar*>(element.Parent);
+    const bool isPart = dynamic_cast<TeskComboBox*>(element.Parent) || dynamic_cast<TeskScrollBar*>(element.Parent)
+        || dynamic_cast<TeskTabControl*>(element.Parent);
     return isPart ? nullptr : dynamic_cast<Kind*>(&element);
 }
 
@@ -249,6 +252,24 @@ void WriteCaret(TeskElement& element, const std::string& value)
     for (i64 column = ToNumber(parts[1]); column > 0 && view.MoveRight(); --column) { }
 }
 
+// By its name: tabs that come before it may be new.
+Value ReadTab(TeskElement& element)
+{
+    const auto* control = dynamic_cast<TeskTabControl*>(&element);
+    if (!control)
+        return std::nullopt;
+
+    const CTeskTab* tab = control->RetrieveTab(control->SelectedTab);
+    return tab ? std::string(tab->Name.c_str()) : std::string();
+}
+
+void WriteTab(TeskElement& element, const std::string& value)
+{
+    auto& control = dynamic_cast<TeskTabControl&>(element);
+    if (const CTeskTab* tab = control.GetTabFromName(value.c_str()))
+        control.SelectTab(tab->ID);
+}
+
 // How far it is from its high end, the top of what it scrolls: that stays right when there is more to scroll. The bar of
 // a text edit follows the caret.
 Value ReadScroll(TeskElement& element)
@@ -274,6 +295,7 @@ constexpr StateField Fields[] = {
     {"choice", false, ReadChoice, WriteChoice},
     {"rows", false, ReadRows, WriteRows},
     {"selection", false, ReadSelection, WriteSelection},
+    {"tab", false, ReadTab, WriteTab},
     {"entry", false, ReadEntry, WriteEntry},
     {"lines", false, ReadLines, WriteLines},
     {"caret", true, ReadCaret, WriteCaret},

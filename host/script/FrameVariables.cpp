@@ -51,6 +51,8 @@ void FrameVariables::Set(const FrameState& frame)
         m_Names.Push(thread);
         SetField(thread, "FPS", frame.FramesPerSecond);
         SetField(thread, "Frame", frame.Number);
+        lua_pushstring(thread, frame.Skin.c_str());
+        lua_setfield(thread, -2, "Skin");
         char text[64];
         std::snprintf(
             text, sizeof text, "%04d-%02d-%02d", frame.Time.tm_year + 1900, frame.Time.tm_mon + 1, frame.Time.tm_mday);

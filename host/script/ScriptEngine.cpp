@@ -81,12 +81,17 @@ ScriptEngine::ScriptEngine(Console& console, ScriptTrust trust, const ScriptLimi
     });
 }
 
+void ScriptEngine::SetFrame(const FrameState& frame)
+{
+    m_Frame = frame;
+    m_FrameVariables.Set(frame);
+}
+
 void ScriptEngine::BeginFrame(const FrameState& frame)
 {
     Scripts.SayRefusal({});
     m_State.Budget().BeginFrame();
-    m_Frame = frame;
-    m_FrameVariables.Set(frame);
+    SetFrame(frame);
     Tasks.Advance(frame.Ticks);
 }
 

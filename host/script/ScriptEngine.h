@@ -30,6 +30,9 @@ public:
     // The console is borrowed.
     ScriptEngine(Console& console, ScriptTrust trust, const ScriptLimits& limits = {});
 
+    // Scripts see these values of a frame from now on.
+    void SetFrame(const FrameState& frame);
+
     // A frame begins: its values can be seen, and scripts that wait go on. now: milliseconds.
     void BeginFrame(const FrameState& frame);
 

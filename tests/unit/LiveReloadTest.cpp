@@ -1,8 +1,11 @@
 #include "host/live/LiveReload.h"
 
+#include "teskara/collections/CTeskTab.h"
 #include "teskara/collections/ListBoxItem.h"
 #include "teskara/collections/TeskListBox.h"
+#include "teskara/collections/TeskTabControl.h"
 #include "teskara/controls/TeskCheckBox.h"
+#include "teskara/controls/TeskFrame.h"
 #include "teskara/core/CUIManager.h"
 #include "teskara/element/TeskScreen.h"
 #include "teskara/text/TeskTextEdit.h"
@@ -184,6 +187,20 @@ TEST(LiveReloadDeathTest, ChoicesAndScrollingStay)
         EXPECT_EQ(top, fresh.TopOrder);
         EXPECT_TRUE(dynamic_cast<TeskCheckBox&>(ui.Element("C")).Checked);
         EXPECT_FALSE(ui.Element("F").Visible);
+    });
+}
+
+TEST(LiveReloadDeathTest, TheChosenTabStays)
+{
+    WithInterface([](HostedInterface& ui) {
+        LiveFile file(ui, "<tabcontrol name='T'><Tabs><Tab Name='One'/><Tab Name='Two'/></Tabs></tabcontrol>");
+        auto& tabs = dynamic_cast<TeskTabControl&>(ui.Element("T"));
+        tabs.SelectTab(tabs.GetTabFromName("Two")->ID);
+        file.Save(
+            "<tabcontrol name='T'><Tabs><Tab Name='Zero'/><Tab Name='One'/><Tab Name='Two'/></Tabs></tabcontrol>");
+        const auto& fresh = dynamic_cast<TeskTabControl&>(ui.Element("T"));
+        EXPECT_EQ(3u, fresh.SelectedTab);
+        EXPECT_TRUE(fresh.RetrieveTab(3)->Frame->Visible);
     });
 }
 
