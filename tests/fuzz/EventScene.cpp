@@ -32,6 +32,12 @@ constexpr char Values[] =
     "<Client Template='all'><Y>20</Y><Width>100%</Width><Height>r20</Height></Client>"
     "<VerticalScrollBar><X>60</X><Width>12</Width><Height>100%</Height><Slider><Width>12</Width><Height>100%</Height>"
     "<Vertical/><OnChange>0</OnChange></Slider></VerticalScrollBar>"
+    "<TabHeight>16</TabHeight><TabBorder>1</TabBorder><TabTexture Filename='#fill'/>"
+    "<TabSelectedTexture Filename='#camera'/><FrameTexture Filename='#fill'/><FrameBorder>1</FrameBorder>"
+    "<LeftTexture Filename='#fill'/><RightButton Template='all'/><Tabs><Tab Name='a'>"
+    "<frame name='in' Template='all'><Width>30</Width><Height>30</Height></frame>"
+    "<slider name='s' Template='all'><Width>100%</Width><Height>20</Height></slider></Tab><Tab Name='c'/>"
+    "<Tab Name='in'><listbox name='l' Template='all'><Width>50</Width><Height>r10</Height></listbox></Tab></Tabs>"
     "<StorePosition>1</StorePosition><FadeDuration>40</FadeDuration><FadeAlpha>0.5</FadeAlpha>";
 
 std::string Tag(const char* name, const std::string& value)
@@ -73,7 +79,7 @@ std::string Variation(u8 bits)
     if (bits % 5 == 1)
         text += Tag("SelectMultiple", "1") + Tag("Sort", "User");
     if (bits % 5 == 3)
-        text += Tag("Sort", "Text");
+        text += Tag("Sort", "Text") + Tag("Draggable", "1");
     if (bits % 6 == 1)
         text += Tag("ClickFocus", "in") + Tag("Title", "${x}") + Tag("Locked", bits % 4 == 3 ? "1" : "0");
     return text;

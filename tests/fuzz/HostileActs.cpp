@@ -53,7 +53,8 @@ constexpr const char* MemberWords[] = {"Name", "Parent", "Children", "Next", "Pr
     "AddChild", "GetMetadata", "HitTest", "FadeState", "Font", "Texture", "TexturePressed", "TextureHover", "Text",
     "Checked", "Down", "Group", "Visible", "Nonsense", "NumLines", "Type", "AbsoluteAlpha", "Range", "Value",
     "Vertical", "HandleTexture", "Item", "OrderedItem", "ItemByText", "ItemByValue", "SelectedItem", "SelectedItems",
-    "SortType", "Order", "Selection", "Title", "Minimized", "ClickFocus", "IsResizable", "ScrollbackTexture"};
+    "SortType", "Order", "Selection", "Title", "Minimized", "ClickFocus", "IsResizable", "ScrollbackTexture",
+    "SelectedTab", "Tab", "Tabs", "TabTexture", "TabSelectedTexture"};
 
 constexpr const char* MethodWords[] = {"Destroy", "AddChild", "SetZOrder", "SetStrata", "SetWidth", "SetHeight", "Hide",
     "ToggleVisible", "SetFocus", "LeftClick", "LeftMouseDown", "LeftMouseUp", "RightClick", "RightMouseDown",
@@ -63,7 +64,7 @@ constexpr const char* MethodWords[] = {"Destroy", "AddChild", "SetZOrder", "SetS
     "SetValue", "RaiseValue", "LowerValue", "SetSortType", "SetSelectMultiple", "DeselectItem", "SelectItem",
     "ItemToggleSelect", "ClearSelection", "AddItem", "RemoveItem", "ClearItems", "SetItemText", "SetItemColor", "Sort",
     "Select", "Deselect", "Toggle", "Remove", "SetSelection", "SetTitle", "Minimize", "Unminimize", "ToggleMinimize",
-    "SetClickFocus", "Echo", "Clear", "AddText"};
+    "SetClickFocus", "Echo", "Clear", "AddText", "AddTab", "Move", "Rename"};
 
 constexpr const char* ArgumentWords[] = {"", "frame", "top", "Button", "-1", "4294967295", "1e30", "nan", "${x}",
     "HitTest", "widthCircle", "<frame><OnLoad>0</OnLoad></frame>", "<text><Text>${x}</Text></text>", "all", "#camera",

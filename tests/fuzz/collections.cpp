@@ -1,6 +1,6 @@
-// A sequence of what scripts and the mouse do to a list, which stands alone or in a combo box. A plain model does the
-// same, and both must agree after every step. Each step is a byte and what the step reads after it; the first byte of
-// all chooses the scene.
+// A sequence of what scripts and the mouse do to a list, which stands alone or in a combo box, or to a tab control. A
+// plain model does the same, and both must agree after every step. Each step is a byte and what the step reads after
+// it; the first byte of all chooses the scene.
 
 #include "host/probe/TreeChecker.h"
 #include "teskara/collections/TeskComboBox.h"
@@ -11,6 +11,7 @@
 #include "tests/fuzz/ListModel.h"
 #include "tests/fuzz/MemoryFile.h"
 #include "tests/fuzz/ModelCheck.h"
+#include "tests/fuzz/TabSteps.h"
 
 #include <iterator>
 #include <string>
@@ -20,13 +21,13 @@ namespace {
 constexpr std::size_t MostSteps = 500;
 constexpr i32 RowHeight = 10;
 
-constexpr char Markup[] =
-    "<Tesk><Template name='bar'><Slider><Width>16</Width><Height>100%</Height><Vertical/></Slider></Template>"
+constexpr char ListsMarkup[] =
+    "<Template name='bar'><Slider><Width>16</Width><Height>100%</Height><Vertical/></Slider></Template>"
     "<Template name='list'><Width>100</Width><Height>40</Height><Font><Size>9</Size></Font><ScrollBar>bar</ScrollBar>"
     "</Template><listbox name='single' Template='list'/>"
     "<listbox name='several' Template='list'><SelectMultiple/></listbox>"
     "<combobox name='combo'><Width>100</Width><Height>20</Height><FullHeight>60</FullHeight>"
-    "<ListBox Template='list'/></combobox></Tesk>";
+    "<ListBox Template='list'/></combobox>";
 
 EventHost& Started()
 {
@@ -175,7 +176,7 @@ void RunSteps(Scene& scene, Decisions& bytes)
     Require(!FindTreeFault(), "the tree is broken");
 }
 
-void RunOn(const char* name, Decisions& bytes)
+void RunListSteps(const char* name, Decisions& bytes)
 {
     TeskElement* element = g_UIManager.FindElement(name);
     auto* combo = dynamic_cast<TeskComboBox*>(element);
@@ -188,6 +189,21 @@ void RunOn(const char* name, Decisions& bytes)
     RunSteps(scene, bytes);
 }
 
+struct SceneRow {
+    const char* Name; // of the element
+    void (*Run)(const char* name, Decisions& bytes);
+};
+
+// clang-format off
+constexpr SceneRow Scenes[] = {
+    {"single",    RunListSteps},
+    {"several",   RunListSteps},
+    {"combo",     RunListSteps},
+    {"fixed",     RunTabSteps},
+    {"draggable", RunTabSteps},
+};
+// clang-format on
+
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const u8* data, std::size_t size)
@@ -197,13 +213,14 @@ extern "C" int LLVMFuzzerTestOneInput(const u8* data, std::size_t size)
     Decisions bytes;
     bytes.Take(data, size);
     host.StartAnew();
-    file.Write(Markup, sizeof(Markup) - 1);
+    const std::string markup = std::string("<Tesk>") + ListsMarkup + TabControlsMarkup + "</Tesk>";
+    file.Write(markup.data(), markup.size());
     host.File = file.Path();
     g_UIManager.LoadInterfaceXML("f", true, nullptr);
     g_UIManager.Render();
 
-    constexpr const char* scenes[] = {"single", "several", "combo"};
-    RunOn(scenes[bytes.Next() % std::size(scenes)], bytes);
+    const SceneRow& scene = Scenes[bytes.Next() % std::size(Scenes)];
+    scene.Run(scene.Name, bytes);
 
     g_UIManager.CtrlDown = false;
     g_UIManager.MouseCaptureElementID = 0;
