@@ -57,7 +57,8 @@ bool CContextMenuHandler::Create(int x, int y)
     return Open(0, x, y);
 }
 
-// A second submenu closes the first one, and with it the menu that both belong to.
+// A second submenu closes the first one, and with it the menu that both belong to. So does the first one itself where
+// its menu went without being closed.
 void CContextMenuHandler::CreateSubmenu(CContextMenuHandler& parent, unsigned int id, int x, int y)
 {
     if (Menu || &parent == this)
@@ -65,7 +66,8 @@ void CContextMenuHandler::CreateSubmenu(CContextMenuHandler& parent, unsigned in
 
     const MenuHandlerWatch self(this);
     const MenuHandlerWatch opener(&parent);
-    SetParent(&parent);
+    if (Parent != &parent)
+        SetParent(&parent);
     if (parent.Child)
         parent.DestroyMenu(false);
     if (!self.Exists())

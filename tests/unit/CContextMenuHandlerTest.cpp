@@ -277,6 +277,7 @@ TEST_F(CContextMenuHandlerTest, AParentForgetsASubmenuThatHasEnded)
     EXPECT_EQ(handler.get(), Other.Child);
     handler.reset();
     EXPECT_EQ(nullptr, Other.Child);
+    EXPECT_NE(nullptr, Other.Menu) << "its own menu stays";
     Other.DestroyMenu(true);
     EXPECT_EQ(nullptr, Other.Menu);
 }
@@ -322,6 +323,16 @@ TEST_F(CContextMenuHandlerTest, AMenuThatIsDeletedTellsItsHandler)
     EXPECT_EQ(nullptr, Middle.Menu);
     EXPECT_EQ(nullptr, Last.Menu);
     OpenAll();
+}
+
+TEST_F(CContextMenuHandlerTest, AHandlerHasNoMenuOnceItHasHeardOfItsEnd)
+{
+    const TeskContextMenu* menu = nullptr;
+    Top.Destroyed = [&] { menu = Top.Menu; };
+    Top.Create(100, 50);
+    menu = Top.Menu;
+    Top.DestroyMenu(false);
+    EXPECT_EQ(nullptr, menu);
 }
 
 TEST_F(CContextMenuHandlerTest, AHandlerMayEndInAnyOfItsOperations)
