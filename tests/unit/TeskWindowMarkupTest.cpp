@@ -62,6 +62,14 @@ TEST_F(TeskWindowMarkupTest, BeforeMarkupIsReadThereAreNoTexts)
     EXPECT_EQ(20u, window.MinWidth);
 }
 
+TEST_F(TeskWindowMarkupTest, MarkupStartsWithoutAnyFlags)
+{
+    TeskWindow& window = LoadWindow("<CloseButton/><Resizable/>");
+    EXPECT_EQ(u32{WindowHasClose | WindowResizesWidth | WindowResizesHeight}, window.WindowFlags);
+    EXPECT_TRUE(window.FromXML(nullptr, nullptr));
+    EXPECT_EQ(0u, window.WindowFlags);
+}
+
 TEST_F(TeskWindowMarkupTest, MarkupGivesItsFieldsAndParts)
 {
     const TeskWindow& window = LoadWindow("<Border>2</Border><CloseButton/><MinimizeButton/><Resizable/><Locked/>"

@@ -115,18 +115,23 @@ TEST_F(TeskWindowTest, WithoutAParentItKeepsItsSize)
     window->Delete();
 }
 
+namespace {
+
+// Counts its layouts instead of doing them.
+class Counter : public TeskWindow
+{
+public:
+    using TeskWindow::TeskWindow;
+    void OnResize() override { ++Resized; }
+    void SizeRecalculated(bool changed) override { Unchanged += !changed; }
+    int Resized = 0;
+    int Unchanged = 0;
+};
+
+} // namespace
+
 TEST_F(TeskWindowTest, AChangeOfSizeIsLaidOutOnce)
 {
-    class Counter : public TeskWindow
-    {
-    public:
-        using TeskWindow::TeskWindow;
-        void OnResize() override { ++Resized; }
-        void SizeRecalculated(bool changed) override { Unchanged += !changed; }
-        int Resized = 0;
-        int Unchanged = 0;
-    };
-
     const TeskFactory<Counter> factory("counter");
     auto& counter = dynamic_cast<Counter&>(*factory.New<Counter>("counter", g_UIManager.Screen, "Counter"));
     counter.PositionWidth.Type = PositionFarEdge;
@@ -139,6 +144,20 @@ TEST_F(TeskWindowTest, AChangeOfSizeIsLaidOutOnce)
     EXPECT_EQ(1, counter.Unchanged);
     counter.OnCreate();
     EXPECT_EQ(2, counter.Resized);
+    g_UIManager.Screen->DeleteChild(&counter);
+}
+
+TEST_F(TeskWindowTest, EachOfItsFourValuesLaysItOutWhenItChanges)
+{
+    const TeskFactory<Counter> factory("counter");
+    auto& counter = dynamic_cast<Counter&>(*factory.New<Counter>("counter", g_UIManager.Screen, "Counter"));
+    int expected = 0;
+    for (ElementPosition TeskElement::*position :
+        {&TeskElement::PositionX, &TeskElement::PositionY, &TeskElement::PositionWidth, &TeskElement::PositionHeight}) {
+        (counter.*position).Type = PositionFarEdge;
+        counter.RecalculateSize(true);
+        EXPECT_EQ(++expected, counter.Resized);
+    }
     g_UIManager.Screen->DeleteChild(&counter);
 }
 
