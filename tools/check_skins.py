@@ -45,6 +45,17 @@ def missing_templates(wanted, shared):
         yield f'interfaces/skins/templates.xml: no template for the kind "{kind}"'
 
 
+def used_too_early(first, shared):
+    """Templates inherit when they are read: what they build upon has to stand by then."""
+    known = set(first)
+    for name, node in shared.items():
+        bases = node.get("Template", "")
+        for base in bases.split(",")[:-1] if "," in bases else [bases]:
+            if base and base.lower() not in known:
+                yield f'interfaces/skins/templates.xml: "{node.get("name")}" builds upon "{base}", which does not stand yet'
+        known.add(name)
+
+
 def missing_colors(skins):
     """What one skin tells in its templates, and another does not; skins by name."""
     for skin, mine in skins.items():
@@ -66,7 +77,9 @@ def missing_images(skin, used):
 def findings():
     shared = templates(SKINS / "templates.xml")
     yield from missing_templates(kinds(), shared)
-    yield from missing_colors({skin: templates(SKINS / skin / "skin.xml") for skin in make_images.skins()})
+    colors = {skin: templates(SKINS / skin / "skin.xml") for skin in make_images.skins()}
+    yield from missing_colors(colors)
+    yield from used_too_early(next(iter(colors.values())), shared)
     for skin in make_images.skins():
         yield from missing_images(skin, used_images(shared))
 

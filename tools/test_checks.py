@@ -109,6 +109,15 @@ class Checks(unittest.TestCase):
         self.assertEqual(len(found), 1, found)
         self.assertIn('"map"', found[0])
 
+    def test_a_template_must_stand_before_it_is_built_upon(self):
+        def template(name, base):
+            return xml.etree.ElementTree.fromstring(f'<Template name="{name}" Template="{base}"/>')
+
+        early = {"late": template("Late", "Red,Base,"), "base": template("Base", "")}
+        found = list(check_skins.used_too_early({"red": None}, early))
+        self.assertEqual(len(found), 1, found)
+        self.assertIn('"Base", which does not stand yet', found[0])
+
     def test_skins_tell_the_same_colours(self):
         def skin(colors):
             return {"list colors": xml.etree.ElementTree.fromstring(f"<Template>{colors}</Template>")}

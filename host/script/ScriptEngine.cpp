@@ -2,6 +2,7 @@
 
 #include "host/Console.h"
 #include "host/script/CommandLineWords.h"
+#include "host/script/MapFunctions.h"
 #include "host/script/SequenceParser.h"
 #include "teskara/script/MvTypeDefinition.h"
 
@@ -262,6 +263,7 @@ void ScriptEngine::AddFunctions(lua_State* thread)
     LuaState::AddFunction(thread, "print", Print, this);
     LuaState::AddFunction(thread, "command", RunCommand, this);
     LuaState::AddFunction(thread, "expand", ExpandText, this);
+    AddMapFunctions(thread);
 }
 
 // Scripts keep too much. Whose it is nobody knows; if it stayed, all of them would fail for ever.
