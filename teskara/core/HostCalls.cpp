@@ -327,4 +327,25 @@ void InvalidateTransientObject2(u32 classID, void* object) noexcept
     });
 }
 
+u32 CreateQuery(MvTypeDefinition* type, const char* text) noexcept
+{
+    constexpr u32 extra = 0;
+    return CallScripts(u32{0}, [&](HostScriptInterface& host) { return host.CreateQuery(type, text, extra); });
+}
+
+bool EvaluateQuery(u32 query, _MvTypeVar& object) noexcept
+{
+    bool holds = false;
+    return CallScripts(
+        false, [&](HostScriptInterface& host) { return host.EvaluateQuery(query, object, holds) && holds; });
+}
+
+void FreeQuery(u32 query) noexcept
+{
+    CallScripts(false, [query](HostScriptInterface& host) {
+        host.FreeQuery(query);
+        return true;
+    });
+}
+
 } // namespace Host

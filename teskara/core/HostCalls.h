@@ -172,4 +172,10 @@ char* MakeTempBuffer(std::size_t size, const char* text) noexcept;
 u32 RegisterTransientClass2(const char* name) noexcept;
 void InvalidateTransientObject2(u32 classID, void* object) noexcept;
 
+// --- Queries over objects of a type. Making and asking one may run scripts.
+
+u32 CreateQuery(MvTypeDefinition* type, const char* text) noexcept; // 0: it does not compile
+bool EvaluateQuery(u32 query, _MvTypeVar& object) noexcept; // whether it holds
+void FreeQuery(u32 query) noexcept;
+
 } // namespace Host
