@@ -6,6 +6,7 @@
 #include "teskara/collections/TeskTabControl.h"
 #include "teskara/collections/TeskTable.h"
 #include "teskara/collections/TeskTableCell.h"
+#include "teskara/collections/TeskTree.h"
 #include "teskara/controls/TeskButton.h"
 #include "teskara/controls/TeskCheckBox.h"
 #include "teskara/controls/TeskCommandButton.h"
@@ -95,7 +96,7 @@ TeskFactory<TeskText> g_Text("text");
 TeskFactory<TeskTextEdit> g_TextEdit("textedit");
 TeskFactory<TeskTextEntry> g_TextEntry("textentry");
 TeskFactory<TeskTooltip> g_Tooltip("tooltip");
-PendingFactory g_Tree("tree");
+TeskFactory<TeskTree> g_Tree("tree");
 TeskFactory<TeskVariableGauge> g_VariableGauge("variablegauge");
 TeskFactory<TeskVariableSlider> g_VariableSlider("variableslider");
 TeskFactory<TeskWindowClient> g_WindowClient("windowclient");

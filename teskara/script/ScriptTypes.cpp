@@ -25,6 +25,8 @@
 #include "teskara/script/TeskTextType.h"
 #include "teskara/script/TeskTextureType.h"
 #include "teskara/script/TeskTooltipType.h"
+#include "teskara/script/TeskTreeNodeType.h"
+#include "teskara/script/TeskTreeType.h"
 #include "teskara/script/TeskWindowType.h"
 #include "teskara/script/TeskaraType.h"
 #include "teskara/script/ToolkitType.h"
@@ -136,8 +138,8 @@ constexpr TypeRow Types[] = {
     {"tesktextentry", &pTeskTextEntryType, &pTeskElementType, Make<TeskTextEntryType>},
     {"tesktexture", &pTeskTextureType, nullptr, Make<TeskTextureType>},
     {"tesktooltip", &pTeskTooltipType, &pTeskFrameType, Make<TeskTooltipType>},
-    {"tesktreenode", &pTeskTreeNodeType, nullptr, Nameless},
-    {"tesktree", &pTeskTreeType, &pTeskFrameType, Nameless},
+    {"tesktreenode", &pTeskTreeNodeType, nullptr, Make<TeskTreeNodeType>},
+    {"tesktree", &pTeskTreeType, &pTeskFrameType, Make<TeskTreeType>},
     {"teskwindow", &pTeskWindowType, &pTeskFrameType, Make<TeskWindowType>},
 };
 static_assert(std::size(Types) == 27);

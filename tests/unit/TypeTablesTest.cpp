@@ -100,6 +100,12 @@ constexpr TypeNames AllNames[] = {
         "SetText SetBackgroundColor SetBorderColor SetMaxLength"},
     {"tesktextedit", 0, "Font", "SetText Clear AddText AddLine"},
     {"tesktooltip", 0, "Font Lines Line", "Reset Print SetLine"},
+    {"tesktree", 0, "Font Selection Root GetNode Image ImageCollapsible ImageCollapsed", ""},
+    {"tesktreenode", 0,
+        "Handle Text TextColor Image ImageCollapsible ImageCollapsed Parent Children Next Previous Expanded Tree "
+        "GetMetadata IsSelected AddChild InsertSiblingBefore InsertSiblingAfter",
+        "AddChild InsertSiblingBefore InsertSiblingAfter SetText SetTextColor Select Remove RemoveChildren Expand "
+        "Collapse ToggleExpand SetMetadata UnsetMetadata"},
     {"teskwindow", 0,
         "Title Minimized ClickFocus IsClosable IsMinimizable IsWidthResizable IsHeightResizable IsResizable",
         "SetTitle Minimize Unminimize ToggleMinimize SetClickFocus Reset SetWidth SetHeight"},
