@@ -83,12 +83,6 @@ template <class Type> std::unique_ptr<MvTypeDefinition> Make(const char* name)
     return std::make_unique<Type>(name);
 }
 
-// A type whose members and methods are still to be written: it answers what its base answers.
-std::unique_ptr<MvTypeDefinition> Nameless(const char* name)
-{
-    return std::make_unique<ToolkitType>(name);
-}
-
 struct HostTypeRow {
     const char* Name;
     MvTypeDefinition** Type;
