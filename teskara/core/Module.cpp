@@ -56,17 +56,6 @@ CUIManager* F1(HostObject* host)
 
 namespace {
 
-// Registers a kind whose control is not built yet: elements of it are refused with the usual message.
-class PendingFactory : public TeskElementFactory
-{
-public:
-    explicit PendingFactory(const char* name) { Register(name, TeskaraVersion); }
-    ~PendingFactory() override { TearDown(); }
-
-    TeskElement* Create(TeskElement*, const char*) override { return nullptr; }
-    TeskElement* Create(TeskElement*, const char*, XMLNode*, const char*) override { return nullptr; }
-};
-
 TeskFactory<TeskButton> g_Button("button");
 TeskFactory<TeskCheckBox> g_CheckBox("checkbox");
 TeskFactory<TeskComboBox> g_ComboBox("combobox");

@@ -29,7 +29,6 @@
 #include "teskara/script/TeskTreeType.h"
 #include "teskara/script/TeskWindowType.h"
 #include "teskara/script/TeskaraType.h"
-#include "teskara/script/ToolkitType.h"
 #include "teskara/script/TypeGlobals.h"
 
 #include <iterator>
