@@ -38,7 +38,12 @@ constexpr char Values[] =
     "<frame name='in' Template='all'><Width>30</Width><Height>30</Height></frame>"
     "<slider name='s' Template='all'><Width>100%</Width><Height>20</Height></slider></Tab><Tab Name='c'/>"
     "<Tab Name='in'><listbox name='l' Template='all'><Width>50</Width><Height>r10</Height></listbox></Tab></Tabs>"
-    "<StorePosition>1</StorePosition><FadeDuration>40</FadeDuration><FadeAlpha>0.5</FadeAlpha>";
+    "<Template>all</Template><StorePosition>1</StorePosition><FadeDuration>40</FadeDuration><FadeAlpha>0.5</FadeAlpha>";
+
+// What an element reads from its own markup alone.
+constexpr char OwnValues[] =
+    "<Row><Cell RowSpan='2'><Width>30</Width><Children><slider name='s' Template='all'><Width>100%</Width></slider>"
+    "</Children></Cell><Cell ColSpan='2'/></Row><Row><Cell><Height>50%</Height></Cell><Cell ColSpan='2'/></Row>";
 
 std::string Tag(const char* name, const std::string& value)
 {
@@ -120,7 +125,7 @@ std::string EventSceneMarkup(u8 seed)
         const u8 bits = static_cast<u8>(seed * (2 * count + 1));
         const std::string place = Place(count % 8 * 90 + 5, count / 8 * 90 + 5, 80, 80);
         const std::string child = ElementMarkup("frame", "in", Place(10, 10, 30, 30) + Variation(bits));
-        outer += ElementMarkup(kind, kind, place + Variation(bits) + "<Children>" + child + "</Children>");
+        outer += ElementMarkup(kind, kind, place + OwnValues + Variation(bits) + "<Children>" + child + "</Children>");
         if ((bits >> 4) % 4 == 0)
             inner += ElementMarkup(kind, kind, place + Variation(static_cast<u8>(bits / 3)));
         ++count;
