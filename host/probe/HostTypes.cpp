@@ -19,6 +19,19 @@ std::string TwoDecimals(float value)
     return end.ec == std::errc() ? std::string(buffer, end.ptr) : FloatText(value);
 }
 
+// Whether a whole number lies within what a kind can be.
+bool Holds(HostValueKind kind, i64 number)
+{
+    switch (kind) {
+    case HostValueKind::Int:
+        return number == static_cast<i32>(number);
+    case HostValueKind::Uint:
+        return number == static_cast<u32>(number);
+    default:
+        return true;
+    }
+}
+
 std::string PointTextOf(const void* object)
 {
     const auto* point = static_cast<const _Point3f*>(object);
@@ -60,7 +73,7 @@ bool HostValueType::FromText(MvValue& value, const char* text)
 
     const auto number = ReadNumber(TrimBlanks(text));
     value.Integer64 = number.value_or(0);
-    return number.has_value();
+    return number.has_value() && Holds(m_Kind, *number);
 }
 
 void HostValueType::FreeValue(MvValue& value)

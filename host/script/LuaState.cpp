@@ -67,7 +67,7 @@ LuaState& LuaState::Of(lua_State* thread)
 
 bool LuaState::Collect()
 {
-    lua_gc(m_Main, LUA_GCCOLLECT);
+    lua_gc(m_Thread, LUA_GCCOLLECT);
     return m_Budget.HasRoom();
 }
 

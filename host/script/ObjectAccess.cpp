@@ -6,6 +6,7 @@
 #include "teskara/script/ScriptTable.h"
 #include "teskara/script/ToolkitType.h"
 
+#include <cstring>
 #include <optional>
 #include <string_view>
 
@@ -65,7 +66,8 @@ ScriptObject& LivingObject(lua_State* thread, int index)
 
 int FailForName(lua_State* thread, const MvTypeDefinition& type, const char* name)
 {
-    return luaL_error(thread, "a %s has no member or method '%s'", type.GetName(), name);
+    const char* article = std::strchr("aeiou", type.GetName()[0]) ? "an" : "a";
+    return luaL_error(thread, "%s %s has no member or method '%s'", article, type.GetName(), name);
 }
 
 void CheckNeeds(lua_State* thread, const char* name, int given)
@@ -109,6 +111,21 @@ int ObjectAccess::PushMember(lua_State* thread, ScriptObject& object, const char
     return 1;
 }
 
+// What an object has at the index that lies behind it.
+int ObjectAccess::PushIndexed(lua_State* thread, const ScriptObject& object) const
+{
+    ArgumentTexts index(thread, m_Values, 2);
+    const RunningThread running(thread);
+    const _MvTypeVar asked = object.Value;
+    _MvTypeVar result;
+    const int done = asked.Type->GetIndex(asked.Value, index.Count(), index.Texts(), result);
+    if (done == DispatchUnknown)
+        return FailForName(thread, *asked.Type, index.Texts()[0]);
+
+    m_Values.Push(thread, done == DispatchDone ? result : _MvTypeVar());
+    return 1;
+}
+
 // Puts what is to be done with a name into the table on top of the stack: a function, or the number of arguments that
 // a member needs.
 void ObjectAccess::LearnName(lua_State* thread, MvTypeDefinition& type, const char* name)
@@ -131,8 +148,10 @@ int ObjectAccess::Index(lua_State* thread)
 {
     auto& access = LuaState::OwnerOf<ObjectAccess>(thread);
     ScriptObject& object = LivingObject(thread, 1);
-    const char* name = luaL_checkstring(thread, 2);
     lua_settop(thread, 2);
+    if (lua_type(thread, 2) == LUA_TNUMBER)
+        return access.PushIndexed(thread, object);
+    const char* name = luaL_checkstring(thread, 2);
     lua_pushvalue(thread, lua_upvalueindex(NamesUpvalue));
     lua_pushvalue(thread, 2);
     if (lua_rawget(thread, 3) == LUA_TNIL) {

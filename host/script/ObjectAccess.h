@@ -10,7 +10,7 @@ class ScriptValues;
 struct ScriptObject;
 
 // What scripts do with objects of the toolkit's. A member is read as object.Name; one that needs arguments is called as
-// object.Name(...). A method is called as object:Name(...) and says whether it succeeded.
+// object.Name(...). A number in brackets is the type's own index. A method is called as object:Name(...) and says whether it succeeded.
 class ObjectAccess
 {
 public:
@@ -24,6 +24,7 @@ public:
 
 private:
     int PushMember(lua_State* thread, ScriptObject& object, const char* name, int firstArgument) const;
+    int PushIndexed(lua_State* thread, const ScriptObject& object) const;
     void LearnName(lua_State* thread, MvTypeDefinition& type, const char* name);
 
     static int Index(lua_State* thread);

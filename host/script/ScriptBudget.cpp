@@ -93,6 +93,21 @@ bool ScriptBudget::TakeNews()
     return isNews;
 }
 
+bool ScriptBudget::TakeBytes(std::size_t bytes)
+{
+    if (!HasRoomFor(bytes))
+        return false;
+
+    m_Bytes += bytes;
+    return true;
+}
+
+bool ScriptBudget::HasRoomFor(std::size_t bytes) const
+{
+    const std::size_t most = m_Depth > 0 ? m_MostBytes : m_Limits.AllBytes + m_Limits.CallBytes;
+    return m_Bytes <= most && bytes <= most - m_Bytes;
+}
+
 void* ScriptBudget::Reallocate(void* block, std::size_t oldSize, std::size_t size)
 {
     if (!block)
@@ -103,8 +118,7 @@ void* ScriptBudget::Reallocate(void* block, std::size_t oldSize, std::size_t siz
         return nullptr;
     }
 
-    const std::size_t most = m_Depth > 0 ? m_MostBytes : m_Limits.AllBytes + m_Limits.CallBytes;
-    if (size > oldSize && m_Bytes - oldSize + size > most)
+    if (size > oldSize && !HasRoomFor(size - oldSize))
         return nullptr;
 
     // Who makes large blocks fills them: that takes its time, in however few instructions.

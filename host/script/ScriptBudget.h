@@ -57,10 +57,17 @@ public:
     // A person has to be told of it once, however many scripts end by it. True: that has not happened yet.
     bool TakeNews();
 
+    // Memory that scripts take outside of Lua. False: it would be too much.
+    bool TakeBytes(std::size_t bytes);
+    void GiveBytes(std::size_t bytes) { m_Bytes -= bytes; }
+    std::size_t Bytes() const { return m_Bytes; }
+
     // Memory by the rules of realloc; size 0 frees. Null: it would be too much.
     void* Reallocate(void* block, std::size_t oldSize, std::size_t size);
 
 private:
+    bool HasRoomFor(std::size_t bytes) const;
+
     ScriptLimits m_Limits;
     u32 m_Depth = 0;
     u32 m_Frame = 0; // 0: frames don't count

@@ -68,18 +68,28 @@ bool ReadNumber(const _MvTypeVar& value, const HostTypes& types, double& number)
 
 ScriptEngine::ScriptEngine(Console& console, ScriptTrust trust, const ScriptLimits& limits)
     : m_Console(console),
-      m_Objects(m_State, [this](lua_State* thread, MvTypeDefinition& type) { m_Access.FillMetatable(thread, type); }),
-      m_State(LimitsFor(trust, limits)), Values(Types, m_Objects), Globals(m_State, trust),
+      m_Objects(
+          m_State, [this](lua_State* thread, MvTypeDefinition& type) { FillMetatable(thread, type); },
+          [this](const _MvTypeVar& value) { return Indexes.ShareOf(value.Value.Object); }),
+      m_State(LimitsFor(trust, limits)), Indexes(m_State, Types), Values(Types, m_Objects), Globals(m_State, trust),
       Scripts(m_State, Values, console, m_Frame), Tasks(m_State, console, Commands, Scripts.Depth()),
       m_Evaluator({m_State, Globals, Values, TopLevel, Scripts, console}), Sequences(m_Evaluator), m_Access(Values),
-      m_FrameVariables(m_State, Globals)
+      m_IndexType(Indexes, Types), m_IndexAccess(Indexes, m_IndexType, Values), m_FrameVariables(m_State, Globals)
 {
     m_State.SetRelief([this] { MakeRoom(); });
+    Types.Add(&m_IndexType);
     Globals.Add([this](lua_State* thread) {
         AddFunctions(thread);
         m_Access.AddFunctions(thread);
+        m_IndexAccess.AddFunctions(thread);
         Tasks.AddFunctions(thread);
     });
+}
+
+// The indexes of scripts end while all that hears of it is still there.
+ScriptEngine::~ScriptEngine()
+{
+    RemoveType(&m_IndexType);
 }
 
 void ScriptEngine::SetFrame(const FrameState& frame)
@@ -179,6 +189,7 @@ void ScriptEngine::Invalidate(void* object)
     m_Objects.Invalidate(object);
     Scripts.Invalidate(object);
     m_Evaluator.Invalidate(object);
+    Indexes.Forget(object);
 }
 
 bool ScriptEngine::ParseTypedValue(const char* text, _MvTypeVar& result, u32)
@@ -264,6 +275,13 @@ void ScriptEngine::AddFunctions(lua_State* thread)
     LuaState::AddFunction(thread, "command", RunCommand, this);
     LuaState::AddFunction(thread, "expand", ExpandText, this);
     AddMapFunctions(thread);
+}
+
+void ScriptEngine::FillMetatable(lua_State* thread, MvTypeDefinition& type)
+{
+    m_Access.FillMetatable(thread, type);
+    if (&type == &m_IndexType)
+        m_IndexAccess.FillMetatable(thread);
 }
 
 // Scripts keep too much. Whose it is nobody knows; if it stayed, all of them would fail for ever.

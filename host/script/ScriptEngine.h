@@ -6,8 +6,11 @@
 #include "host/script/CommandTable.h"
 #include "host/script/DataSequences.h"
 #include "host/script/FrameVariables.h"
+#include "host/script/IndexAccess.h"
+#include "host/script/IndexType.h"
 #include "host/script/ObjectAccess.h"
 #include "host/script/ScriptGlobals.h"
+#include "host/script/ScriptIndexes.h"
 #include "host/script/ScriptObjects.h"
 #include "host/script/ScriptTasks.h"
 #include "host/script/ScriptValues.h"
@@ -29,6 +32,7 @@ class ScriptEngine : public HostScriptInterface
 public:
     // The console is borrowed.
     ScriptEngine(Console& console, ScriptTrust trust, const ScriptLimits& limits = {});
+    ~ScriptEngine() override;
 
     // Scripts see these values of a frame from now on.
     void SetFrame(const FrameState& frame);
@@ -68,6 +72,7 @@ private:
 
     int ExecuteWords(std::vector<std::string> words);
     void AddFunctions(lua_State* thread);
+    void FillMetatable(lua_State* thread, MvTypeDefinition& type);
     void MakeRoom();
     bool ReadValue(const Sequence& sequence, _MvTypeVar& result);
     void SayError(const std::string& subject);
@@ -83,6 +88,7 @@ private:
 
 public:
     HostTypes Types;
+    ScriptIndexes Indexes;
     TopLevelObjects TopLevel;
     CommandTable Commands;
     ScriptValues Values;
@@ -98,6 +104,8 @@ public:
 
 private:
     ObjectAccess m_Access;
+    IndexType m_IndexType;
+    IndexAccess m_IndexAccess;
     FrameVariables m_FrameVariables;
     std::unordered_map<u32, std::shared_ptr<Query>> m_Queries;
     std::deque<std::string> m_TempTexts; // the latest ones

@@ -4,6 +4,8 @@
 
 #include <new>
 #include <string_view>
+#include <utility>
+#include <vector>
 
 namespace host {
 
@@ -41,6 +43,7 @@ void ScriptObjects::Push(lua_State* thread, const _MvTypeVar& value)
     ScriptObject& object = *PushNew(thread, value);
     if (!IsElementType(*value.Type)) {
         Link(object);
+        object.Share = m_Sharer(value);
         return;
     }
     lua_pushvalue(thread, -1);
@@ -60,9 +63,10 @@ ScriptObject* ScriptObjects::At(lua_State* thread, int index)
 
 void ScriptObjects::Invalidate(void* object)
 {
-    for (ScriptObject* held = m_First; held; held = held->Next) {
-        if (held->Value.Value.Object == object)
-            held->Value = {};
+    for (auto held = m_Others.find(object); held != m_Others.end(); held = m_Others.find(object)) {
+        ScriptObject& ending = *held->second;
+        Unlink(ending);
+        ending.Value = {};
     }
 
     const auto kept = m_Elements.find(object);
@@ -76,10 +80,19 @@ void ScriptObjects::Invalidate(void* object)
 
 void ScriptObjects::ForgetType(MvTypeDefinition* type)
 {
-    for (ScriptObject* held = m_First; held; held = held->Next) {
-        if (held->Value.Type == type)
-            held->Value = {};
+    std::vector<ScriptObject*> ending;
+    for (const auto& [address, first] : m_Others) {
+        for (ScriptObject* held = first; held; held = held->Next) {
+            if (held->Value.Type == type)
+                ending.push_back(held);
+        }
     }
+    for (ScriptObject* held : ending) {
+        Unlink(*held);
+        held->Value = {};
+        held->Share = nullptr; // the last one ends the object, and tells those that are left
+    }
+
     for (auto kept = m_Elements.begin(); kept != m_Elements.end();) {
         if (kept->second.Object->Value.Type != type) {
             ++kept;
@@ -127,23 +140,36 @@ void ScriptObjects::PushMetatable(lua_State* thread, MvTypeDefinition& type)
 
 void ScriptObjects::Link(ScriptObject& object)
 {
-    object.Next = m_First;
-    if (m_First)
-        m_First->Previous = &object;
-    m_First = &object;
+    ScriptObject*& first = m_Others[object.Value.Value.Object];
+    object.Next = first;
+    if (first)
+        first->Previous = &object;
+    first = &object;
     object.IsLinked = true;
+}
+
+void ScriptObjects::Unlink(ScriptObject& object)
+{
+    if (!std::exchange(object.IsLinked, false))
+        return;
+
+    if (object.Next)
+        object.Next->Previous = object.Previous;
+    if (object.Previous)
+        object.Previous->Next = object.Next;
+    else if (object.Next)
+        m_Others[object.Value.Value.Object] = object.Next;
+    else
+        m_Others.erase(object.Value.Value.Object);
+    object.Previous = object.Next = nullptr;
 }
 
 int ScriptObjects::Collect(lua_State* thread)
 {
     auto& objects = LuaState::OwnerOf<ScriptObjects>(thread);
     auto& object = *static_cast<ScriptObject*>(lua_touserdata(thread, 1));
-    if (!object.IsLinked)
-        return 0;
-
-    (object.Previous ? object.Previous->Next : objects.m_First) = object.Next;
-    if (object.Next)
-        object.Next->Previous = object.Previous;
+    objects.Unlink(object);
+    object.~ScriptObject();
     return 0;
 }
 

@@ -4,6 +4,7 @@
 #include "teskara/script/MvTypeVar.h"
 
 #include <functional>
+#include <memory>
 #include <unordered_map>
 
 namespace host {
@@ -11,9 +12,10 @@ namespace host {
 // An object of the toolkit's as scripts hold it. When the object is gone there is no type.
 struct ScriptObject {
     _MvTypeVar Value;
+    std::shared_ptr<void> Share; // of what lives as long as scripts hold it
     bool IsElement = false;
     bool IsLinked = false;
-    ScriptObject* Previous = nullptr; // among those that nothing but scripts holds
+    ScriptObject* Previous = nullptr; // among those of the same address that nothing but scripts holds
     ScriptObject* Next = nullptr;
 };
 
@@ -25,7 +27,13 @@ public:
     // Fills the metatable of a type's objects, which lies on top of the thread's stack.
     using TypeFiller = std::function<void(lua_State* thread, MvTypeDefinition& type)>;
 
-    ScriptObjects(LuaState& state, TypeFiller filler) : m_State(state), m_Filler(std::move(filler)) { }
+    // Gives the share that a new object takes of what it stands for; null for what somebody else keeps.
+    using Sharer = std::function<std::shared_ptr<void>(const _MvTypeVar& value)>;
+
+    ScriptObjects(LuaState& state, TypeFiller filler, Sharer sharer)
+        : m_State(state), m_Filler(std::move(filler)), m_Sharer(std::move(sharer))
+    {
+    }
 
     // Pushes the object that a value of one of the toolkit's types stands for, or nil. Fails only for lack of memory.
     void Push(lua_State* thread, const _MvTypeVar& value);
@@ -48,13 +56,15 @@ private:
     ScriptObject* PushNew(lua_State* thread, const _MvTypeVar& value);
     void PushMetatable(lua_State* thread, MvTypeDefinition& type);
     void Link(ScriptObject& object);
+    void Unlink(ScriptObject& object);
     static int Collect(lua_State* thread);
 
     LuaState& m_State;
     TypeFiller m_Filler;
+    Sharer m_Sharer;
     std::unordered_map<const void*, KeptElement> m_Elements; // by address
     std::unordered_map<const MvTypeDefinition*, int> m_Metatables;
-    ScriptObject* m_First = nullptr; // of those that nothing but scripts holds
+    std::unordered_map<const void*, ScriptObject*> m_Others; // by address, the first of those linked
 };
 
 } // namespace host

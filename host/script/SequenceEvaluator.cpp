@@ -17,9 +17,10 @@ constexpr std::size_t MostArguments = 32;
 constexpr std::string_view NoValue = "NULL";
 constexpr std::string_view ExpressionName = "expression";
 
+// A variable is set to one value. With more of them it is the method of an object.
 bool IsSet(const SequenceStep& step)
 {
-    return step.StepKind == SequenceStep::Kind::Method && step.Name == "Set";
+    return step.StepKind == SequenceStep::Kind::Method && step.Name == "Set" && step.Arguments.size() == 1;
 }
 
 // The arguments of a step as texts for the toolkit.
@@ -221,7 +222,9 @@ SequenceEvaluator::Place SequenceEvaluator::Start(
 
     part.NameKey.Push(frame.Thread);
     m_In.Globals.PushNamed(frame.Thread);
-    return step.Arguments.empty() ? Place::Stack : CallFunction(sequence, part, frame);
+    if (step.Arguments.empty())
+        return Place::Stack;
+    return ScriptObjects::At(frame.Thread, -1) ? ReadIndex(step, frame) : CallFunction(sequence, part, frame);
 }
 
 SequenceEvaluator::Place SequenceEvaluator::SetVariable(const Sequence& sequence, const SequencePart& part)
@@ -271,6 +274,21 @@ SequenceEvaluator::Place SequenceEvaluator::SetField(
         return Place::Stack;
     SayError(sequence, part);
     return Place::Nowhere;
+}
+
+// What the object on top of the stack has at an index.
+SequenceEvaluator::Place SequenceEvaluator::ReadIndex(const SequenceStep& step, const Frame& frame)
+{
+    StepArguments arguments;
+    if (!arguments.Read(*this, step))
+        return Place::Nowhere;
+
+    const ScriptObject* object = ScriptObjects::At(frame.Thread, -1);
+    if (!object->Value.Type)
+        return Place::Nowhere;
+    const int done =
+        object->Value.Type->GetIndex(object->Value.Value, arguments.Count(), arguments.Texts(), frame.Value);
+    return done == DispatchDone && frame.Value.Type ? Place::Frame : Place::Nowhere;
 }
 
 // A function that a script has made answers ${Name[argument,...]}. It lies on top of the stack.

@@ -81,6 +81,7 @@ private:
     Place Start(const Sequence& sequence, const SequencePart& part, const Frame& frame);
     Place SetVariable(const Sequence& sequence, const SequencePart& part);
     Place SetField(const Sequence& sequence, const SequencePart& part, const Frame& frame);
+    Place ReadIndex(const SequenceStep& step, const Frame& frame);
     Place CallFunction(const Sequence& sequence, const SequencePart& part, const Frame& frame);
     Place TakeStep(const SequenceStep& step, const Frame& frame, Place place);
     Place ReadField(const SequenceStep& step, const Frame& frame);

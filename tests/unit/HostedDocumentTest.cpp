@@ -30,7 +30,7 @@ std::vector<std::string> Blocks(const std::string& language)
 TEST(HostedDocumentDeathTest, InterfacesLoadAndAnswerWithoutALine)
 {
     const std::vector<std::string> blocks = Blocks("xml");
-    ASSERT_EQ(3u, blocks.size());
+    ASSERT_EQ(4u, blocks.size());
     WithInterface([&](HostedInterface& ui) {
         for (const std::string& block : blocks) {
             ui.Load(block);
@@ -41,6 +41,7 @@ TEST(HostedDocumentDeathTest, InterfacesLoadAndAnswerWithoutALine)
             g_UIManager.Reset();
         }
         EXPECT_EQ("1", ui.Expand("${Clicks}"));
+        EXPECT_EQ("219 of 2: 120, 99", ui.Expand("${Total} of ${Best.Count}: ${Best}"));
         EXPECT_EQ("50% at 20", ui.Expand("${= Volume * 100 }% at ${Mouse.X}"));
         EXPECT_EQ("", ui.Lines());
     });

@@ -322,6 +322,23 @@ TEST_F(LuaSandbox, TimeIsBoundedWhereInstructionsAreLong)
     EXPECT_EQ("script:1: stopped, since it ran too long", slow.Error());
 }
 
+TEST_F(LuaSandbox, MemoryOutsideOfLuaIsCountedAsWell)
+{
+    host::ScriptBudget& budget = State.Budget();
+    const std::size_t before = budget.Bytes();
+    {
+        const ScriptCall call(State);
+        EXPECT_TRUE(budget.TakeBytes(1000 * 1024));
+        EXPECT_EQ(before + 1000 * 1024, budget.Bytes());
+        EXPECT_FALSE(budget.TakeBytes(100 * 1024));
+        EXPECT_FALSE(budget.TakeBytes(~std::size_t{0})) << "which would wrap";
+        EXPECT_EQ(before + 1000 * 1024, budget.Bytes());
+        EXPECT_NE(std::string::npos, Run("return #('x'):rep(400000)").find(TooMuch));
+        budget.GiveBytes(1000 * 1024);
+    }
+    EXPECT_EQ("400000", Run("return #('x'):rep(400000)"));
+}
+
 TEST(LuaTrust, TrustedScriptsHaveTheWholeLibraryAndTheSameLimits)
 {
     LuaState state{{100'000, std::chrono::milliseconds(20000), 1024 * 1024, 8 * 1024 * 1024}};
