@@ -186,17 +186,18 @@ TEST(HostedIndexesDeathTest, AnIndexEndsWhenNoScriptHoldsItAnyLonger)
 TEST(HostedIndexesDeathTest, WhatScriptsPutIntoAnIndexCountsWithTheirMemory)
 {
     WithInterface([](HostedInterface& ui) {
-        for (const char* greedy :
-            {"local s = Index('string') local t = ('x'):rep(4000) while true do s:Add(t) end",
-                "local s = Index('int') while true do s:Add(1) end",
-                "local i = Index('int') local size = 1000 while true do size = size * 2 i:Resize(size) end",
-                "local all = {} while true do all[#all + 1] = Index('int') end",
-                "local i = Index('int') local all = {} while true do all[#all + 1] = pairs(i) end",
-                "local s = Index('string') s:Add('x') while true do s[1] = ('x'):rep(4000) s:Add(s[1]) end",
-                "local s = Index('int') local function add() while s:Add(1) do end end while true do pcall(add) end"}) {
+        for (const char* greedy : {"local s = Index('string') local t = ('x'):rep(4000) while true do s:Add(t) end",
+                 "local s = Index('int') s:Resize(1000000) while true do s:Add(1) end",
+                 "local i = Index('int') local size = 1000 while true do size = size * 2 i:Resize(size) end",
+                 "local all = {} while true do all[#all + 1] = Index('int') end",
+                 "local i = Index('int') local all = {} while true do all[#all + 1] = pairs(i) end",
+                 "local s = Index('string') s:Add('x') while true do s[1] = ('x'):rep(4000) s:Add(s[1]) end",
+                 "local s, t = Index('string'), ('x'):rep(2000) local function add() while s:Add(t) do end end "
+                 "while true do pcall(add) end"}) {
             ui.Run(greedy);
             ui.Frame();
-            EXPECT_NE(std::string::npos, ui.Lines().find("stopped, since it took too much memory")) << greedy;
+            const std::string lines = ui.Lines();
+            EXPECT_NE(std::string::npos, lines.find("stopped, since it took too much memory")) << greedy << lines;
         }
         EXPECT_EQ("10", ui.Run("local i = Index('int') for k = 1, 10 do i:Add(k) end Result = #i"));
         EXPECT_EQ("", ui.Lines());
