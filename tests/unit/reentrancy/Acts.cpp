@@ -45,6 +45,8 @@ void DeleteParts()
     Delete("DownButton@Self@Parent@Grand");
     Delete("vertical@Self@Parent@Grand");
     Delete("List@Self@Parent@Grand");
+    Delete("Tooltip@Self@Parent@Grand");
+    Delete("Town@Self@Parent@Grand");
     Delete("Cell 1@Self@Parent@Grand");
     Delete("Cell 0@Self@Parent@Grand");
     Delete("Cell 2@Self@Parent@Grand");
@@ -163,6 +165,14 @@ constexpr ScriptAct ScriptActs[] = {
     {ScriptAct::This,   "SelectedTab", "Move",      {"2"},                        HasTabs},
     {ScriptAct::This,   "SelectedTab", "Rename",    {"other"},                    HasTabs},
     {ScriptAct::This,   "SelectedTab", "Destroy",   {},                           HasTabs},
+    {ScriptAct::This,   nullptr,   "AddBlip",       {"Town"},                     HasBlips},
+    {ScriptAct::This,   nullptr,   "AddBlip",       {"c", "10", "10"},            HasBlips},
+    {ScriptAct::This,   nullptr,   "SetMapSize",    {"0", "nan"},                 HasBlips},
+    {ScriptAct::This,   nullptr,   "SetRotation",   {"1e30"},                     HasBlips},
+    {ScriptAct::This,   nullptr,   "HideLabels",    {},                           HasBlips},
+    {ScriptAct::Blip,   nullptr,   "Remove",        {},                           HasBlips},
+    {ScriptAct::Blip,   nullptr,   "Destroy",       {},                           HoversBlips},
+    {ScriptAct::Blip,   nullptr,   "SetLabel",      {"more"},                     HasBlips},
     {ScriptAct::This,   nullptr,   "Print",         {"${more}"},                  SetsLines},
     {ScriptAct::This,   nullptr,   "SetLine",       {"0", "${more}"},             SetsLines},
     {ScriptAct::This,   nullptr,   "Reset",         {},                           KnowsReset},
@@ -184,6 +194,8 @@ TeskElement* Find(ScriptAct::Object object)
         return g_UIManager.FindElement(ElderName);
     case ScriptAct::List:
         return g_UIManager.FindElement("List@Self@Parent@Grand");
+    case ScriptAct::Blip:
+        return g_UIManager.FindElement("Town@Self@Parent@Grand");
     default:
         return Self();
     }

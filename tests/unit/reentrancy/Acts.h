@@ -13,7 +13,7 @@ struct Act {
 
 // What a script does through the script types, as this.PART.METHOD[ARGUMENTS].
 struct ScriptAct {
-    enum Object { This, Parent, Elder, List };
+    enum Object { This, Parent, Elder, List, Blip };
 
     Object On;
     const char* Part; // of the object; null if the method is the object's own

@@ -1,7 +1,11 @@
 #include "tests/unit/reentrancy/Kinds.h"
 
+#include "teskara/core/CUIManager.h"
 #include "teskara/element/TeskElement.h"
+#include "teskara/element/TeskScreen.h"
 #include "teskara/text/TeskTextEdit.h"
+#include "teskara/windows/TeskMap.h"
+#include "teskara/windows/TeskMapView.h"
 #include "tests/unit/reentrancy/Scene.h"
 
 #include <ostream>
@@ -29,6 +33,7 @@ constexpr u64 IsField = Follows | PassesOn | Sends(3) | TakesKeys | EditsText | 
 constexpr u64 IsTextEdit = Follows | Sends(7) | Sends(8) | Sends(10) | Sends(11) | EditsLines | EditsText | ClearsLines
     | FocusedByPress | ScriptsScroll | SetsText | HasFont;
 constexpr u64 IsConsole = FollowsHeldMouse | HasLines | ClearsLines | HasFont | HasTexture | SetsTexture;
+constexpr u64 ShowsBlips = Follows | PassesOn | HoversBlips;
 constexpr u64 IsTooltip =
     PassesOn | SendsPresses | ExpandsText | SetsLines | KnowsReset | HasFont | HasTexture | SetsTexture;
 constexpr u64 IsTabControl = Follows | PassesOn | HasTabs | LoadsParts | UnloadsParts | HasFont | SetsTexture;
@@ -86,6 +91,42 @@ constexpr char ConsoleMarkup[] =
 void PrepareConsole()
 {
     Tell(Self(), "Echo", {"a"});
+}
+
+// Blips stand in the middle, away from where the mouse goes.
+constexpr char MapMarkup[] = "<MapSizeX>100</MapSizeX><MapSizeY>100</MapSizeY><ShowLabels/>"
+                             "<BlipTemplate>Blip</BlipTemplate>";
+
+// The hidden tooltip of Self's blips.
+void GiveTooltip()
+{
+    if (TeskElement* tooltip = g_UIManager.LoadElement(Self(), "tooltip", "Tooltip")) {
+        tooltip->Show(false);
+        Self()->OnCreate();
+    }
+}
+
+void PrepareMap()
+{
+    GiveTooltip();
+    Tell(Self(), "AddBlip", {"Town", "10", "10", "0", "8", "A label", "Blip"});
+    Tell(Self(), "AddBlip", {"Hill", "12", "12", "0", "8", "A label", "Blip"});
+}
+
+// The blips are those of a map that is hidden.
+void PrepareMapView()
+{
+    GiveTooltip();
+    auto* map = dynamic_cast<TeskMap*>(g_UIManager.LoadElement(g_UIManager.Screen, "map", "Other"));
+    auto* view = dynamic_cast<TeskMapView*>(Self());
+    if (map)
+        map->Show(false);
+    for (const char* name : {"Town", "Hill"}) {
+        const u32 id = map ? map->AddBlip(name, {10, 10, 0}, 8, "A label", "Blip", nullptr) : 0;
+        TeskMapBlipView* shown = view && id ? view->AddBlipView(map->BlipsByID.Find(id)) : nullptr;
+        if (shown)
+            shown->BackgroundColor = 0xff000000u;
+    }
 }
 
 // The client lies away from where the mouse goes, and its children follow its size.
@@ -153,6 +194,9 @@ constexpr Kind Kinds[] = {
     {"console",         IsConsole,                             ConsoleMarkup,   PrepareConsole},
     {"textedit",        IsTextEdit,                            TextEditMarkup,  PrepareTextEdit},
     {"tabcontrol",      IsTabControl,                          TabControlMarkup, nullptr},
+    {"map",             ShowsBlips | HasBlips,                 MapMarkup,       PrepareMap},
+    {"mapblip",         IsFrame | HasFont,                     FrameMarkup,     nullptr},
+    {"mapview",         ShowsBlips,                            MapMarkup,       PrepareMapView},
     {"tooltip",         IsTooltip,                             FrameMarkup,     PrepareTooltip},
     {"window",          IsWindow,                              WindowMarkup,    PrepareWindow},
     {"table",           IsTable,                               TableMarkup,     nullptr},

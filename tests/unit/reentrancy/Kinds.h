@@ -44,6 +44,8 @@ enum Trait : u64 {
     HasCells = u64{1} << 56, // a table, whose cells are such parts
     HasTabs = u64{1} << 57, // selects, drags and scrolls tabs, whose elements are such parts
     UnloadsParts = u64{1} << 58, // its parts run scripts as it goes itself
+    HoversBlips = u64{1} << 60, // shows blips, whose scripts run as the mouse comes and as they are drawn
+    HasBlips = u64{1} << 61, // a map, which adds, removes and replaces them
 };
 
 // It tells its parent so, of its own accord or for others.

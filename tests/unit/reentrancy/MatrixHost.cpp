@@ -28,9 +28,10 @@ MatrixHost::MatrixHost()
         return "1";
     };
     for (const char* event : EventNames()) {
-        const std::string ofPart = std::string(event) + " of a part";
-        Scripts[event] = [event](TeskElement&) { g_Bomb.Reach(event); };
-        Scripts[ofPart] = [ofPart](TeskElement&) { g_Bomb.Reach(ofPart); };
+        for (const char* owner : {"", " of a part", " of a blip"}) {
+            const std::string place = std::string(event) + owner;
+            Scripts[place] = [place](TeskElement&) { g_Bomb.Reach(place); };
+        }
     }
 }
 

@@ -8,6 +8,7 @@
 #include "teskara/text/TeskTextEdit.h"
 #include "teskara/text/TeskTextEntry.h"
 #include "teskara/text/TextKeys.h"
+#include "teskara/windows/TeskMap.h"
 #include "tests/unit/reentrancy/ForeignElements.h"
 #include "tests/unit/reentrancy/Kinds.h"
 #include "tests/unit/reentrancy/Scene.h"
@@ -460,6 +461,51 @@ void CallSort()
     Tell(Self(), "Sort", {"Compare"});
 }
 
+// Where maps have two blips.
+void EnterBlip()
+{
+    MoveTo(40, 40);
+}
+
+void LeaveBlip()
+{
+    EnterBlip();
+    MoveTo(500, 500);
+}
+
+void FrameUnderBlip()
+{
+    g_UIManager.MousePosition = {40, 40};
+    g_UIManager.Render();
+}
+
+void CallAddBlip()
+{
+    Tell(Self(), "AddBlip", {"c", "10", "10", "0", "8", "A label", "Blip"});
+}
+
+void ReplaceBlip()
+{
+    Tell(Self(), "AddBlip", {"Town"});
+}
+
+void CallRemove()
+{
+    Tell(g_UIManager.FindElement("Town@Self@Parent@Grand"), "Remove");
+}
+
+void ClearBlips()
+{
+    if (auto* map = dynamic_cast<TeskMap*>(Self()))
+        map->ClearBlips();
+}
+
+void DeleteHoveredBlip()
+{
+    EnterBlip();
+    DeleteByID(g_UIManager.MouseOverElementID);
+}
+
 void CallAddText()
 {
     Tell(Self(), "AddText", {"more\nlines"});
@@ -671,6 +717,20 @@ constexpr Place Places[] = {
     {"SizeRecalculated of the child", "AddTab",       HasTabs,       AddTab},
     {"ExecuteAtomForText",   "Sort",                  HasRows,       CallSort},
     {"ParseTypedValue",      "Copy",                  HasTexture,    CallCopyTexture},
+
+    // maps
+    {"OnRender of a blip",   "frame",                 HasBlips,      Frame},
+    {"OnSetTooltip",         "move",                  HoversBlips,   EnterBlip},
+    {"OnSetTooltip",         "frame",                 HoversBlips,   FrameUnderBlip},
+    {"OnMouseEnter of a blip", "move",                HasBlips,      EnterBlip},
+    {"OnMouseExit of a blip", "to nothing",           HasBlips,      LeaveBlip},
+    {"OnLoad of a blip",     "AddBlip",               HasBlips,      CallAddBlip},
+    {"OnLoad of a blip",     "replace",               HasBlips,      ReplaceBlip},
+    {"OnUnload of a blip",   "replace",               HasBlips,      ReplaceBlip},
+    {"OnUnload of a blip",   "Remove",                HasBlips,      CallRemove},
+    {"OnUnload of a blip",   "clear",                 HasBlips,      ClearBlips},
+    {"OnUnload of a blip",   "delete hovered",        HasBlips,      DeleteHoveredBlip},
+    {"OnUnload of a blip",   "delete self",           HasBlips,      DeleteSelf},
 
     // what the parent hears
     {"notification 1",       "click",                 Sends(1),      ClickLeft},

@@ -19,6 +19,13 @@ constexpr i32 InsideSelf = 15;
 constexpr char ScrollBarButtons[] = "<UpButton><X>35</X><Width>10</Width><Height>20</Height></UpButton>"
                                     "<DownButton><X>35</X><Y>20</Y><Width>10</Width><Height>20</Height></DownButton>";
 
+// Of the blips in a map.
+constexpr char BlipTemplate[] =
+    "<Template name='Blip'><BackgroundColor>ff000000</BackgroundColor><Font/><OnLoad>OnLoad of a blip</OnLoad>"
+    "<OnUnload>OnUnload of a blip</OnUnload><OnRender>OnRender of a blip</OnRender>"
+    "<OnSetTooltip>OnSetTooltip</OnSetTooltip><OnMouseEnter>OnMouseEnter of a blip</OnMouseEnter>"
+    "<OnMouseExit>OnMouseExit of a blip</OnMouseExit></Template>";
+
 // A sibling that is high enough to be hit where the scene is empty else.
 std::string SiblingMarkup(const char* name, int x)
 {
@@ -77,7 +84,7 @@ std::string SceneMarkup(const Kind& kind)
     std::string look = "<Template name='Look'><Width>50</Width><StorePosition>1</StorePosition>";
     for (const char* event : EventNames())
         look += std::string("<") + event + ">" + event + "</" + event + ">";
-    look += std::string(ScrollBarButtons) + "</Template><Template name='Deep'/>";
+    look += std::string(ScrollBarButtons) + "</Template><Template name='Deep'/>" + BlipTemplate;
 
     const std::string word = kind.Name;
     const std::string self = "<" + word
