@@ -14,6 +14,9 @@ void InterfaceOptions::AddTo(CLI::App& command)
             },
             "Size of the display (1200x675)")
         ->type_name("WxH");
+    command.add_option("--scale", Scale, "Pixels that are shown for each of the interface (1)")
+        ->check(CLI::Range(0.5f, 8.0f))
+        ->type_name("N");
     command.add_option("--skin", Skin, "A skin: its name in interfaces/skins, or its folder")->type_name("NAME");
     command.add_flag("--trust", Trust, "Give scripts the whole standard library of Lua, with files and processes");
 }

@@ -13,6 +13,7 @@ class App;
 struct InterfaceOptions {
     std::vector<std::string> Files;
     DisplaySize Size;
+    float Scale = 1; // pixels of what is shown for each of the interface
     std::string Skin; // empty for the first one
     bool Trust = false; // scripts may use all of Lua
 

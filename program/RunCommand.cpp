@@ -49,6 +49,7 @@ void WriteAnswer(const std::string& line)
 void RunFrames(host::InterfaceSession& session, host::Window& window, host::LiveReload& live)
 {
     host::InputRouter input(g_UIManager, session.System());
+    input.SetZoom(window.Zoom());
     host::ConsoleWindow console(session);
     input.SetShortcuts([&console](u32 key) { return console.HandleKey(key); });
     host::MouseCursor cursor;
@@ -95,7 +96,7 @@ int Run(const InterfaceOptions& options, bool watch)
         return ExitFailed;
     }
     host::Window window;
-    if (!window.Open("Teskara", options.Size.Width, options.Size.Height)) {
+    if (!window.Open("Teskara", options.Size.Width, options.Size.Height, options.Scale)) {
         std::fprintf(stderr, "teskara: Could not open a window: %s\n", SDL_GetError());
         return ExitFailed;
     }

@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <cmath>
 #include <cstdio>
 #include <memory>
 #include <optional>
@@ -20,7 +21,6 @@ constexpr int LargestPicture = 16384;
 struct ShotOptions : InterfaceOptions {
     std::string Output;
     u32 At = 1000;
-    int Scale = 1;
     std::optional<_Point2i> Mouse;
 };
 
@@ -49,13 +49,13 @@ void DrawMoment(host::InterfaceSession& session, const ShotOptions& options)
         session.Clock().Advance(step);
         elapsed += step;
     }
-    session.DrawFrame(options.Size.Width, options.Size.Height, static_cast<float>(options.Scale));
+    session.DrawFrame(options.Size.Width, options.Size.Height, options.Scale);
 }
 
 int Shoot(const ShotOptions& options)
 {
-    const int width = options.Size.Width * options.Scale;
-    const int height = options.Size.Height * options.Scale;
+    const int width = static_cast<int>(std::lround(static_cast<float>(options.Size.Width) * options.Scale));
+    const int height = static_cast<int>(std::lround(static_cast<float>(options.Size.Height) * options.Scale));
     if (width > LargestPicture || height > LargestPicture) {
         std::fprintf(stderr, "teskara: A picture of %d by %d pixels is too large.\n", width, height);
         return ExitFailed;
@@ -93,9 +93,6 @@ void AddShotCommand(CLI::App& app, int& exitCode)
     shot->add_option("--at", options->At, "Milliseconds after the start (1000)")
         ->check(CLI::Range(0, 600000))
         ->type_name("MILLISECONDS");
-    shot->add_option("--scale", options->Scale, "Pixels of the picture for each of the interface (1)")
-        ->check(CLI::Range(1, 8))
-        ->type_name("N");
     shot->add_option_function<std::string>(
             "--mouse",
             [options](const std::string& text) {

@@ -135,7 +135,8 @@ void InputRouter::HandleWindow(const SDL_WindowEvent& window)
 
 void InputRouter::MoveMouse(int x, int y)
 {
-    _Point2i position = {x, y};
+    _Point2i position = {static_cast<i32>(std::floor(static_cast<float>(x) / m_Zoom)),
+        static_cast<i32>(std::floor(static_cast<float>(y) / m_Zoom))};
     m_Manager.OnMouseMove(position);
 }
 

@@ -25,6 +25,9 @@ public:
     using Shortcuts = std::function<bool(u32 key)>;
     void SetShortcuts(Shortcuts shortcuts) { m_Shortcuts = std::move(shortcuts); }
 
+    // How many units of SDL's a pixel of the interface is.
+    void SetZoom(float zoom) { m_Zoom = zoom; }
+
     // Takes one event. Events that are no input are passed over.
     void Handle(const SDL_Event& event);
 
@@ -40,6 +43,7 @@ private:
     CUIManager& m_Manager;
     HostPlatform& m_Platform;
     Shortcuts m_Shortcuts;
+    float m_Zoom = 1;
     float m_WheelRest = 0;
 };
 

@@ -1,6 +1,7 @@
 #include "host/display/Window.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace host {
 
@@ -19,14 +20,16 @@ Window::~Window()
         SDL_DestroyWindow(m_Window);
 }
 
-bool Window::Open(const char* title, int width, int height)
+bool Window::Open(const char* title, int width, int height, float zoom)
 {
     constexpr Uint32 flags = SDL_WINDOW_RESIZABLE | SDL_WINDOW_ALLOW_HIGHDPI | SDL_WINDOW_HIDDEN;
-    m_Window = SDL_CreateWindow(title, SDL_WINDOWPOS_CENTERED, SDL_WINDOWPOS_CENTERED, width, height, flags);
+    m_Zoom = zoom;
+    m_Window = SDL_CreateWindow(
+        title, SDL_WINDOWPOS_CENTERED, SDL_WINDOWPOS_CENTERED, ToDesktop(width), ToDesktop(height), flags);
     if (!m_Window)
         return false;
 
-    SDL_SetWindowMinimumSize(m_Window, SmallestWidth, SmallestHeight);
+    SDL_SetWindowMinimumSize(m_Window, ToDesktop(SmallestWidth), ToDesktop(SmallestHeight));
     m_Renderer = SDL_CreateRenderer(m_Window, -1, SDL_RENDERER_ACCELERATED | SDL_RENDERER_PRESENTVSYNC);
     if (!m_Renderer)
         m_Renderer = SDL_CreateRenderer(m_Window, -1, SDL_RENDERER_SOFTWARE);
@@ -48,22 +51,35 @@ int Window::Width() const
 {
     int width = 0;
     SDL_GetWindowSize(m_Window, &width, nullptr);
-    return width;
+    return FromDesktop(width);
 }
 
 int Window::Height() const
 {
     int height = 0;
     SDL_GetWindowSize(m_Window, nullptr, &height);
-    return height;
+    return FromDesktop(height);
 }
 
 float Window::Scale() const
 {
     int pixels = 0;
+    int width = 0;
     if (SDL_GetRendererOutputSize(m_Renderer, &pixels, nullptr) != 0)
-        return 1;
-    return std::max(1.0f, static_cast<float>(pixels) / static_cast<float>(std::max(1, Width())));
+        return m_Zoom;
+
+    SDL_GetWindowSize(m_Window, &width, nullptr);
+    return m_Zoom * std::max(1.0f, static_cast<float>(pixels) / static_cast<float>(std::max(1, width)));
+}
+
+int Window::ToDesktop(int pixels) const
+{
+    return static_cast<int>(std::lround(static_cast<float>(pixels) * m_Zoom));
+}
+
+int Window::FromDesktop(int units) const
+{
+    return static_cast<int>(std::lround(static_cast<float>(units) / m_Zoom));
 }
 
 bool Window::IsHidden() const

@@ -13,8 +13,9 @@ public:
     Window(const Window&) = delete;
     Window& operator=(const Window&) = delete;
 
-    // Opens the window, not yet shown. size in pixels of the interface. False: SDL_GetError says why.
-    bool Open(const char* title, int width, int height);
+    // Opens the window, not yet shown. Its size is in pixels of the interface, each of which is zoom units of the desktop.
+    // False: SDL_GetError says why.
+    bool Open(const char* title, int width, int height, float zoom);
     void Show();
 
     SDL_Renderer* Target() const { return m_Renderer; }
@@ -23,6 +24,9 @@ public:
     int Width() const;
     int Height() const;
     float Scale() const;
+
+    // How many units of the desktop, in which SDL tells where the mouse is, a pixel of the interface is.
+    float Zoom() const { return m_Zoom; }
 
     // Whether presenting waits for the display.
     bool WaitsForDisplay() const { return m_WaitsForDisplay; }
@@ -33,8 +37,12 @@ public:
     void Present();
 
 private:
+    int ToDesktop(int pixels) const;
+    int FromDesktop(int units) const;
+
     SDL_Window* m_Window = nullptr;
     SDL_Renderer* m_Renderer = nullptr;
+    float m_Zoom = 1;
     bool m_WaitsForDisplay = false;
 };
 
