@@ -24,7 +24,7 @@ const LibraryRow Libraries[] = {
             "tointeger", "type", "ult"}},
     {"os", luaopen_os, {"clock", "date", "difftime", "time"}},
     {"string", luaopen_string,
-        {"byte", "char", "format", "len", "lower", "pack", "packsize", "reverse", "unpack", "upper"}},
+        {"byte", "char", "format", "len", "lower", "pack", "packsize", "reverse", "sub", "unpack", "upper"}},
     {"table", luaopen_table, {"pack"}},
     {"utf8", luaopen_utf8, {"char", "charpattern", "codepoint", "codes", "len", "offset"}},
 };
