@@ -227,41 +227,30 @@ void ScriptEngine::InvalidateTransientObject2(u32, void* object)
     Invalidate(object);
 }
 
-// A query is an expression in which the object is this.
 u32 ScriptEngine::CreateQuery(MvTypeDefinition*, const char* text, u32)
 {
-    const ScriptCall call(m_State);
-    auto query = std::make_shared<Query>();
-    query->Function = LuaReference(m_State, m_State.Compile("local this = ...; return ", text, "=query"));
-    if (query->Function.Number() == LUA_NOREF) {
+    auto query = std::make_shared<ScriptQuery>(m_State, Values);
+    if (!query->Compile(text)) {
         SayError("query");
         return 0;
     }
-    m_Queries[++m_LastQuery] = query;
+    m_Queries[++m_LastQuery] = std::move(query);
     return m_LastQuery;
 }
 
+// The query may be freed by what it runs.
 bool ScriptEngine::EvaluateQuery(u32 id, _MvTypeVar& object, bool& result)
 {
     const auto found = m_Queries.find(id);
     if (found == m_Queries.end())
         return false;
 
-    const std::shared_ptr<Query> query = found->second;
-    const ScriptCall call(m_State);
-    const bool isReady = m_State.Protect([&](lua_State* thread) {
-        query->Function.Push(thread);
-        Values.Push(thread, object);
-    });
-    if (!isReady || !m_State.Call(1, 1)) {
-        if (!std::exchange(query->IsErrorSaid, true))
-            SayError("query");
-        return false;
-    }
-    lua_State* thread = m_State.Thread();
-    result = lua_toboolean(thread, -1) && !(lua_isnumber(thread, -1) && lua_tonumber(thread, -1) == 0);
-    lua_pop(thread, 1);
-    return true;
+    const std::shared_ptr<ScriptQuery> query = found->second;
+    if (query->Ask(object, result))
+        return true;
+    if (query->TakeNews())
+        SayError("query");
+    return false;
 }
 
 void ScriptEngine::FreeQuery(u32 query)

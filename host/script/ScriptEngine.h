@@ -12,6 +12,7 @@
 #include "host/script/ScriptGlobals.h"
 #include "host/script/ScriptIndexes.h"
 #include "host/script/ScriptObjects.h"
+#include "host/script/ScriptQuery.h"
 #include "host/script/ScriptTasks.h"
 #include "host/script/ScriptValues.h"
 #include "host/script/TopLevelObjects.h"
@@ -65,11 +66,6 @@ public:
     void FreeQuery(u32 query) override;
 
 private:
-    struct Query {
-        LuaReference Function;
-        bool IsErrorSaid = false;
-    };
-
     int ExecuteWords(std::vector<std::string> words);
     void AddFunctions(lua_State* thread);
     void FillMetatable(lua_State* thread, MvTypeDefinition& type);
@@ -107,7 +103,7 @@ private:
     IndexType m_IndexType;
     IndexAccess m_IndexAccess;
     FrameVariables m_FrameVariables;
-    std::unordered_map<u32, std::shared_ptr<Query>> m_Queries;
+    std::unordered_map<u32, std::shared_ptr<ScriptQuery>> m_Queries;
     std::deque<std::string> m_TempTexts; // the latest ones
     std::size_t m_TempBytes = 0;
     u32 m_LastQuery = 0;
