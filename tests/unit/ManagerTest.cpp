@@ -255,6 +255,20 @@ TEST_F(ManagerTest, AHiddenElementKeepsThePressThatItTook)
     EXPECT_EQ("click:a ", TakeEvents());
 }
 
+// --- The frame
+
+TEST_F(ManagerTest, AFrameBeginsInTheCornerOfTheSurface)
+{
+    Load(R"(<frame name="A"><X>10</X><Y>20</Y></frame>)");
+    g_UIManager.Screen->AbsoluteX = 5;
+    g_UIManager.Screen->AbsoluteY = 6;
+    Frame();
+    EXPECT_EQ(0, g_UIManager.Screen->AbsoluteX);
+    EXPECT_EQ(0, g_UIManager.Screen->AbsoluteY);
+    EXPECT_EQ(10, Element("A").AbsoluteX);
+    EXPECT_EQ(20, Element("A").AbsoluteY);
+}
+
 // --- The host's resources
 
 TEST_F(ManagerTest, ResourcesGoStraightToTheHost)
