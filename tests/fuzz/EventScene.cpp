@@ -38,6 +38,7 @@ constexpr char Values[] =
     "<frame name='in' Template='all'><Width>30</Width><Height>30</Height></frame>"
     "<slider name='s' Template='all'><Width>100%</Width><Height>20</Height></slider></Tab><Tab Name='c'/>"
     "<Tab Name='in'><listbox name='l' Template='all'><Width>50</Width><Height>r10</Height></listbox></Tab></Tabs>"
+    "<MapSizeX>100</MapSizeX><MapSizeY>80</MapSizeY><ShowLabels/><BlipTemplate>all</BlipTemplate>"
     "<Template>all</Template><StorePosition>1</StorePosition><FadeDuration>40</FadeDuration><FadeAlpha>0.5</FadeAlpha>";
 
 // What an element reads from its own markup alone.

@@ -5,6 +5,7 @@
 #include "teskara/element/TeskScreen.h"
 #include "teskara/script/MvTypeDefinition.h"
 #include "tests/fuzz/DialogActs.h"
+#include "tests/fuzz/MapActs.h"
 
 #include <array>
 #include <climits>
@@ -54,7 +55,8 @@ constexpr const char* MemberWords[] = {"Name", "Parent", "Children", "Next", "Pr
     "Checked", "Down", "Group", "Visible", "Nonsense", "NumLines", "Type", "AbsoluteAlpha", "Range", "Value",
     "Vertical", "HandleTexture", "Item", "OrderedItem", "ItemByText", "ItemByValue", "SelectedItem", "SelectedItems",
     "SortType", "Order", "Selection", "Title", "Minimized", "ClickFocus", "IsResizable", "ScrollbackTexture",
-    "SelectedTab", "Tab", "Tabs", "TabTexture", "TabSelectedTexture"};
+    "SelectedTab", "Tab", "Tabs", "TabTexture", "TabSelectedTexture", "Blip", "NextBlip", "Blips", "Location", "Label",
+    "Origin", "ZClipping", "BlipTemplate"};
 
 constexpr const char* MethodWords[] = {"Destroy", "AddChild", "SetZOrder", "SetStrata", "SetWidth", "SetHeight", "Hide",
     "ToggleVisible", "SetFocus", "LeftClick", "LeftMouseDown", "LeftMouseUp", "RightClick", "RightMouseDown",
@@ -64,7 +66,8 @@ constexpr const char* MethodWords[] = {"Destroy", "AddChild", "SetZOrder", "SetS
     "SetValue", "RaiseValue", "LowerValue", "SetSortType", "SetSelectMultiple", "DeselectItem", "SelectItem",
     "ItemToggleSelect", "ClearSelection", "AddItem", "RemoveItem", "ClearItems", "SetItemText", "SetItemColor", "Sort",
     "Select", "Deselect", "Toggle", "Remove", "SetSelection", "SetTitle", "Minimize", "Unminimize", "ToggleMinimize",
-    "SetClickFocus", "Echo", "Clear", "AddText", "AddTab", "Move", "Rename"};
+    "SetClickFocus", "Echo", "Clear", "AddText", "AddTab", "Move", "Rename", "AddBlip", "SetOrigin", "SetRotation",
+    "SetMapSize", "ToggleZClipping", "ToggleLabels", "SetLabel", "SetCustom"};
 
 constexpr const char* ArgumentWords[] = {"", "frame", "top", "Button", "-1", "4294967295", "1e30", "nan", "${x}",
     "HitTest", "widthCircle", "<frame><OnLoad>0</OnLoad></frame>", "<text><Text>${x}</Text></text>", "all", "#camera",
@@ -263,6 +266,7 @@ constexpr HostileAct Acts[] = {
     {"end the menus",      [](TeskElement&, u8) { EndFuzzMenus(); }},
     {"show a box",         [](TeskElement&, u8 argument) { ShowFuzzBox(argument); }},
     {"end the script",     [](TeskElement&, u8) { EndFuzzScript(); }},
+    {"feed a map",         FeedFuzzMap},
 };
 // clang-format on
 static_assert(std::size(Acts) <= HostileActMask + 1u);

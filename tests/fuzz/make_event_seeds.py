@@ -113,6 +113,9 @@ SEEDS = {
     + arm("OnKeyDown", "call own method", METHODS.index("Clear"), MANY) + b"".join(
         step("focus", element) + b"".join(step("key down", key) for key in (13, 65, 40, 34, 38, 8, 46, 35)) + FRAME
         for element in range(2, 30)),
+    "blips": b"\0" + b"".join(act(0, "feed a map", n) for n in (*range(8), 16, 20, 24)) + FRAME
+    + b"".join(arm(place, "feed a map", n, MANY) + act(0, "feed a map", n + 4) + FRAME
+               for place in ("OnLoad", "OnUnload", "OnRender") for n in range(0, 32, 4)) + TOUR,
     "commands": b"\15" + arm("ExecuteCommand", "delete self") + arm("SetOutputConsole", "delete another", 5)
     + arm("Calculate", "delete another", 4) + TOUR + step("move", OVER_SECOND) + TOUR,
     "throwing": b"\16" + b"".join(arm(place, "throw") for place in PLACES) + LOAD + TOUR
