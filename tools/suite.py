@@ -172,7 +172,7 @@ def pictures(tally, preset):
 
 
 def installed_copy(tally):
-    say("an installed copy: the program starts from it, and a client builds against it")
+    say("an installed copy: the program starts from it, a client and the example build against it")
     prefix, client = ROOT / "build/installed", ROOT / "build/installed_client"
     if not check(tally, "install", ["cmake", "--install", "build/dev", "--prefix", prefix]):
         return
@@ -181,6 +181,13 @@ def installed_copy(tally):
              ["cmake", "-S", "tests/installed", "-B", client, "-G", "Ninja", f"-DCMAKE_PREFIX_PATH={prefix}"]):
         check(tally, "build of a client", ["cmake", "--build", client])
         check(tally, "run of a client", [client / "client"])
+    example = ROOT / "build/minimal_host"
+    font = "/usr/share/fonts/truetype/dejavu/DejaVuSans.ttf"
+    if check(tally, "example against an installed copy", ["cmake", "-S", "examples/minimal_host", "-B", example, "-G", "Ninja",
+                                                          f"-DCMAKE_PREFIX_PATH={prefix}"]):
+        check(tally, "build of the example", ["cmake", "--build", example])
+        check(tally, "run of the example", ["env", "SDL_VIDEODRIVER=offscreen", "SDL_RENDER_DRIVER=software",
+                                            example / "minimal_host", "examples/minimal_host/hello.xml", font, "20"])
 
 
 def behaviour(tally, preset, with_pictures):
