@@ -1,0 +1,129 @@
+#include "teskara/core/CUIManager.h"
+#include "teskara/element/TeskElement.h"
+#include "teskara/element/TeskElementFactory.h"
+#include "teskara/element/TeskScreen.h"
+#include "teskara/markup/XMLHelper.h"
+#include "tests/unit/ToolkitTest.h"
+
+#include <memory>
+#include <string>
+#include <utility>
+
+namespace {
+
+std::string g_Diary;
+
+void Write(const std::string& what, const TeskElement& element)
+{
+    g_Diary += what + " " + element.Name + "\n";
+}
+
+// Writes down what happens to it. Its markup is refused if it says so.
+class Diarist : public TeskElement
+{
+public:
+    Diarist(const char* type, TeskElement* parent, const char* name) : TeskElement(type, parent, name)
+    {
+        Write("made", *this);
+    }
+
+    ~Diarist() override { Write("ended", *this); }
+
+    bool FromXML(XMLNode* node, XMLNode* templateNode) override
+    {
+        Write("read", *this);
+        return TeskElement::FromXML(node, templateNode) && !XMLHelper::GetChild(node, "Refuse");
+    }
+
+    void SizeRecalculated(bool changed) override { Write(changed ? "sized" : "not sized", *this); }
+    void OnCreate() override { Write("created", *this); }
+    void OnDestroy() override { Write("destroyed", *this); }
+
+    void OnNotify(TeskElement* source, unsigned int code, unsigned long long value) override
+    {
+        Write(std::to_string(code) + " of " + source->Name + " to", *this);
+        TeskElement::OnNotify(source, code, value);
+    }
+};
+
+class ElementLifeTest : public ToolkitTest
+{
+protected:
+    ElementLifeTest()
+    {
+        g_Diary.clear();
+        for (const char* event : {"load", "unload"})
+            Host.Scripts[event] = [event](TeskElement& self) { Write(event, self); };
+        Host.KeepPosition = [](TeskElement& element) { Write("stored", element); };
+    }
+
+    static std::string TakeDiary() { return std::exchange(g_Diary, {}); }
+
+    static std::string Markup(const char* name, const std::string& inside = {})
+    {
+        return std::string("<diarist name='") + name
+            + "'><Width>100%</Width><StorePosition>1</StorePosition><OnLoad>load</OnLoad><OnUnload>unload</OnUnload>"
+            + inside + "</diarist>";
+    }
+
+    std::unique_ptr<TeskFactory<Diarist>> Factory = std::make_unique<TeskFactory<Diarist>>("diarist");
+};
+
+} // namespace
+
+TEST_F(ElementLifeTest, ChildrenAreCompleteBeforeTheirParentIsSizedAndCreated)
+{
+    Load(Markup("P", "<Children>" + Markup("C") + "</Children>"));
+    EXPECT_EQ("made p\nread p\nmade c\nread c\nnot sized c\ncreated c\nload c\nsized p\nsized c\ncreated p\nload p\n",
+        TakeDiary());
+}
+
+TEST_F(ElementLifeTest, AnElementWithoutMarkupIsSizedAndCreatedAndReadsNothing)
+{
+    g_UIManager.LoadElement(g_UIManager.Screen, "diarist", "A");
+    EXPECT_EQ("made a\nnot sized a\ncreated a\n", TakeDiary());
+}
+
+TEST_F(ElementLifeTest, AParentGoesAheadOfItsChildren)
+{
+    Load(Markup("P", "<Children>" + Markup("C") + Markup("D") + "</Children>"));
+    TakeDiary();
+    Element("P").Delete();
+    EXPECT_EQ("unload p\nstored p\ndestroyed p\nended p\n"
+              "unload c\nstored c\ndestroyed c\nended c\nunload d\nstored d\ndestroyed d\nended d\n",
+        TakeDiary());
+}
+
+TEST_F(ElementLifeTest, AParentHearsOfAChildThatHasEnded)
+{
+    Load(Markup("P", "<Children>" + Markup("C") + "</Children>"));
+    TakeDiary();
+    Element("P").DeleteChild(&Element("C@P"));
+    EXPECT_EQ("unload c\nstored c\ndestroyed c\nended c\n51 of c to p\n", TakeDiary());
+}
+
+TEST_F(ElementLifeTest, TheEndOfAKindDestroysEachElementTwice)
+{
+    Load(Markup("A") + Markup("B"));
+    TakeDiary();
+    Factory.reset();
+    EXPECT_EQ("destroyed a\nunload a\nstored a\ndestroyed a\nended a\n"
+              "destroyed b\nunload b\nstored b\ndestroyed b\nended b\n",
+        TakeDiary());
+    EXPECT_EQ(nullptr, g_UIManager.FindFactory("diarist"));
+}
+
+TEST_F(ElementLifeTest, AnElementThatDoesNotReadItsMarkupIsRemovedAndHasNoChildren)
+{
+    Load(Markup("P", "<Refuse/><Children>" + Markup("C") + "</Children>"));
+    EXPECT_EQ("made p\nread p\nunload p\nstored p\ndestroyed p\nended p\n", TakeDiary());
+    EXPECT_EQ("PrintLine \"CreateUIElement failed on 'P' under 'screen'\"\n", Host.TakeCalls());
+}
+
+TEST_F(ElementLifeTest, OneWithoutAParentIsRemovedAsWell)
+{
+    XMLNode* node = g_UIManager.AddTemplate("t", "<Template><Refuse/></Template>");
+    EXPECT_EQ(nullptr, Factory->Create(nullptr, "A", node, nullptr));
+    EXPECT_EQ("made a\nread a\ndestroyed a\nended a\n", TakeDiary());
+    EXPECT_EQ(nullptr, g_UIManager.FindElement("A"));
+}
