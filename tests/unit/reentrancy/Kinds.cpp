@@ -1,5 +1,6 @@
 #include "tests/unit/reentrancy/Kinds.h"
 
+#include "teskara/collections/TeskTree.h"
 #include "teskara/core/CUIManager.h"
 #include "teskara/element/TeskElement.h"
 #include "teskara/element/TeskScreen.h"
@@ -25,8 +26,10 @@ constexpr u64 IsGauge = IsFrame | HasValue;
 constexpr u64 IsSlider = Follows | PassesOn | Sends(4) | RunsOnChange | HasHandle | HasValue | HasTexture;
 constexpr u64 IsVariableSlider = IsSlider | EvaluatesText | ExpandsText;
 constexpr u64 IsScrollBar = Follows | Sends(4) | RunsOnChange | HasButtons | HasValue;
-constexpr u64 IsListBox = Follows | Sends(9) | Sends(12) | Sends(13) | RunsOnSelect | HasRows | NamesRows
+constexpr u64 IsListBox = Follows | Sends(9) | Sends(12) | Sends(13) | RunsOnSelect | PressSelects | HasRows | NamesRows
     | ScriptsScroll | HasFont | HasTexture;
+constexpr u64 IsTree =
+    Follows | Sends(11) | RunsOnSelect | PressSelects | HasNodes | ScriptsScroll | HasFont | HasTexture | SetsTexture;
 constexpr u64 IsComboBox =
     Follows | Sends(9) | RunsOnSelect | DropsList | FocusedByPress | NamesRows | HasFont | HasTexture;
 constexpr u64 IsField = Follows | PassesOn | Sends(3) | TakesKeys | EditsText | FocusedByPress | SetsText | HasTexture;
@@ -79,6 +82,28 @@ constexpr char TabControlMarkup[] =
     "<frame name='In'><Width>3</Width><OnLoad>OnLoad of a part</OnLoad><OnUnload>OnUnload of a part</OnUnload>"
     "<OnRender>OnRender of a part</OnRender></frame><foreign name='Inside'><Width>3</Width><Height>r30</Height>"
     "</foreign></Tab><Tab Name='b'/><Tab Name='c'/></Tabs>";
+
+// Four of the six rows show; from where the mouse goes they have their texts.
+constexpr char TreeMarkup[] =
+    "<Texture Filename='#a'/><ItemHeight>10</ItemHeight><IndentPerDepth>1</IndentPerDepth><ImageTexture Filename='#b'/>"
+    "<OnSelect>OnSelect</OnSelect><OnDeSelect>OnDeSelect</OnDeSelect><ScrollBar><X>40</X><Width>10</Width>"
+    "<Height>50</Height><Slider><Width>10</Width><Height>50</Height><Vertical/><OnChange>OnChange</OnChange></Slider>"
+    "</ScrollBar>";
+
+// The node that is selected lies below the first one.
+void PrepareTree()
+{
+    auto* tree = dynamic_cast<TeskTree*>(Self());
+    for (const char* text : {"a", "b", "c", "d"}) {
+        if (tree && tree->Root)
+            tree->Root->AddChild(text, 0);
+    }
+    if (!tree || !tree->Root)
+        return;
+
+    TeskTreeNode* first = tree->Root->FirstChild;
+    first->AddChild("e", 0)->AddChild("f", 0)->Select();
+}
 
 constexpr char TextEntryMarkup[] = "<MaxLength>20</MaxLength><Texture Filename='#a'/><TextureFocused Filename='#b'/>"
                                    "<Border>1</Border><OnChange>OnChange</OnChange>";
@@ -189,6 +214,7 @@ constexpr Kind Kinds[] = {
     {"scrollbar",       IsScrollBar,                           ScrollBarMarkup, nullptr},
     {"listbox",         IsListBox,                             ListBoxMarkup,   nullptr},
     {"combobox",        IsComboBox,                            ComboBoxMarkup,  nullptr},
+    {"tree",            IsTree,                                TreeMarkup,      PrepareTree},
     {"textentry",       IsField | Sends(5),                    TextEntryMarkup, nullptr},
     {"commandentry",    IsField | EntersLines,                 CommandEntryMarkup, nullptr},
     {"console",         IsConsole,                             ConsoleMarkup,   PrepareConsole},

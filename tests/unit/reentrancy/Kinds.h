@@ -27,6 +27,7 @@ enum Trait : u64 {
     HasHandle = u64{1} << 37, // a press sets the value
     HasButtons = u64{1} << 38, // its parts change the value by steps, as scripts may
     HasRows = u64{1} << 39, // selects, drags and scrolls rows
+    PressSelects = u64{1} << 59, // a press selects a row
     NamesRows = u64{1} << 40, // its type knows the operations on rows, even if it has none
     DropsList = u64{1} << 41, // opens a list with rows
     RunsOnSelect = u64{1} << 42, // a script for the selection
@@ -46,6 +47,7 @@ enum Trait : u64 {
     UnloadsParts = u64{1} << 58, // its parts run scripts as it goes itself
     HoversBlips = u64{1} << 60, // shows blips, whose scripts run as the mouse comes and as they are drawn
     HasBlips = u64{1} << 61, // a map, which adds, removes and replaces them
+    HasNodes = u64{1} << 62, // a tree, which takes every release for the left one's
 };
 
 // It tells its parent so, of its own accord or for others.

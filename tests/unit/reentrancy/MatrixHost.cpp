@@ -17,6 +17,18 @@ bool MatrixScripts::ParseTypedValue(const char*, _MvTypeVar& result, u32)
     return AskSelf("Texture", result);
 }
 
+u32 MatrixScripts::CreateQuery(MvTypeDefinition*, const char*, u32)
+{
+    g_Bomb.Reach("CreateQuery");
+    return 1;
+}
+
+bool MatrixScripts::EvaluateQuery(u32, _MvTypeVar&, bool&)
+{
+    g_Bomb.Reach("EvaluateQuery");
+    return true;
+}
+
 MatrixHost::MatrixHost()
 {
     Recorded = 0;

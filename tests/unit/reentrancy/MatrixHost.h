@@ -15,8 +15,8 @@ public:
     char* MakeTempBuffer(std::size_t, const char*) override { return nullptr; }
     u32 RegisterTransientClass2(const char*) override { return 1; }
     void InvalidateTransientObject2(u32, void*) override { }
-    u32 CreateQuery(MvTypeDefinition*, const char*, u32) override { return 0; }
-    bool EvaluateQuery(u32, _MvTypeVar&, bool&) override { return false; }
+    u32 CreateQuery(MvTypeDefinition* owner, const char* text, u32 extra) override;
+    bool EvaluateQuery(u32 query, _MvTypeVar& object, bool& result) override;
     void FreeQuery(u32) override { }
 };
 

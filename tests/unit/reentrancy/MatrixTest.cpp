@@ -25,7 +25,7 @@ bool HasTraits(const Kind& kind, u64 traits)
 
 bool Reaches(const Kind& kind, const Place& place)
 {
-    return HasTraits(kind, place.Needs);
+    return HasTraits(kind, place.Needs) && (kind.Traits & place.Unless) == 0;
 }
 
 class ReentrancyMatrix : public ToolkitTest, public testing::WithParamInterface<Kind>

@@ -1,6 +1,7 @@
 #include "tests/unit/reentrancy/Places.h"
 
 #include "teskara/collections/TeskTabControl.h"
+#include "teskara/collections/TeskTree.h"
 #include "teskara/core/CUIManager.h"
 #include "teskara/element/TeskElement.h"
 #include "teskara/markup/XMLNode.h"
@@ -430,6 +431,9 @@ void TurnWheelDown()
 
 void OpenAndPickRow()
 {
+    if (dynamic_cast<TeskTree*>(Self()))
+        return; // a press selects its nodes anyway
+
     ClickLeft();
     g_UIManager.Render();
     MoveTo(15, 80);
@@ -577,6 +581,36 @@ void RestMouse()
     g_UIManager.Render();
 }
 
+// --- Trees
+
+void CallSelectRoot()
+{
+    TellPart(Self(), "Root", "Select", {});
+}
+
+void CallRemoveSelection()
+{
+    TellPart(Self(), "Selection", "Remove", {});
+}
+
+void CallRemoveAllNodes()
+{
+    TellPart(Self(), "Root", "RemoveChildren", {});
+}
+
+void AddNodesAndDraw()
+{
+    for (int count = 0; count < 5; ++count)
+        TellPart(Self(), "Root", "AddChild", {"new"});
+    g_UIManager.Render();
+}
+
+void CallGetNode()
+{
+    if (auto* tree = dynamic_cast<TeskTree*>(Self()))
+        tree->FindNodeByQuery("text");
+}
+
 // clang-format off
 constexpr Place Places[] = {
     // what an element says and does as it comes
@@ -590,7 +624,7 @@ constexpr Place Places[] = {
     {"OnLoad",               "load",                  EveryKind,     Load},
     {"OnLoad of a part",     "load",                  LoadsParts,    Load},
     {"OnUnload of a part",   "load",                  LoadsParts,    Load},
-    {"OnSelect",             "load",                  RunsOnSelect,  Load},
+    {"OnSelect",             "load",                  RunsOnSelect,  Load, HasNodes},
     {"OnChange",             "load",                  ScriptsScroll, Load},
     {"PrintLine",            "load",                  EveryKind,     Load},
     {"PrintLine of a script", "load",                 EveryKind,     Load},
@@ -638,7 +672,8 @@ constexpr Place Places[] = {
     {"OnLeftClick",          "click",                 EveryKind,     ClickLeft},
     {"OnLeftClick",          "release elsewhere",     EveryKind,     ReleaseElsewhere},
     {"OnRightDown",          "click",                 EveryKind,     ClickRight},
-    {"OnRightClick",         "click",                 EveryKind,     ClickRight},
+    {"OnRightClick",         "click",                 EveryKind,     ClickRight, HasNodes},
+    {"OnLeftClick",          "right click",           HasNodes,      ClickRight},
     {"OnDoubleLeftClick",    "double click",          EveryKind,     DoubleClickLeft},
     {"OnDoubleRightClick",   "double click",          EveryKind,     DoubleClickRight},
     {"refused double click", "double click",          IsForeign,     DoubleClickLeft},
@@ -649,8 +684,8 @@ constexpr Place Places[] = {
     {"OnChange",             "drag",                  RunsOnChange | HasHandle, DragMouse},
     {"OnChange",             "press to the right",    RunsOnChange,  PressToTheRight},
     {"DataParse",            "press",                 ExpandsText | HasHandle, ClickLeft},
-    {"OnSelect",             "press",                 HasRows,       PressAnotherRow},
-    {"OnDeSelect",           "press",                 HasRows,       PressAnotherRow},
+    {"OnSelect",             "press",                 PressSelects,  PressAnotherRow},
+    {"OnDeSelect",           "press",                 PressSelects,  PressAnotherRow},
     {"OnChange",             "wheel",                 ScriptsScroll, TurnWheelDown},
     {"OnChange",             "press",                 EditsLines,    PressAnotherLine},
     {"OnChange",             "wheel",                 HasLines,      TurnWheel},
@@ -697,7 +732,7 @@ constexpr Place Places[] = {
     {"OnUnload",             "Destroy",               EveryKind,     CallDestroy},
     {"OnLeftDown",           "LeftClick",             EveryKind,     CallLeftClick},
     {"OnLeftClick",          "LeftClick",             EveryKind,     CallLeftClick},
-    {"OnRightClick",         "RightClick",            EveryKind,     CallRightClick},
+    {"OnRightClick",         "RightClick",            EveryKind,     CallRightClick, HasNodes},
     {"OnKeyboardEnter",      "SetFocus",              EveryKind,     CallSetFocus},
     {"OnLoad",               "AddChild",              EveryKind,     CallAddChild},
     {"SizeRecalculated",     "SetHeight",             IsForeign,     CallSetHeightOfParent},
@@ -717,6 +752,18 @@ constexpr Place Places[] = {
     {"SizeRecalculated of the child", "AddTab",       HasTabs,       AddTab},
     {"ExecuteAtomForText",   "Sort",                  HasRows,       CallSort},
     {"ParseTypedValue",      "Copy",                  HasTexture,    CallCopyTexture},
+
+    // trees
+    {"OnSelect",             "Select",                HasNodes,      CallSelectRoot},
+    {"OnDeSelect",           "Select",                HasNodes,      CallSelectRoot},
+    {"OnDeSelect",           "Remove",                HasNodes,      CallRemoveSelection},
+    {"OnDeSelect",           "RemoveChildren",        HasNodes,      CallRemoveAllNodes},
+    {"OnDeSelect",           "delete self",           HasNodes,      DeleteSelf},
+    {"OnDeSelect",           "delete grandparent",    HasNodes,      DeleteGrandparent},
+    {"OnDeSelect",           "reset",                 HasNodes,      ResetAll},
+    {"OnChange",             "frame with new nodes",  HasNodes,      AddNodesAndDraw},
+    {"CreateQuery",          "GetNode",               HasNodes,      CallGetNode},
+    {"EvaluateQuery",        "GetNode",               HasNodes,      CallGetNode},
 
     // maps
     {"OnRender of a blip",   "frame",                 HasBlips,      Frame},

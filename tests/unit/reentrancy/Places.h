@@ -11,6 +11,7 @@ struct Place {
     const char* Way; // tells the ways to one place apart
     u64 Needs; // traits of the kinds that reach it: all of these, and no other kind does
     void (*Drive)();
+    u64 Unless = 0; // no kind with one of these traits reaches it
 };
 
 std::span<const Place> AllPlaces();
