@@ -1,4 +1,4 @@
-// What docs/scripts.md shows works.
+// What the pages in docs/ show works.
 
 #include "teskara/core/CUIManager.h"
 #include "teskara/element/TeskElement.h"
@@ -6,18 +6,25 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <regex>
 #include <string>
 #include <vector>
 
 namespace {
 
-// The blocks of the page in a language.
-std::vector<std::string> Blocks(const std::string& language)
+std::string Read(const std::filesystem::path& path)
 {
-    std::ifstream page(TESKARA_SCRIPTS_PAGE);
-    const std::string text(std::istreambuf_iterator<char>(page), {});
+    std::ifstream file(path);
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+// The blocks of a page in a language.
+std::vector<std::string> Blocks(const std::string& page, const std::string& language)
+{
+    const std::string text = Read(std::filesystem::path(TESKARA_DOCS) / page);
     const std::string opening = "```" + language + '\n';
     std::vector<std::string> blocks;
     for (std::size_t at = text.find(opening); at != text.npos; at = text.find(opening, at)) {
@@ -27,9 +34,22 @@ std::vector<std::string> Blocks(const std::string& language)
     return blocks;
 }
 
+std::vector<std::filesystem::path> TutorialFiles()
+{
+    std::vector<std::filesystem::path> files;
+    for (const auto& entry : std::filesystem::directory_iterator(TESKARA_DOCS "/tutorial"))
+        files.push_back(entry.path());
+    return files;
+}
+
+std::string WithoutIndentation(const std::string& text)
+{
+    return std::regex_replace(text, std::regex("\n *"), "\n");
+}
+
 TEST(HostedDocumentDeathTest, InterfacesLoadAndAnswerWithoutALine)
 {
-    const std::vector<std::string> blocks = Blocks("xml");
+    const std::vector<std::string> blocks = Blocks("scripts.md", "xml");
     ASSERT_EQ(4u, blocks.size());
     WithInterface([&](HostedInterface& ui) {
         for (const std::string& block : blocks) {
@@ -49,7 +69,7 @@ TEST(HostedDocumentDeathTest, InterfacesLoadAndAnswerWithoutALine)
 
 TEST(HostedDocumentDeathTest, ScriptFilesRun)
 {
-    const std::vector<std::string> blocks = Blocks("lua");
+    const std::vector<std::string> blocks = Blocks("scripts.md", "lua");
     ASSERT_EQ(2u, blocks.size());
     WithInterface([&](HostedInterface& ui) {
         ui.Host().ExecuteCommand(("run " + ui.Write("demo.lua", blocks[0])).c_str());
@@ -58,6 +78,37 @@ TEST(HostedDocumentDeathTest, ScriptFilesRun)
         EXPECT_EQ("demo.lua: step 1\ndemo.lua: step 2\ndemo.lua: step 3\n", ui.Lines());
         EXPECT_EQ(0u, ui.Scripts().Tasks.Count());
     });
+}
+
+TEST(HostedDocumentDeathTest, TheStagesOfTheTutorialLoadAndWork)
+{
+    const auto files = TutorialFiles();
+    ASSERT_EQ(4u, files.size());
+    for (const auto& file : files) {
+        WithInterface([&](HostedInterface& ui) {
+            ASSERT_TRUE(ui.Session().Open({file.string()}, ""));
+            ui.Frame();
+            if (g_UIManager.FindElement("Thing@Shopping")) {
+                ui.Run("UIElement('Thing@Shopping'):SetText('Milk') UIElement('Add@Shopping'):LeftClick()");
+                ui.Run("Result = UIElement('Things@Shopping').ItemByText('Milk').Text");
+                EXPECT_EQ("Milk", ui.Expand("${Result}"));
+            }
+            ui.Frame();
+            EXPECT_EQ("", ui.Lines()) << file;
+        });
+    }
+}
+
+TEST(HostedDocumentTest, WhatTheTutorialShowsStandsInItsFiles)
+{
+    std::string stages;
+    for (const auto& file : TutorialFiles())
+        stages += WithoutIndentation(Read(file));
+    const std::vector<std::string> blocks = Blocks("tutorial.md", "xml");
+    EXPECT_EQ(6u, blocks.size());
+    for (const std::string& block : blocks) {
+        EXPECT_NE(std::string::npos, stages.find(WithoutIndentation(block))) << block;
+    }
 }
 
 } // namespace
