@@ -1,6 +1,6 @@
-// A sequence of what scripts and the mouse do to a list, which stands alone or in a combo box, or to a tab control. A
-// plain model does the same, and both must agree after every step. Each step is a byte and what the step reads after
-// it; the first byte of all chooses the scene.
+// A sequence of what scripts and the mouse do to a list, which stands alone or in a combo box, to a tab control or
+// to a tree. A plain model does the same, and both must agree after every step. Each step is a byte and what the step
+// reads after it; the first byte of all chooses the scene.
 
 #include "host/probe/TreeChecker.h"
 #include "teskara/collections/TeskComboBox.h"
@@ -12,6 +12,7 @@
 #include "tests/fuzz/MemoryFile.h"
 #include "tests/fuzz/ModelCheck.h"
 #include "tests/fuzz/TabSteps.h"
+#include "tests/fuzz/TreeSteps.h"
 
 #include <iterator>
 #include <string>
@@ -201,6 +202,7 @@ constexpr SceneRow Scenes[] = {
     {"combo",     RunListSteps},
     {"fixed",     RunTabSteps},
     {"draggable", RunTabSteps},
+    {"tree",      RunTreeSteps},
 };
 // clang-format on
 
@@ -213,7 +215,7 @@ extern "C" int LLVMFuzzerTestOneInput(const u8* data, std::size_t size)
     Decisions bytes;
     bytes.Take(data, size);
     host.StartAnew();
-    const std::string markup = std::string("<Tesk>") + ListsMarkup + TabControlsMarkup + "</Tesk>";
+    const std::string markup = std::string("<Tesk>") + ListsMarkup + TabControlsMarkup + TreeMarkup + "</Tesk>";
     file.Write(markup.data(), markup.size());
     host.File = file.Path();
     g_UIManager.LoadInterfaceXML("f", true, nullptr);
