@@ -62,6 +62,8 @@ bool TeskTree::FromXML(XMLNode* node, XMLNode* templateNode)
     if (!TeskFrame::FromXML(node, templateNode) || !ReadMarkup<TreeValues>(*this, source) || !Font)
         return false;
 
+    if (Font->Color != 0)
+        DefaultTextColor = Font->Color;
     const ElementWatch self(*this);
     TeskScrollBar* bar = LoadBar(*this, source.Child("ScrollBar"));
     if (!bar)
