@@ -13,18 +13,45 @@ struct Kind {
     const char* Base; // what it answers to besides
 };
 
+// clang-format off
 constexpr Kind Kinds[] = {
-    {"button", "teskelement"}, {"checkbox", "teskelement"}, {"combobox", "teskelement"}, {"commandbutton", "button"},
-    {"commandcheckbox", "checkbox"}, {"commandentry", "textentry"}, {"console", "teskelement"},
-    {"contextmenu", "frame"}, {"frame", "teskelement"}, {"gauge", "frame"}, {"gaugefiller", "teskelement"},
-    {"hudelement", "teskelement"}, {"listbox", "teskelement"}, {"map", "teskelement"}, {"mapblip", "frame"},
-    {"mapblipview", "frame"}, {"mapview", "teskelement"}, {"messagebox", "window"}, {"scriptinputbox", "window"},
-    {"scriptmessagebox", "messagebox"}, {"scrollbar", "teskelement"}, {"slider", "teskelement"},
-    {"tabcontrol", "teskelement"}, {"table", "frame"}, {"tablecell", "frame"}, {"text", "teskelement"},
-    {"textedit", "frame"}, {"textentry", "teskelement"}, {"tooltip", "frame"}, {"tree", "frame"},
-    {"variablegauge", "gauge"}, {"variableslider", "slider"}, {"window", "frame"},
-    {"windowclient", "teskelement"}, // a frame that is not found as one,
+    {"button",           "teskelement"},
+    {"checkbox",         "teskelement"},
+    {"combobox",         "teskelement"},
+    {"commandbutton",    "button"},
+    {"commandcheckbox",  "checkbox"},
+    {"commandentry",     "textentry"},
+    {"console",          "teskelement"},
+    {"contextmenu",      "frame"},
+    {"frame",            "teskelement"},
+    {"gauge",            "frame"},
+    {"gaugefiller",      "teskelement"},
+    {"hudelement",       "teskelement"},
+    {"listbox",          "teskelement"},
+    {"map",              "teskelement"},
+    {"mapblip",          "frame"},
+    {"mapblipview",      "frame"},
+    {"mapview",          "teskelement"},
+    {"messagebox",       "window"},
+    {"scriptinputbox",   "window"},
+    {"scriptmessagebox", "messagebox"},
+    {"scrollbar",        "teskelement"},
+    {"slider",           "teskelement"},
+    {"tabcontrol",       "teskelement"},
+    {"table",            "frame"},
+    {"tablecell",        "frame"},
+    {"text",             "teskelement"},
+    {"textedit",         "frame"},
+    {"textentry",        "teskelement"},
+    {"tooltip",          "frame"},
+    {"tree",             "frame"},
+    {"variablegauge",    "gauge"},
+    {"variableslider",   "slider"},
+    {"window",           "frame"},
+    // A frame that is not found as one.
+    {"windowclient",     "teskelement"},
 };
+// clang-format on
 
 // Whether the word is that of the kind or of one of its bases.
 bool AnswersTo(std::string_view kind, std::string_view word)
