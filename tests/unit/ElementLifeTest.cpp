@@ -102,6 +102,19 @@ TEST_F(ElementLifeTest, AParentHearsOfAChildThatHasEnded)
     EXPECT_EQ("unload c\nstored c\ndestroyed c\nended c\n51 of c to p\n", TakeDiary());
 }
 
+TEST_F(ElementLifeTest, AnElementOnItsWayOutIsNotDeletedAgain)
+{
+    Host.Scripts["unload"] = [](TeskElement& self) {
+        Write("unload", self);
+        self.Delete();
+        Write("still there", self);
+    };
+    Load(Markup("A"));
+    TakeDiary();
+    Element("A").Delete();
+    EXPECT_EQ("unload a\nstill there a\nstored a\ndestroyed a\nended a\n", TakeDiary());
+}
+
 TEST_F(ElementLifeTest, TheEndOfAKindDestroysEachElementTwice)
 {
     Load(Markup("A") + Markup("B"));

@@ -114,6 +114,12 @@ TEST_F(ElementTreeTest, ANotificationClimbsWhateverItsSource)
     g_UIManager.Screen->OnNotify(top, 1, 0); // nobody is above the screen
 }
 
+TEST_F(ElementTreeTest, APlainElementAgreesToFocusAndMouse)
+{
+    EXPECT_TRUE(Make("A").SetFocus());
+    EXPECT_TRUE(Make("B").SetMouseOver());
+}
+
 TEST_F(ElementTreeTest, OnlyAnElementsOwnChildrenCanBeDeletedThroughIt)
 {
     TeskElement& parent = Make("P");

@@ -143,6 +143,19 @@ TEST_F(LayoutTest, AnElementIsToldInEachCaseAndItsChildrenOnlyIfItChanged)
     EXPECT_EQ(0, grandchild.Times);
 }
 
+TEST_F(LayoutTest, WithoutAParentItIsToldThatNothingChanged)
+{
+    SizedElement orphan("sized", nullptr, "O");
+    orphan.PositionX = orphan.PositionWidth = Share(0.5f);
+    orphan.X = 7;
+    orphan.Width = 8;
+    orphan.RecalculateSize(true);
+    EXPECT_EQ(1, orphan.Times);
+    EXPECT_FALSE(orphan.Changed);
+    EXPECT_EQ(7, orphan.X);
+    EXPECT_EQ(8u, orphan.Width);
+}
+
 TEST_F(LayoutTest, TheScreenTellsItsChildrenOnlyWhenItChangedAndNeverItself)
 {
     SizedElement& child = Make("C");

@@ -223,3 +223,30 @@ TEST_F(TeskFrameTest, ARecordFillsItAndPutsItOnTop)
     EXPECT_EQ(0xff000002u, frame.BorderColor);
     EXPECT_EQ(&frame, g_UIManager.Screen->LastChild);
 }
+
+TEST_F(TeskFrameTest, ARecordTellsHowItFollowsItsParent)
+{
+    Load("<frame name='F'/>");
+    TeskFrame& frame = As<TeskFrame>("F");
+    _CreateFrame record;
+    record.Y = -2;
+    record.Height = 40;
+    record.PositionX = {PositionFarEdge, 50};
+    record.PositionY = {7, 1};
+    record.PositionHeight = {7, 2};
+    record.PositionWidth.Type = PositionShare;
+    record.PositionWidth.SetShare(0.25f);
+    record.Visible = false;
+    record.Strata = -3;
+    frame.Create(record);
+    EXPECT_EQ(-2, frame.Y);
+    EXPECT_EQ(40u, frame.Height);
+    EXPECT_EQ(1u, frame.PositionY.Factor);
+    EXPECT_EQ(2u, frame.PositionHeight.Factor);
+    EXPECT_FALSE(frame.Visible);
+    EXPECT_EQ(-3, frame.Strata);
+
+    frame.RecalculateSize(true);
+    EXPECT_EQ(750, frame.X);
+    EXPECT_EQ(200u, frame.Width);
+}
