@@ -4,6 +4,13 @@
 
 namespace {
 
+// A text that was set to nothing has been split; one that never was set is none.
+const char* TextOf(const TeskText& text)
+{
+    const bool wasSet = text.SplitText || !text.Text.empty();
+    return wasSet ? text.Text.c_str() : nullptr;
+}
+
 bool SetHorizontalAlignment(TeskText& text, const Arguments& arguments)
 {
     text.SetHorizontalAlignment(arguments.IsWord(0, "center") ? AlignCenter
@@ -32,7 +39,7 @@ bool SetWrap(TeskText& text, const Arguments& arguments)
 
 // clang-format off
 constexpr ScriptMember<TeskText> Members[] = {
-    {0, "Text",     Script::String<&TeskText::Text>},
+    {0, "Text",     Script::String<TextOf>},
     {1, "Font",     Script::Font<&TeskText::Font>},
     {2, "NumLines", Script::Uint<&TeskText::NumLines>},
     {3, "Wrap",     Script::Bool<&TeskText::Wrap>},

@@ -10,7 +10,7 @@ TEST(TeskTextTypeDeathTest, MembersTellTheFields)
     WithToolkit([](ScriptHost&) {
         auto& text = dynamic_cast<TeskText&>(MakeElement("text", "T"));
         const ScriptObject object(text);
-        EXPECT_EQ("string ", object.Get("Text"));
+        EXPECT_EQ("failed", object.Get("Text"));
         EXPECT_EQ("failed", object.Get("Font"));
         EXPECT_EQ("uint 1", object.Get("NumLines"));
         EXPECT_EQ("bool false", object.Get("Wrap"));
