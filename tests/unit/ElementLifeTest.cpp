@@ -46,6 +46,19 @@ public:
     }
 };
 
+// Writes down who leaves the kind.
+class DiaristFactory : public TeskFactory<Diarist>
+{
+public:
+    using TeskFactory::TeskFactory;
+
+    void RemoveInstance(TeskElement* element) override
+    {
+        Write("left", *element);
+        TeskFactory::RemoveInstance(element);
+    }
+};
+
 class ElementLifeTest : public ToolkitTest
 {
 protected:
@@ -91,6 +104,18 @@ TEST_F(ElementLifeTest, AParentGoesAheadOfItsChildren)
     Element("P").Delete();
     EXPECT_EQ("unload p\nstored p\ndestroyed p\nended p\n"
               "unload c\nstored c\ndestroyed c\nended c\nunload d\nstored d\ndestroyed d\nended d\n",
+        TakeDiary());
+}
+
+TEST_F(ElementLifeTest, TheKindIsLeftWhenTheChildrenHaveEnded)
+{
+    Factory.reset();
+    const DiaristFactory factory("diarist");
+    Load(Markup("P", "<Children>" + Markup("C") + "</Children>"));
+    TakeDiary();
+    Element("P").Delete();
+    EXPECT_EQ("unload p\nstored p\ndestroyed p\nended p\n"
+              "unload c\nstored c\ndestroyed c\nended c\nleft c\nleft p\n",
         TakeDiary());
 }
 
