@@ -64,15 +64,31 @@ private:
     static constexpr std::size_t LeastToClose = 16;
     static constexpr u32 HighestID = 0xffffffffu;
 
-    // The first place of that id or a higher one.
+    // The first place of that id or a higher one. It is sought around the place where it would be if the ids were spread
+    // evenly, as they nearly are.
     std::size_t PlaceOf(u32 id) const
     {
         if (m_Entries.empty() || m_Entries.back().ID < id)
-            return m_Entries.size();
+            return Places();
+        if (m_Entries.front().ID >= id)
+            return 0;
 
-        const auto place = std::lower_bound(
-            m_Entries.begin(), m_Entries.end(), id, [](const Entry& entry, u32 wanted) { return entry.ID < wanted; });
-        return static_cast<std::size_t>(place - m_Entries.begin());
+        std::size_t low = GuessPlace(id);
+        std::size_t high = low;
+        for (std::size_t reach = 1; low > 0 && m_Entries[low].ID >= id; reach *= 2)
+            low -= std::min(low, reach);
+        for (std::size_t reach = 1; high < Places() && m_Entries[high].ID < id; reach *= 2)
+            high += std::min(Places() - high, reach);
+        const Entry* place = std::lower_bound(m_Entries.data() + low, m_Entries.data() + high, id,
+            [](const Entry& entry, u32 wanted) { return entry.ID < wanted; });
+        return static_cast<std::size_t>(place - m_Entries.data());
+    }
+
+    // Of an id between the first and the last.
+    std::size_t GuessPlace(u32 id) const
+    {
+        const u64 distance = id - m_Entries.front().ID;
+        return distance * (Places() - 1) / (m_Entries.back().ID - m_Entries.front().ID);
     }
 
     void CloseEmptyPlaces()
