@@ -40,6 +40,10 @@ protected:
     template <class Blip, class PointOf> void PlaceInBox(const BlipOrder<Blip>& blips, PointOf pointOf);
     template <class Blip, class PointOf> void PlaceInCircle(const BlipOrder<Blip>& blips, PointOf pointOf);
 
+    // made: what a load of a child of that name gave back, whose word may mean any kind. Null, and the child is gone: it
+    // is of another kind. Scripts may have made one of the kind meanwhile; that one stays.
+    template <class Kind> Kind* KeepMade(TeskElement* made, const char* name, u32 firstNewID);
+
     // The mouse has come to a blip, or has left it.
     template <class Blip> void StartHover(Blip& blip);
     void StopHover(const TeskElement& blip);
@@ -111,4 +115,17 @@ template <class Blip> void MapDisplay::StartHover(Blip& blip)
     const ElementWatch watchedTooltip(*tooltip);
     if (blip.SetTooltip(tooltip) && watchedBlip.Exists() && watchedTooltip.Exists())
         ShowTooltipAt(blip, *tooltip);
+}
+
+// Some factories give back a part of what they have made, or nothing.
+template <class Kind> Kind* MapDisplay::KeepMade(TeskElement* made, const char* name, u32 firstNewID)
+{
+    auto* wanted = dynamic_cast<Kind*>(made);
+    if (wanted && wanted->Parent == this)
+        return wanted;
+
+    TeskElement* child = FindChild(name);
+    if (child && child->ID >= firstNewID && !dynamic_cast<Kind*>(child))
+        DeleteChild(child);
+    return nullptr;
 }

@@ -236,22 +236,13 @@ TeskMapBlip* TeskMap::NewBlip(const char* name, const char* templateName, const 
     if (!self.Exists())
         return nullptr;
 
-    auto* blip = dynamic_cast<TeskMapBlip*>(made);
-    if (!blip || blip->Parent != this) {
-        DeleteStray(name, firstNewID);
+    auto* blip = KeepMade<TeskMapBlip>(made, name, firstNewID);
+    if (!blip)
         return nullptr;
-    }
+
     const ElementWatch watch(*blip);
     blip->MoveZTop(false);
     return watch.Exists() ? blip : nullptr;
-}
-
-// A factory may have made a child that is no blip, and have given back a part of it or nothing.
-void TeskMap::DeleteStray(const char* name, u32 firstID)
-{
-    TeskElement* child = FindChild(name);
-    if (child && child->ID >= firstID && !dynamic_cast<TeskMapBlip*>(child))
-        DeleteChild(child);
 }
 
 TeskMapBlip* TeskMap::FindBlip(const char* name)

@@ -65,7 +65,6 @@ public:
 private:
     bool Enter(TeskMapBlip& blip, utf8string name);
     bool Leave(TeskMapBlip& blip);
-    void DeleteStray(const char* name, u32 firstID);
 
     bool m_TakesBlips = true;
 };

@@ -13,9 +13,21 @@ TeskMapBlipView::~TeskMapBlipView()
         view->Forget(*this);
 }
 
+// Asked for each blip in each frame, and so looked up only after something has died.
 TeskMapBlip* TeskMapBlipView::Blip() const
 {
-    return dynamic_cast<TeskMapBlip*>(g_UIManager.FindElementByID(m_BlipID));
+    if (m_Deaths != g_UIManager.GetElementDeaths()) {
+        m_Deaths = g_UIManager.GetElementDeaths();
+        m_Blip = dynamic_cast<TeskMapBlip*>(g_UIManager.FindElementByID(m_BlipID));
+    }
+    return m_Blip && !m_Blip->IsGoing() ? m_Blip : nullptr;
+}
+
+void TeskMapBlipView::SetBlip(TeskMapBlip& blip)
+{
+    m_BlipID = blip.ID;
+    m_Blip = &blip;
+    m_Deaths = g_UIManager.GetElementDeaths();
 }
 
 TeskMapView* TeskMapBlipView::View() const

@@ -26,7 +26,7 @@ public:
     // Takes the size of the blip, and how it follows the parent. May run scripts.
     void UpdateSize();
 
-    // The blip that is shown; null: there is none, or it is gone.
+    // The blip that is shown; null: there is none, or it is on its way out or gone.
     TeskMapBlip* Blip() const;
     u32 GetBlipID() const { return m_BlipID; }
 
@@ -36,5 +36,9 @@ public:
 private:
     friend class TeskMapView;
 
+    void SetBlip(TeskMapBlip& blip);
+
     u32 m_BlipID = 0;
+    mutable TeskMapBlip* m_Blip = nullptr; // as found when so many elements had died
+    mutable u32 m_Deaths = 0;
 };

@@ -69,8 +69,16 @@ try {
     if (TeskMapBlipView* shown = FindBlipView(blip->ID))
         return shown;
 
-    TeskMapBlipView* view = NewBlipView(*blip);
-    if (!view)
+    const ElementWatch self(*this);
+    const ElementWatch watchedBlip(*blip);
+    const utf8string name = blip->Name;
+    const u32 firstNewID = g_UIManager.NextElementID;
+    TeskElement* made = g_UIManager.LoadElement(this, BlipViewKind, name.c_str());
+    if (!self.Exists())
+        return nullptr;
+
+    auto* view = KeepMade<TeskMapBlipView>(made, name.c_str(), firstNewID);
+    if (!view || !Enter(*view, watchedBlip.Get()))
         return nullptr;
 
     const ElementWatch watch(*view);
@@ -80,24 +88,21 @@ try {
     return nullptr; // no memory
 }
 
-// The kind may be the host's by now.
-TeskMapBlipView* TeskMapView::NewBlipView(const TeskMapBlip& blip)
+// False: the blip has ended meanwhile, or there was no memory, and the view is gone.
+bool TeskMapView::Enter(TeskMapBlipView& view, TeskElement* blip)
 {
-    const ElementWatch self(*this);
-    const u32 blipID = blip.ID;
-    const utf8string name = blip.Name;
-    TeskElement* made = g_UIManager.LoadElement(this, BlipViewKind, name.c_str());
-    if (!made || !self.Exists())
-        return nullptr;
-
-    auto* view = dynamic_cast<TeskMapBlipView*>(made);
-    if (!view || view->Parent != this || FindBlipView(blipID)) {
-        DeleteChild(made);
-        return nullptr;
+    auto* shown = dynamic_cast<TeskMapBlip*>(blip);
+    try {
+        if (shown) {
+            m_Views.Enter(shown->ID, view);
+            view.SetBlip(*shown);
+            return true;
+        }
+    } catch (...) {
+        shown = nullptr;
     }
-    m_Views.Enter(blipID, *view);
-    view->m_BlipID = blipID;
-    return view;
+    DeleteChild(&view);
+    return false;
 }
 
 void TeskMapView::RemoveBlipView(u32 blipID)

@@ -38,7 +38,7 @@ public:
     void Forget(TeskMapBlipView& blip);
 
 private:
-    TeskMapBlipView* NewBlipView(const TeskMapBlip& blip);
+    bool Enter(TeskMapBlipView& view, TeskElement* blip);
 
     BlipOrder<TeskMapBlipView> m_Views; // by the ids of the blips
 };

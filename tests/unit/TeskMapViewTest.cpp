@@ -5,7 +5,11 @@
 #include "teskara/script/MvTypeDefinition.h"
 #include "teskara/windows/TeskMapView.h"
 
+#include "tests/unit/Allocations.h"
+
 #include <gtest/gtest.h>
+
+#include <functional>
 
 // A map, and a view of 100 by 100 pixels for 10 by 10 of the world.
 class TeskMapViewTest : public MapTest
@@ -207,6 +211,59 @@ TEST_F(TeskMapViewTest, ABlipViewIsNotMadeFromMarkup)
     outside->OnMouseExit(nullptr);
     Frame();
     EXPECT_EQ(nullptr, outside->View());
+}
+
+TEST_F(TeskMapViewTest, ABlipOnItsWayOutIsNotDrawn)
+{
+    UseDot("<OnUnload>unload</OnUnload>");
+    Add("A");
+    const TeskMapBlipView& view = Show("A");
+    bool wasThere = true;
+    Host.Scripts["unload"] = [&](TeskElement&) { wasThere = view.Blip() != nullptr; };
+    Map().RemoveBlip(Blip("A").ID);
+    EXPECT_FALSE(wasThere);
+}
+
+// The kind is the host's, and so may do anything.
+TEST_F(TeskMapViewTest, ABlipMayEndAsItsViewIsMade)
+{
+    Add("A");
+    TeskElementFactory* factory = g_UIManager.FindFactory("mapblipview");
+    static std::function<void()> act;
+    class ActingView : public TeskMapBlipView
+    {
+    public:
+        using TeskMapBlipView::TeskMapBlipView;
+        void OnCreate() override { act(); }
+    };
+    {
+        const TeskFactory<ActingView> other("mapblipview");
+        act = [&] { Map().ClearBlips(); };
+        EXPECT_EQ(nullptr, View().AddBlipView(&Blip("A")));
+        EXPECT_EQ(nullptr, g_UIManager.FindElement("A@V"));
+        Add("A");
+        act = [&] { g_UIManager.Screen->DeleteChild(&View()); };
+        EXPECT_EQ(nullptr, View().AddBlipView(&Blip("A")));
+        EXPECT_EQ(nullptr, g_UIManager.FindElement("V"));
+    }
+    factory->Register("mapblipview", TeskaraVersion);
+}
+
+TEST_F(TeskMapViewTest, WithoutMemoryNothingIsShown)
+{
+    Add("A");
+    Frame();
+    bool shown = false;
+    for (std::size_t failure = 0; !shown; ++failure) {
+        ASSERT_LT(failure, 100u);
+        const std::size_t count = g_UIManager.ElementsByID.size();
+        Allocations::FailAfter(failure, Allocations::Failing::Once);
+        shown = View().AddBlipView(&Blip("A")) != nullptr;
+        Allocations::Allow();
+        Host.TakeCalls();
+        EXPECT_EQ(count + shown, g_UIManager.ElementsByID.size()) << failure;
+        EXPECT_EQ(shown, View().FindBlipView(Blip("A").ID) != nullptr);
+    }
 }
 
 TEST_F(TeskMapViewTest, AKindThatWasReplacedIsNotShown)
