@@ -120,20 +120,34 @@ void Turned(TeskMap& map)
     map.RotationEnabled = true;
 }
 
+// Each frame looks for what is under the mouse.
+void FrameUnderTheMouse(benchmark::State& state)
+{
+    const LoadedScene scene(Markup);
+    Fill(Coloured);
+    state.SetLabel(Note(Map()));
+    g_UIManager.MousePosition = {500, 500};
+    for (auto _ : state)
+        g_UIManager.Render();
+    g_UIManager.MousePosition = {-1, -1};
+    ReportTimePer(state, "ms/frame");
+}
+
 // Every blip has moved a little since the last frame.
 void FrameOfMovingWorld(benchmark::State& state)
 {
     const LoadedScene scene(Markup);
     const std::vector<u32> ids = Fill(Coloured);
+    std::vector<_Point3f> places;
+    for (u32 number = 0; number < Blips; ++number)
+        places.push_back(Place(number));
     state.SetLabel(Note(Map()));
     float step = 0;
     for (auto _ : state) {
         step = step > 0.5f ? 0 : step + 0.01f;
-        for (u32 number = 0; number < Blips; ++number) {
-            _Point3f place = Place(0);
-            place.x = static_cast<float>(number) + step;
-            Map().UpdateBlip(ids[number], place);
-        }
+        TeskMap& map = Map();
+        for (u32 number = 0; number < Blips; ++number)
+            map.UpdateBlip(ids[number], {places[number].x + step, places[number].y, 0});
         g_UIManager.Render();
     }
     ReportTimePer(state, "ms/frame");
@@ -216,6 +230,7 @@ void WalkByName(benchmark::State& state)
 BENCHMARK_CAPTURE(FrameOfMap, frame, Coloured, AsItIs)->Name("map.frame")->Repetitions(9);
 BENCHMARK_CAPTURE(FrameOfMap, turned, Coloured, Turned)->Name("map.turned")->Repetitions(9);
 BENCHMARK_CAPTURE(FrameOfMap, labels, Labelled, AsItIs)->Name("map.labels")->Repetitions(9);
+BENCHMARK(FrameUnderTheMouse)->Name("map.mouse")->Repetitions(9);
 BENCHMARK(FrameOfMovingWorld)->Name("map.moving")->Repetitions(9);
 BENCHMARK(FrameOfView)->Name("map.view")->Repetitions(9);
 BENCHMARK_CAPTURE(AddBlips, bare, Bare)->Name("map.add.bare")->Repetitions(9);
