@@ -62,8 +62,7 @@ public:
     u32 ImageSize = 16;
     u32 ImageBorder = 0;
     u32 TextMargin = 5;
-    u32 DefaultTextColor =
-        0xffffffffu; // of nodes that are added without a colour; that of a font from markup, if it has one
+    u32 DefaultTextColor = 0xffffffffu; // of nodes added without a colour; markup makes it the font's
     u32 ItemHeight = 0; // from row to row; with 0 there are no rows
     u32 SelectionBackgroundColor = 0;
     u32 SelectionTextColor = 0;
