@@ -19,6 +19,19 @@ constexpr u32 KeyGrave = 192;
 
 } // namespace
 
+ConsoleWindow::ConsoleWindow(InterfaceSession& session) : m_Session(session)
+{
+    m_Session.Host().Scripts().Commands.Add("console", [this](int, char**) {
+        Toggle();
+        return 0;
+    });
+}
+
+ConsoleWindow::~ConsoleWindow()
+{
+    m_Session.Host().Scripts().Commands.Remove("console");
+}
+
 bool ConsoleWindow::HandleKey(u32 key)
 {
     if ((key != KeyF1 && key != KeyGrave) || g_UIManager.ShiftDown || g_UIManager.CtrlDown || g_UIManager.AltDown

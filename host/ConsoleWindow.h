@@ -12,8 +12,11 @@ class InterfaceSession;
 class ConsoleWindow
 {
 public:
-    // The session is borrowed.
-    explicit ConsoleWindow(InterfaceSession& session) : m_Session(session) { }
+    // The session is borrowed. Adds the command "console", which does what the key does.
+    explicit ConsoleWindow(InterfaceSession& session);
+    ~ConsoleWindow();
+    ConsoleWindow(const ConsoleWindow&) = delete;
+    ConsoleWindow& operator=(const ConsoleWindow&) = delete;
 
     // Opens or closes the window if the key is one for that. False: it is another key, or a text wants it.
     bool HandleKey(u32 key);

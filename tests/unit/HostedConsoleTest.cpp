@@ -186,6 +186,8 @@ TEST(HostedConsoleDeathTest, KeysOpenAndCloseItsWindow)
         EXPECT_FALSE(window.HandleKey(192)); // it is typed there
         EXPECT_TRUE(window.HandleKey(112));
         EXPECT_FALSE(console.Visible);
+        interface.Host().ExecuteCommand("console");
+        EXPECT_TRUE(console.Visible);
     });
 }
 
