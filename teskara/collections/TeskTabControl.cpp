@@ -89,6 +89,7 @@ bool TeskTabControl::LoadButton(const ScrollButtonMarkup& markup, const MarkupSo
     return self.Exists();
 }
 
+// Hidden until a frame finds that there is something to scroll to.
 TeskButton* TeskTabControl::MakeButton(const ScrollButtonMarkup& markup, const MarkupSource& source)
 {
     struct Face {
@@ -105,7 +106,9 @@ TeskButton* TeskTabControl::MakeButton(const ScrollButtonMarkup& markup, const M
     if (!button)
         return nullptr;
 
-    button->Create({}, nullptr);
+    _CreateButton record;
+    record.Visible = false;
+    button->Create(record, nullptr);
     const ElementWatch watch(*button);
     for (const Face& face : faces) {
         if (button->*face.Texture)

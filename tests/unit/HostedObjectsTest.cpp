@@ -231,4 +231,24 @@ TEST(HostedObjectsDeathTest, MembersOfOtherModulesAreReadOrElseCalled)
     });
 }
 
+TEST(HostedObjectsDeathTest, TabsAnswerUntilTheyEnd)
+{
+    WithInterface([](HostedInterface& ui) {
+        ui.Load("<tabcontrol name='T'><Tabs><Tab Name='One'/><Tab Name='Two'/></Tabs></tabcontrol>");
+        const std::string tab = "local tab = UIElement('T').Tab('two') ";
+        EXPECT_EQ("2 Two 1", ui.Run(tab + "Result = tab.ID .. ' ' .. tab.Name .. ' ' .. tab.Order"));
+        EXPECT_EQ("Uno", ui.Run(tab + "tab:Rename('Uno') Result = tostring(UIElement('T').Tab(2))"));
+        EXPECT_EQ("0", ui.Run("local tab = UIElement('T').Tab('uno') tab:Move(1) Result = tab.Order"));
+        EXPECT_EQ("7 t",
+            ui.Run("local tab = UIElement('T').Tab(1) tab:SetBorder(7) "
+                   "Result = tab.Border .. ' ' .. tab.Parent.Name"));
+        EXPECT_EQ("1", ui.Run("local tab = UIElement('T').Tab(1) tab:Remove() Result = UIElement('T').Tabs"));
+        EXPECT_EQ("nil nil false",
+            ui.Run("local tab = UIElement('T').Tab(1) tab:Remove() "
+                   "Result = tostring(tab.Name) .. ' ' .. tostring(tab.Border) .. ' ' .. "
+                   "tostring(tab:Select())"));
+        EXPECT_EQ("", ui.Lines());
+    });
+}
+
 } // namespace

@@ -210,6 +210,17 @@ TEST_F(TeskTabControlTest, ReadAgainItKeepsItsTabs)
     EXPECT_EQ("a b", Names(control));
 }
 
+TEST_F(TeskTabControlTest, ButtonsWithoutMarkupHideUntilThereIsSomethingToScrollTo)
+{
+    TeskTabControl& control = MakeControl("<LeftTexture Filename='#l'/><RightHoverTexture Filename='#r'/>");
+    EXPECT_FALSE(control.LeftButton->Visible);
+    EXPECT_FALSE(control.RightButton->Visible);
+    EXPECT_EQ("#l", control.LeftButton->Texture->Filename);
+    EXPECT_EQ("#r", control.RightButton->TextureHover->Filename);
+    EXPECT_EQ(16u, control.LeftButton->Width);
+    EXPECT_EQ(16u, control.RightButton->Height);
+}
+
 TEST_F(TeskTabControlTest, AButtonOfAnotherClassIsNoButton)
 {
     TeskElementFactory* buttons = g_UIManager.FindFactory("button");
