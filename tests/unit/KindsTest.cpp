@@ -11,45 +11,50 @@ namespace {
 struct Kind {
     const char* Word;
     const char* Base; // what it answers to besides
+    const char* Parts; // what its markup cannot do without; null if no markup makes it
 };
+
+constexpr const char* CodeAlone = nullptr;
+constexpr char TabParts[] =
+    "<TabTexture Filename='#fill'/><TabSelectedTexture Filename='#fill'/><Tabs><Tab Name='a'/></Tabs>";
 
 // clang-format off
 constexpr Kind Kinds[] = {
-    {"button",           "teskelement"},
-    {"checkbox",         "teskelement"},
-    {"combobox",         "teskelement"},
-    {"commandbutton",    "button"},
-    {"commandcheckbox",  "checkbox"},
-    {"commandentry",     "textentry"},
-    {"console",          "teskelement"},
-    {"contextmenu",      "frame"},
-    {"frame",            "teskelement"},
-    {"gauge",            "frame"},
-    {"gaugefiller",      "teskelement"},
-    {"hudelement",       "teskelement"},
-    {"listbox",          "teskelement"},
-    {"map",              "teskelement"},
-    {"mapblip",          "frame"},
-    {"mapblipview",      "frame"},
-    {"mapview",          "teskelement"},
-    {"messagebox",       "window"},
-    {"scriptinputbox",   "window"},
-    {"scriptmessagebox", "messagebox"},
-    {"scrollbar",        "teskelement"},
-    {"slider",           "teskelement"},
-    {"tabcontrol",       "teskelement"},
-    {"table",            "frame"},
-    {"tablecell",        "frame"},
-    {"text",             "teskelement"},
-    {"textedit",         "frame"},
-    {"textentry",        "teskelement"},
-    {"tooltip",          "frame"},
-    {"tree",             "frame"},
-    {"variablegauge",    "gauge"},
-    {"variableslider",   "slider"},
-    {"window",           "frame"},
+    {"button",           "teskelement", ""},
+    {"checkbox",         "teskelement", ""},
+    {"combobox",         "teskelement", "<ListBox><ScrollBar/></ListBox>"},
+    {"commandbutton",    "button",      ""},
+    {"commandcheckbox",  "checkbox",    ""},
+    {"commandentry",     "textentry",   "<MaxLength>5</MaxLength>"},
+    {"console",          "teskelement", "<ScrollBar/>"},
+    {"contextmenu",      "frame",       CodeAlone},
+    {"frame",            "teskelement", ""},
+    {"gauge",            "frame",       ""},
+    {"gaugefiller",      "teskelement", CodeAlone},
+    {"hudelement",       "teskelement", ""},
+    {"listbox",          "teskelement", "<ScrollBar/>"},
+    {"map",              "teskelement", ""},
+    {"mapblip",          "frame",       ""},
+    {"mapblipview",      "frame",       CodeAlone},
+    {"mapview",          "teskelement", ""},
+    {"messagebox",       "window",      CodeAlone},
+    {"scriptinputbox",   "window",      CodeAlone},
+    {"scriptmessagebox", "messagebox",  CodeAlone},
+    {"scrollbar",        "teskelement", ""},
+    {"slider",           "teskelement", ""},
+    {"tabcontrol",       "teskelement", TabParts},
+    {"table",            "frame",       ""},
+    {"tablecell",        "frame",       ""},
+    {"text",             "teskelement", ""},
+    {"textedit",         "frame",       "<VerticalScrollBar/>"},
+    {"textentry",        "teskelement", "<MaxLength>5</MaxLength>"},
+    {"tooltip",          "frame",       ""},
+    {"tree",             "frame",       "<ScrollBar/>"},
+    {"variablegauge",    "gauge",       ""},
+    {"variableslider",   "slider",      ""},
+    {"window",           "frame",       "<Client><Width>9</Width></Client>"},
     // A frame that is not found as one.
-    {"windowclient",     "teskelement"},
+    {"windowclient",     "teskelement", ""},
 };
 // clang-format on
 
@@ -60,6 +65,18 @@ bool AnswersTo(std::string_view kind, std::string_view word)
         return true;
     const auto* row = std::ranges::find(Kinds, kind, [](const Kind& each) { return std::string_view(each.Word); });
     return row != std::end(Kinds) && AnswersTo(row->Base, word);
+}
+
+std::string Markup(const Kind& kind, const std::string& inside)
+{
+    const std::string word = kind.Word;
+    return '<' + word + " name='Q'><Width>50</Width><Height>50</Height>" + kind.Parts + inside + "</" + word + '>';
+}
+
+// A window client reads what any frame reads.
+std::string TemplateOf(const Kind& kind)
+{
+    return kind.Word == std::string_view("windowclient") ? "frame" : kind.Word;
 }
 
 std::string UpperCase(std::string text)
@@ -93,5 +110,48 @@ TEST_F(KindsTest, EachAnswersToItsWordAndToThoseOfItsBases)
         EXPECT_TRUE(element->IsTypeOf("teskelement")) << kind.Word;
         EXPECT_FALSE(element->IsTypeOf("screen")) << kind.Word;
         EXPECT_FALSE(element->IsTypeOf("")) << kind.Word;
+    }
+}
+
+TEST_F(KindsTest, EachTakesItsSettingsFromItsTemplate)
+{
+    for (const Kind& kind : Kinds) {
+        if (!kind.Parts)
+            continue;
+
+        const std::string word = kind.Word;
+        Load("<Template name='" + TemplateOf(kind) + "'><Width>33</Width>" + kind.Parts + "</Template><" + word
+            + " name='Q'/>");
+        TeskElement* element = g_UIManager.FindElement("Q");
+        ASSERT_TRUE(element) << word;
+        EXPECT_EQ(33u, element->Width) << word;
+        g_UIManager.Reset();
+        g_UIManager.ClearTemplates();
+    }
+}
+
+TEST_F(KindsTest, EachDrawsItsChildrenWithItsOpacity)
+{
+    for (const Kind& kind : Kinds) {
+        if (!kind.Parts)
+            continue;
+
+        Load(Markup(kind,
+            "<Alpha>0.5</Alpha><Children><frame name='In'><BackgroundColor>ff0000aa</BackgroundColor>"
+            "</frame></Children>"));
+        Element("Q").Show(true);
+        EXPECT_NE(std::string::npos, Frame().find("7f0000aa")) << kind.Word;
+        g_UIManager.Reset();
+    }
+}
+
+TEST_F(KindsTest, SomeAreMadeByCodeAlone)
+{
+    for (const Kind& kind : Kinds) {
+        if (kind.Parts)
+            continue;
+
+        Load('<' + std::string(kind.Word) + " name='Q'/>");
+        EXPECT_FALSE(g_UIManager.FindElement("Q")) << kind.Word;
     }
 }
