@@ -5,6 +5,8 @@
 #include "teskara/collections/TeskComboBox.h"
 #include "teskara/collections/TeskListBox.h"
 #include "teskara/collections/TeskTabControl.h"
+#include "teskara/collections/TeskTree.h"
+#include "teskara/collections/TeskTreeNode.h"
 #include "teskara/controls/TeskCheckBox.h"
 #include "teskara/controls/TeskScrollBar.h"
 #include "teskara/controls/TeskSlider.h"
@@ -16,6 +18,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <map>
 #include <string_view>
 #include <vector>
 
@@ -27,6 +30,7 @@ using Value = std::optional<std::string>;
 
 constexpr char Separator = '\x1f'; // between the parts of a value
 constexpr char RowEnd = '\x1e';
+constexpr u32 MostNodes = 10000; // of a tree whose state is kept
 
 i64 ToNumber(std::string_view text)
 {
@@ -252,6 +256,79 @@ void WriteCaret(TeskElement& element, const std::string& value)
     for (i64 column = ToNumber(parts[1]); column > 0 && view.MoveRight(); --column) { }
 }
 
+// The nodes of a tree by their texts and those of their parents; of namesakes the first. Nothing if there are too many to
+// be looked at in each state.
+using NodesByPath = std::map<std::string, TeskTreeNode*>;
+
+NodesByPath NodesOf(const TeskTree& tree)
+{
+    NodesByPath nodes;
+    if (!tree.Root || tree.GetNodeCount() > MostNodes)
+        return nodes;
+
+    std::string path;
+    TeskTreeNode* node = tree.Root->FirstChild;
+    while (node) {
+        const std::string own = path + Separator + node->Text.c_str();
+        nodes.emplace(own, node);
+        if (node->FirstChild) {
+            path = own;
+            node = node->FirstChild;
+            continue;
+        }
+        while (!node->Next && node->Parent != tree.Root) {
+            node = node->Parent;
+            path.resize(path.size() - 1 - node->Text.size());
+        }
+        node = node->Next;
+    }
+    return nodes;
+}
+
+Value ReadNodes(TeskElement& element)
+{
+    const auto* tree = dynamic_cast<TeskTree*>(&element);
+    if (!tree)
+        return std::nullopt;
+
+    std::string value;
+    for (const auto& [path, node] : NodesOf(*tree))
+        if (node->FirstChild)
+            value += path + Separator + std::to_string(int{node->IsExpanded()}) + RowEnd;
+    return value;
+}
+
+void WriteNodes(TeskElement& element, const std::string& value)
+{
+    const NodesByPath nodes = NodesOf(dynamic_cast<TeskTree&>(element));
+    for (const std::string_view row : Parts(value, RowEnd)) {
+        const std::size_t end = row.rfind(Separator);
+        const auto node = nodes.find(std::string(row.substr(0, end)));
+        if (end != row.npos && node != nodes.end())
+            node->second->SetExpanded(row.ends_with('1'));
+    }
+}
+
+Value ReadNode(TeskElement& element)
+{
+    const auto* tree = dynamic_cast<TeskTree*>(&element);
+    if (!tree)
+        return std::nullopt;
+
+    for (const auto& [path, node] : NodesOf(*tree))
+        if (node->IsSelected())
+            return path;
+    return std::string();
+}
+
+void WriteNode(TeskElement& element, const std::string& value)
+{
+    const NodesByPath nodes = NodesOf(dynamic_cast<TeskTree&>(element));
+    const auto node = nodes.find(value);
+    if (node != nodes.end())
+        node->second->Select();
+}
+
 // By its name: tabs that come before it may be new.
 Value ReadTab(TeskElement& element)
 {
@@ -296,6 +373,8 @@ constexpr StateField Fields[] = {
     {"rows", false, ReadRows, WriteRows},
     {"selection", false, ReadSelection, WriteSelection},
     {"tab", false, ReadTab, WriteTab},
+    {"nodes", false, ReadNodes, WriteNodes},
+    {"node", false, ReadNode, WriteNode},
     {"entry", false, ReadEntry, WriteEntry},
     {"lines", false, ReadLines, WriteLines},
     {"caret", true, ReadCaret, WriteCaret},

@@ -4,6 +4,8 @@
 #include "teskara/collections/ListBoxItem.h"
 #include "teskara/collections/TeskListBox.h"
 #include "teskara/collections/TeskTabControl.h"
+#include "teskara/collections/TeskTree.h"
+#include "teskara/collections/TeskTreeNode.h"
 #include "teskara/controls/TeskCheckBox.h"
 #include "teskara/controls/TeskFrame.h"
 #include "teskara/core/CUIManager.h"
@@ -201,6 +203,26 @@ TEST(LiveReloadDeathTest, TheChosenTabStays)
         const auto& fresh = dynamic_cast<TeskTabControl&>(ui.Element("T"));
         EXPECT_EQ(3u, fresh.SelectedTab);
         EXPECT_TRUE(fresh.RetrieveTab(3)->Frame->Visible);
+    });
+}
+
+TEST(LiveReloadDeathTest, WhatIsExpandedAndSelectedInATreeStays)
+{
+    const std::string tree = "<tree name='T' Template='tree'><Width>200</Width><Height>100</Height><OnLoad>"
+                             "local a = this.Root.AddChild('A') a.AddChild('A1').AddChild('deep') a.AddChild('A2') "
+                             "this.Root.AddChild('B').AddChild('B1') a:Collapse()</OnLoad></tree>";
+    WithInterface([&](HostedInterface& ui) {
+        LiveFile file(ui, tree);
+        const auto root = [&ui] { return dynamic_cast<TeskTree&>(ui.Element("T")).Root; };
+        root()->FirstChild->Expand();
+        root()->LastChild->Collapse();
+        root()->FirstChild->LastChild->Select();
+        file.Save(tree + "\n");
+        EXPECT_TRUE(root()->FirstChild->IsExpanded());
+        EXPECT_TRUE(root()->FirstChild->FirstChild->IsExpanded());
+        EXPECT_FALSE(root()->LastChild->IsExpanded());
+        EXPECT_TRUE(root()->FirstChild->LastChild->IsSelected());
+        EXPECT_EQ("", ui.Lines());
     });
 }
 
