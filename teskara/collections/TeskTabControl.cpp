@@ -73,8 +73,10 @@ bool TeskTabControl::LoadButton(const ScrollButtonMarkup& markup, const MarkupSo
 {
     XMLNode* node = source.Child(markup.Tag);
     if (!node) {
-        this->*markup.Button = MakeButton(markup, source);
-        return this->*markup.Button;
+        TeskButton* made = MakeButton(markup, source);
+        if (made)
+            this->*markup.Button = made;
+        return made;
     }
 
     const ElementWatch self(*this);
@@ -89,7 +91,8 @@ bool TeskTabControl::LoadButton(const ScrollButtonMarkup& markup, const MarkupSo
     return self.Exists();
 }
 
-// Hidden until a frame finds that there is something to scroll to.
+// Hidden until a frame finds that there is something to scroll to. Null: it could not be made, or it ended with the
+// control as its textures were read.
 TeskButton* TeskTabControl::MakeButton(const ScrollButtonMarkup& markup, const MarkupSource& source)
 {
     struct Face {

@@ -1,4 +1,5 @@
 #include "teskara/controls/TeskSlider.h"
+#include "teskara/element/TeskElementFactory.h"
 #include "tests/unit/TabTest.h"
 
 // What scripts do to a tab control in the middle of its work.
@@ -79,6 +80,25 @@ TEST_F(TeskTabControlReentrancyTest, AControlMayEndInAButtonOfItsMarkup)
         EXPECT_EQ(nullptr, g_UIManager.LoadElement(&Parent, "tabcontrol", "T", node, nullptr));
         EXPECT_TRUE(IsGone());
     }
+}
+
+TEST_F(TeskTabControlReentrancyTest, AControlMayEndAsItReadsTheTexturesOfItsButtons)
+{
+    struct Ending : TeskTabControl {
+        using TeskTabControl::TeskTabControl;
+
+        TeskTexture* TextureFromXML(XMLNode* node, const char* tag, XMLNode* templateNode) override
+        {
+            TeskTexture* texture = TeskTabControl::TextureFromXML(node, tag, templateNode);
+            if (std::string_view(tag) == "LeftPressedTexture")
+                Parent->DeleteChild(this);
+            return texture;
+        }
+    };
+    const TeskFactory<Ending> factory("ending");
+    XMLNode* node = g_UIManager.AddTemplate("tabs", "<Template><LeftPressedTexture Filename='#l'/></Template>");
+    EXPECT_EQ(nullptr, g_UIManager.LoadElement(&Parent, "ending", "T", node, nullptr));
+    EXPECT_TRUE(IsGone());
 }
 
 TEST_F(TeskTabControlReentrancyTest, ATabMayBeRemovedWhileItIsFilled)
