@@ -28,6 +28,7 @@ MvContainer::MvContainer(const char* typeName) : MvIteratable(typeName)
 MvContainer::~MvContainer()
 {
     Retire();
+    EndWatches(); // those that began since, while the host or a type was called
 }
 
 void MvContainer::Retire()
@@ -35,9 +36,14 @@ void MvContainer::Retire()
     if (std::exchange(m_IsRetired, true))
         return;
 
+    EndWatches();
+    Host::InvalidateTransientObject2(ContainerClass(), this);
+}
+
+void MvContainer::EndWatches()
+{
     while (ContainerWatch* watch = m_Watches) {
         m_Watches = watch->m_Next;
         watch->m_Container = nullptr;
     }
-    Host::InvalidateTransientObject2(ContainerClass(), this);
 }

@@ -32,6 +32,8 @@ protected:
 private:
     friend class ContainerWatch;
 
+    void EndWatches();
+
     ContainerWatch* m_Watches = nullptr;
     bool m_IsRetired = false;
 };

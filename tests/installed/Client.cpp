@@ -2,9 +2,13 @@
 
 #include "teskara/core/CUIManager.h"
 #include "teskara/core/platform/Platform.h"
+#include "teskara/script/MvIndex.h"
+#include "teskara/script/MvIndexIterator.h"
 
 int main()
 {
     SetPlatform(nullptr);
-    return F1(nullptr) == &g_UIManager ? 0 : 1;
+    MvIndex index(nullptr);
+    MvIndexIterator walk(index);
+    return F1(nullptr) == &g_UIManager && index.Resize(1) && !walk.First() ? 0 : 1;
 }

@@ -301,6 +301,26 @@ TEST(IteratorsDeathTest, TheHostHearsOfEachContainerThatGoes)
     });
 }
 
+TEST(IteratorsDeathTest, AWalkThatBeginsWhileItsContainerGoesEndsWithIt)
+{
+    WithHost([](ScriptHost& host) {
+        ScriptTable table;
+        host.Interface = &table;
+        F1(&host);
+        IndexCase given;
+        std::unique_ptr<MvIterator> walk;
+        std::unique_ptr<MvIterator> later;
+        MvIndex& going = *given.Index;
+        table.OnGone = [&] { walk = going.NewIterator(); };
+        given.Words.OnFree = [&] { later = going.NewIterator(); };
+        given.Index.reset();
+        EXPECT_FALSE(walk->First() || walk->IsValid());
+        EXPECT_FALSE(later->First() || later->Last());
+        host.Interface = nullptr;
+        F1(&host);
+    });
+}
+
 TEST(IteratorsDeathTest, AContainerThatGoesWithoutAHostTellsNobody)
 {
     WithHost([](ScriptHost&) {
