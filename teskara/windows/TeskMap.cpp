@@ -127,12 +127,15 @@ try {
     return 0; // no memory
 }
 
-// False: there was no memory, and the blip is gone.
+// Another one that has come to that name meanwhile loses it. False: there was no memory, and the blip is gone.
 bool TeskMap::Enter(TeskMapBlip& blip, utf8string name)
 {
     try {
         BlipsByID.Enter(blip.ID, blip);
-        blip.m_Entry = BlipsByName.insert_or_assign(std::move(name), &blip).first;
+        const auto [entry, isNew] = BlipsByName.try_emplace(std::move(name), &blip);
+        if (!isNew)
+            BlipsByID.Leave(std::exchange(entry->second, &blip)->ID);
+        blip.m_Entry = entry;
         ++BlipCount;
         return true;
     } catch (...) {

@@ -437,6 +437,23 @@ TEST_F(TeskMapTest, WithoutMemoryABlipIsNotAdded)
     Frame();
 }
 
+TEST_F(TeskMapTest, AMapWhoseBlipsMoveAllocatesNothing)
+{
+    LoadMap("<ShowLabels/>");
+    Host.Recorded = 0;
+    std::vector<u32> ids;
+    for (int number = 0; number < 50; ++number)
+        ids.push_back(Add(("Blip " + std::to_string(number)).c_str(), 0, 0, 0, 12, "label"));
+    g_UIManager.Render();
+    const std::size_t before = Allocations::Count();
+    for (int frame = 0; frame < 100; ++frame) {
+        for (const u32 id : ids)
+            Map().UpdateBlip(id, {static_cast<float>(frame) - static_cast<float>(id), 0, 0});
+        g_UIManager.Render();
+    }
+    EXPECT_EQ(before, Allocations::Count());
+}
+
 TEST_F(TeskMapTest, AMapEndsBeforeItsBlips)
 {
     LoadMap("<ShowLabels/>", "<tooltip name='Tooltip'/>");
