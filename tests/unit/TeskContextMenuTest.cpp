@@ -286,6 +286,21 @@ TEST_F(TeskContextMenuTest, RowsAreHitOneBorderLowerThanTheyAreDrawn)
     EXPECT_EQ(0u, highlighted(84)) << "the last row of pixels is below all rows";
 }
 
+TEST_F(TeskContextMenuTest, AMoveMakesRoomForRowsThatWereAddedSinceTheLastFrame)
+{
+    TestMenu menu([](TestMenu& self) { self.AddItem("One", 1); });
+    Open(menu);
+    EXPECT_EQ(20u, menu.Menu->Height) << "a row of 14 and two borders of 3";
+    menu.AddItem("Two", 2);
+    _Point2i point = {110, 60};
+    EXPECT_TRUE(g_UIManager.OnMouseMove(point));
+    EXPECT_EQ(34u, menu.Menu->Height);
+    point = {110, 80};
+    EXPECT_TRUE(g_UIManager.OnMouseMove(point));
+    ASSERT_NE(nullptr, menu.Menu->Highlighted);
+    EXPECT_EQ(2u, menu.Menu->Highlighted->ID);
+}
+
 TEST_F(TeskContextMenuTest, TheMouseIsOfInterestOnlyOverTheMenu)
 {
     TestMenu menu([](TestMenu& self) { self.AddItem("One", 1); });
