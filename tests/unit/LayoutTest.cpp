@@ -156,6 +156,22 @@ TEST_F(LayoutTest, WithoutAParentItIsToldThatNothingChanged)
     EXPECT_EQ(8u, orphan.Width);
 }
 
+TEST_F(LayoutTest, TheScreenIsAllOfTheDisplay)
+{
+    const TeskScreen screen;
+    EXPECT_STREQ("", screen.Type.c_str());
+    EXPECT_EQ("screen", screen.Name);
+    EXPECT_EQ("Screen", screen.FullName);
+    EXPECT_EQ(nullptr, screen.Parent);
+    EXPECT_TRUE(screen.Visible);
+    EXPECT_EQ(800u, screen.Width);
+    EXPECT_EQ(600u, screen.Height);
+    for (const ElementPosition& position : {screen.PositionWidth, screen.PositionHeight}) {
+        EXPECT_EQ(PositionShare, position.Type);
+        EXPECT_EQ(1.0f, position.Share());
+    }
+}
+
 TEST_F(LayoutTest, TheScreenTellsItsChildrenOnlyWhenItChangedAndNeverItself)
 {
     SizedElement& child = Make("C");
