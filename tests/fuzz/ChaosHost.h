@@ -33,6 +33,7 @@ enum class CallOut : u8 {
     LoadElementPosition,
     PrintLine,
     ExecuteAtomForText,
+    Query,
     Count,
 };
 

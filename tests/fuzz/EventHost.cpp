@@ -5,16 +5,20 @@
 
 #include <cstdlib>
 #include <cstring>
+#include <functional>
+#include <utility>
 
 namespace {
 
 // Acts may begin others; an input ends all the same.
 constexpr u32 MostActs = 500;
 
-// The second table: it only keeps texts, each until the next few are asked for.
-class TextKeeper final : public HostScriptInterface
+// The second table: it keeps texts, each until the next few are asked for, and tells of queries, which hold sometimes.
+class EventScripts final : public HostScriptInterface
 {
 public:
+    explicit EventScripts(std::function<void()> calledOut) : m_CalledOut(std::move(calledOut)) { }
+
     bool ParseTypedValue(const char*, _MvTypeVar&, u32) override { return false; }
     MvTypeDefinition* FindTypeByName(const char*, u32, u32) override { return nullptr; }
     char* MakeTempBuffer(std::size_t size, const char* text) override
@@ -26,13 +30,24 @@ public:
     }
     u32 RegisterTransientClass2(const char*) override { return 1; }
     void InvalidateTransientObject2(u32, void*) override { }
-    u32 CreateQuery(MvTypeDefinition*, const char*, u32) override { return 0; }
-    bool EvaluateQuery(u32, _MvTypeVar&, bool&) override { return false; }
+    u32 CreateQuery(MvTypeDefinition*, const char*, u32) override
+    {
+        m_CalledOut();
+        return 1;
+    }
+    bool EvaluateQuery(u32, _MvTypeVar&, bool& result) override
+    {
+        m_CalledOut();
+        result = ++m_Asked % 4 == 0;
+        return true;
+    }
     void FreeQuery(u32) override { }
 
 private:
     std::array<std::string, 8> m_Kept;
     std::size_t m_Next = 0;
+    std::function<void()> m_CalledOut;
+    u32 m_Asked = 0;
 };
 
 // The number that is the body of "atom auto(ARGUMENTS)\n{\nBODY\n}\n".
@@ -76,8 +91,8 @@ MvTypeDefinition* EventHost::FindType(const char* name)
 
 HostScriptInterface* EventHost::GetScriptInterface()
 {
-    static TextKeeper texts;
-    return &texts;
+    static EventScripts scripts([this] { CalledOut(CallOut::Query, nullptr); }); // there is one such host
+    return &scripts;
 }
 
 u32 EventHost::CompileAtom(const char* source, u32 length)

@@ -39,6 +39,8 @@ constexpr char Values[] =
     "<slider name='s' Template='all'><Width>100%</Width><Height>20</Height></slider></Tab><Tab Name='c'/>"
     "<Tab Name='in'><listbox name='l' Template='all'><Width>50</Width><Height>r10</Height></listbox></Tab></Tabs>"
     "<MapSizeX>100</MapSizeX><MapSizeY>80</MapSizeY><ShowLabels/><BlipTemplate>all</BlipTemplate>"
+    "<ItemHeight>10</ItemHeight><IndentPerDepth>8</IndentPerDepth><ImageSize>8</ImageSize>"
+    "<ImageTexture Filename='#fill'/><ImageTextureCollapsed Filename='#camera'/>"
     "<Template>all</Template><StorePosition>1</StorePosition><FadeDuration>40</FadeDuration><FadeAlpha>0.5</FadeAlpha>";
 
 // What an element reads from its own markup alone.

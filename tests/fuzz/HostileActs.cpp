@@ -6,6 +6,7 @@
 #include "teskara/script/MvTypeDefinition.h"
 #include "tests/fuzz/DialogActs.h"
 #include "tests/fuzz/MapActs.h"
+#include "tests/fuzz/TreeActs.h"
 
 #include <array>
 #include <climits>
@@ -54,7 +55,8 @@ constexpr const char* MemberWords[] = {"Name", "Parent", "Children", "Next", "Pr
     "AddChild", "GetMetadata", "HitTest", "FadeState", "Font", "Texture", "TexturePressed", "TextureHover", "Text",
     "Checked", "Down", "Group", "Visible", "Nonsense", "NumLines", "Type", "AbsoluteAlpha", "Range", "Value",
     "Vertical", "HandleTexture", "Item", "OrderedItem", "ItemByText", "ItemByValue", "SelectedItem", "SelectedItems",
-    "SortType", "Order", "Selection", "Title", "Minimized", "ClickFocus", "IsResizable", "ScrollbackTexture",
+    "SortType", "Order", "Selection", "Title", "Minimized", "ClickFocus", "IsResizable", "ScrollbackTexture", "Root",
+    "GetNode", "Handle", "Expanded", "IsSelected", "InsertSiblingBefore", "InsertSiblingAfter", "ImageCollapsed",
     "SelectedTab", "Tab", "Tabs", "TabTexture", "TabSelectedTexture", "Blip", "NextBlip", "Blips", "Location", "Label",
     "Origin", "ZClipping", "BlipTemplate"};
 
@@ -67,7 +69,8 @@ constexpr const char* MethodWords[] = {"Destroy", "AddChild", "SetZOrder", "SetS
     "ItemToggleSelect", "ClearSelection", "AddItem", "RemoveItem", "ClearItems", "SetItemText", "SetItemColor", "Sort",
     "Select", "Deselect", "Toggle", "Remove", "SetSelection", "SetTitle", "Minimize", "Unminimize", "ToggleMinimize",
     "SetClickFocus", "Echo", "Clear", "AddText", "AddTab", "Move", "Rename", "AddBlip", "SetOrigin", "SetRotation",
-    "SetMapSize", "ToggleZClipping", "ToggleLabels", "SetLabel", "SetCustom"};
+    "SetMapSize", "ToggleZClipping", "ToggleLabels", "SetLabel", "SetCustom", "RemoveChildren", "Expand", "Collapse",
+    "ToggleExpand", "InsertSiblingBefore", "InsertSiblingAfter"};
 
 constexpr const char* ArgumentWords[] = {"", "frame", "top", "Button", "-1", "4294967295", "1e30", "nan", "${x}",
     "HitTest", "widthCircle", "<frame><OnLoad>0</OnLoad></frame>", "<text><Text>${x}</Text></text>", "all", "#camera",
@@ -265,6 +268,7 @@ constexpr HostileAct Acts[] = {
     {"close a menu",       [](TeskElement&, u8 argument) { CloseFuzzMenu(argument); }},
     {"end the menus",      [](TeskElement&, u8) { EndFuzzMenus(); }},
     {"show a box",         [](TeskElement&, u8 argument) { ShowFuzzBox(argument); }},
+    {"shake a tree",       ShakeFuzzTree},
     {"end the script",     [](TeskElement&, u8) { EndFuzzScript(); }},
     {"feed a map",         FeedFuzzMap},
 };

@@ -24,8 +24,14 @@ FIRST_EVENT = PLACES.pop("Count")
 PLACES |= {name: FIRST_EVENT + number for name, number in
            names("../../teskara/element/TeskElementMarkup.cpp", r'\{"(On[A-Za-z]+)", +Markup::Event').items()}
 
+# The events of single kinds come behind those of all, in the order of their names.
+EVENTS_OF_SOME_KINDS = sorted({name for file in (HERE / "../../teskara").rglob("*.cpp") for name in re.findall(
+    r'\{"(On[A-Za-z]+)", +Markup::Script', file.read_text(encoding="utf-8"))})
+PLACES |= {name: len(PLACES) + number for number, name in enumerate(EVENTS_OF_SOME_KINDS)}
+
 WORDS = re.search(r"MethodWords\[\] = \{(.*?)\};", (HERE / "HostileActs.cpp").read_text(encoding="utf-8"), re.DOTALL)[1]
 METHODS = re.findall(r'"(\w+)"', WORDS)
+assert len(METHODS) % 4 != 0, "some methods would never get an argument"
 
 OVER_FIRST = 0x11  # where the first element of the scene lies
 OVER_SECOND = 0x13
@@ -116,6 +122,10 @@ SEEDS = {
     "blips": b"\0" + b"".join(act(0, "feed a map", n) for n in (*range(8), 16, 20, 24)) + FRAME
     + b"".join(arm(place, "feed a map", n, MANY) + act(0, "feed a map", n + 4) + FRAME
                for place in ("OnLoad", "OnUnload", "OnRender") for n in range(0, 32, 4)) + TOUR,
+    "nodes": b"\0" + b"".join(act(0, "shake a tree", n) for n in (*range(0, 64, 8), 4, 36, 6, 14, 1)) + FRAME
+    + b"".join(arm(place, "shake a tree", n, MANY) + act(0, "shake a tree", m) + FRAME
+               for place in ("Query", "OnSelect", "OnDeSelect") for n, m in ((2, 12), (3, 28), (0, 6), (4, 2), (6, 3)))
+    + TOUR,
     "commands": b"\15" + arm("ExecuteCommand", "delete self") + arm("SetOutputConsole", "delete another", 5)
     + arm("Calculate", "delete another", 4) + TOUR + step("move", OVER_SECOND) + TOUR,
     "throwing": b"\16" + b"".join(arm(place, "throw") for place in PLACES) + LOAD + TOUR
