@@ -67,6 +67,7 @@ void ScriptObjects::Invalidate(void* object)
         ScriptObject& ending = *held->second;
         Unlink(ending);
         ending.Value = {};
+        ending.Share = nullptr;
     }
 
     const auto kept = m_Elements.find(object);

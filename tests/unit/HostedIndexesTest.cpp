@@ -368,6 +368,18 @@ TEST(HostedIndexesDeathTest, AnIndexMayGoInTheMiddleOfAChange)
     });
 }
 
+TEST(HostedIndexesDeathTest, AProgramMayTakeAnIndexFromTheScriptThatMadeIt)
+{
+    WithInterface([](HostedInterface& ui) {
+        ui.Run("Kept = Index('int') Kept:Add(1) Step = pairs(Kept)");
+        _MvTypeVar kept;
+        ASSERT_TRUE(ui.Scripts().ParseTypedValue("Kept", kept, 0));
+        ui.Host().InvalidateTransientObject(1, kept.Value.Object);
+        EXPECT_EQ("gone nil", ui.Run("Result = tostring(Kept) .. ' ' .. tostring(Step())"));
+        EXPECT_EQ("1", ui.Run("local again = Index('int') Result = again:Add(1)"));
+    });
+}
+
 TEST(HostedIndexesDeathTest, IndexesOfScriptsEndWithTheirEngine)
 {
     WithInterface([](HostedInterface& ui) {
