@@ -229,5 +229,5 @@ try {
             return;
     }
 } catch (...) {
-    return; // there is no memory for the lines
+    return; // without memory, or when a kind of the host throws, the rest stays where it is
 }
