@@ -16,11 +16,13 @@ namespace {
 constexpr int IteratorUpvalue = 2; // of Step; the first is its owner
 constexpr const char* IteratorName = "index iterator";
 
-// The index that an object of the metatable stands for.
-const _MvTypeVar& LivingIndex(lua_State* thread, int place)
+// The index that the first argument stands for.
+const _MvTypeVar& LivingIndex(lua_State* thread, const IndexType& type)
 {
-    const ScriptObject* object = ScriptObjects::At(thread, place);
-    if (!object || !object->Value.Type)
+    const ScriptObject* object = ScriptObjects::At(thread, 1);
+    if (!object || (object->Value.Type && object->Value.Type != &type))
+        luaL_argerror(thread, 1, "an index is needed");
+    else if (!object->Value.Type)
         luaL_error(thread, "the object is gone");
     return object->Value;
 }
@@ -100,7 +102,7 @@ int IndexAccess::Make(lua_State* thread)
 int IndexAccess::Assign(lua_State* thread)
 {
     auto& access = LuaState::OwnerOf<IndexAccess>(thread);
-    const _MvTypeVar asked = LivingIndex(thread, 1);
+    const _MvTypeVar asked = LivingIndex(thread, access.m_Type);
     if (lua_type(thread, 2) != LUA_TNUMBER)
         return luaL_error(thread, "'%s' cannot be assigned", luaL_tolstring(thread, 2, nullptr));
 
@@ -118,16 +120,18 @@ int IndexAccess::Assign(lua_State* thread)
 
 int IndexAccess::Count(lua_State* thread)
 {
-    lua_pushinteger(thread, IndexOf(LivingIndex(thread, 1)).GetCount());
+    const auto& access = LuaState::OwnerOf<IndexAccess>(thread);
+    lua_pushinteger(thread, IndexOf(LivingIndex(thread, access.m_Type)).GetCount());
     return 1;
 }
 
 // pairs(index): the object stays on the loop's stack, which keeps an index of the script's own alive.
 int IndexAccess::Walk(lua_State* thread)
 {
+    auto& access = LuaState::OwnerOf<IndexAccess>(thread);
     lua_settop(thread, 1);
-    lua_pushlightuserdata(thread, &LuaState::OwnerOf<IndexAccess>(thread));
-    PushIterator(thread, IndexOf(LivingIndex(thread, 1)));
+    lua_pushlightuserdata(thread, &access);
+    PushIterator(thread, IndexOf(LivingIndex(thread, access.m_Type)));
     lua_pushcclosure(thread, Step, IteratorUpvalue);
     lua_insert(thread, 1);
     lua_pushnil(thread);

@@ -368,6 +368,19 @@ TEST(HostedIndexesDeathTest, AnIndexMayGoInTheMiddleOfAChange)
     });
 }
 
+TEST(HostedIndexesDeathTest, WhatIsMeantForIndexesRefusesOtherObjects)
+{
+    WithInterface(
+        [](HostedInterface& ui) {
+            EXPECT_EQ("0",
+                ui.Run("local done = 0 local meta = debug.getmetatable(Index('int')) for _, name in ipairs{'__len', "
+                       "'__pairs', '__newindex'} do for _, object in ipairs{UIElement('Tester'), Teskara, 5} do if "
+                       "pcall(meta[name], object, 1, 1) then done = done + 1 end end end Result = done"));
+            EXPECT_EQ("", ui.Lines());
+        },
+        host::ScriptTrust::Full);
+}
+
 TEST(HostedIndexesDeathTest, AProgramMayTakeAnIndexFromTheScriptThatMadeIt)
 {
     WithInterface([](HostedInterface& ui) {
