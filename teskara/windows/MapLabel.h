@@ -4,8 +4,8 @@
 #include "teskara/windows/MapDisplay.h"
 #include "teskara/windows/TeskMapBlip.h"
 
-// The label to the right of a blip. Its edges are those that blip and map have before the blip is drawn, while which the
-// children may move what they like.
+// The label to the right of a blip. The right edges of blip and map are taken before the blip is drawn: its children may
+// move both.
 class MapLabel
 {
 public:

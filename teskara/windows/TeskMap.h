@@ -29,7 +29,7 @@ public:
     virtual unsigned int AddBlip(const char* name, const _Point3f& location, unsigned int size, const char* label,
         const char* templateName, const char* factory);
 
-    // These two may run scripts.
+    // These two may run scripts. Blips that are added while all are deleted are deleted too.
     virtual void RemoveBlip(unsigned int id);
     virtual void ClearBlips();
 

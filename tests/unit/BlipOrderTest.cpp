@@ -22,19 +22,50 @@ protected:
             m_Order.Enter(id, Blip(id));
     }
 
-    Numbers Walk() const
+    static Numbers Walk(const BlipOrder<int>& order)
     {
         Numbers ids;
-        for (std::size_t place = 0; place < m_Order.Places(); ++place) {
-            if (m_Order.At(place).Element)
-                ids.push_back(m_Order.At(place).ID);
+        for (std::size_t place = 0; place < order.Places(); ++place) {
+            if (order.At(place).Element)
+                ids.push_back(order.At(place).ID);
         }
         return ids;
+    }
+
+    // Many are entered and leave at random.
+    static void ExpectAsInAPlainMap(u32 (*idOf)(u32 number))
+    {
+        std::minstd_rand random;
+        int blips[300];
+        BlipOrder<int> order;
+        std::map<u32, int*> model;
+        for (int step = 0; step < 20000; ++step) {
+            const u32 number = static_cast<u32>(random() % 300);
+            const u32 id = idOf(number);
+            if (random() % 2 == 0) {
+                order.Enter(id, blips[number]);
+                model[id] = &blips[number];
+            } else {
+                EXPECT_EQ(model.erase(id) != 0, order.Leave(id));
+            }
+            const u32 asked = idOf(static_cast<u32>(random() % 300));
+            ASSERT_EQ(model.count(asked) != 0 ? model[asked] : nullptr, order.Find(asked));
+            if (step % 100 == 0)
+                ExpectSameWalk(model, order);
+        }
     }
 
     BlipOrder<int> m_Order;
 
 private:
+    static void ExpectSameWalk(const std::map<u32, int*>& model, const BlipOrder<int>& order)
+    {
+        Numbers ids;
+        for (const auto& [id, blip] : model)
+            ids.push_back(id);
+        ASSERT_EQ(ids, Walk(order));
+    }
+
     std::map<u32, int> m_Blips;
 };
 
@@ -52,7 +83,7 @@ TEST_F(BlipOrderTest, ANewOrderIsEmpty)
 TEST_F(BlipOrderTest, BlipsAreWalkedInTheOrderOfTheirIDs)
 {
     Enter({5, 9, 2, 7, 4294967295u});
-    EXPECT_EQ((Numbers{2, 5, 7, 9, 4294967295u}), Walk());
+    EXPECT_EQ((Numbers{2, 5, 7, 9, 4294967295u}), Walk(m_Order));
     EXPECT_EQ(&Blip(7), m_Order.Find(7));
     EXPECT_EQ(&Blip(4294967295u), m_Order.Find(4294967295u));
     EXPECT_EQ(nullptr, m_Order.Find(6));
@@ -65,7 +96,7 @@ TEST_F(BlipOrderTest, OneThatLeavesIsNeitherFoundNorWalked)
     EXPECT_TRUE(m_Order.Leave(2));
     EXPECT_FALSE(m_Order.Leave(2));
     EXPECT_EQ(nullptr, m_Order.Find(2));
-    EXPECT_EQ((Numbers{1, 3}), Walk());
+    EXPECT_EQ((Numbers{1, 3}), Walk(m_Order));
 }
 
 TEST_F(BlipOrderTest, OneThatComesBackTakesItsPlace)
@@ -101,23 +132,11 @@ TEST_F(BlipOrderTest, EmptyPlacesDoNotPileUp)
 
 TEST_F(BlipOrderTest, ItHoldsWhatAPlainMapHolds)
 {
-    std::minstd_rand random;
-    std::map<u32, int*> model;
-    for (int step = 0; step < 20000; ++step) {
-        const u32 id = static_cast<u32>(random() % 300);
-        if (random() % 2 == 0) {
-            m_Order.Enter(id, Blip(id));
-            model[id] = &Blip(id);
-        } else {
-            EXPECT_EQ(model.erase(id) != 0, m_Order.Leave(id));
-        }
-        const u32 asked = static_cast<u32>(random() % 300);
-        ASSERT_EQ(model.count(asked) != 0 ? model[asked] : nullptr, m_Order.Find(asked));
-        if (step % 100 == 0) {
-            Numbers ids;
-            for (const auto& [key, blip] : model)
-                ids.push_back(key);
-            ASSERT_EQ(ids, Walk());
-        }
-    }
+    ExpectAsInAPlainMap([](u32 number) { return number; });
+}
+
+TEST_F(BlipOrderTest, SoItDoesWhereTheIDsLieFarApart)
+{
+    ExpectAsInAPlainMap([](u32 number) { return number * number * 47000; });
+    ExpectAsInAPlainMap([](u32 number) { return 4294967295u - number % 16 - (number / 16) * 200000000; });
 }
