@@ -8,13 +8,6 @@
 
 #include <algorithm>
 
-namespace {
-
-// Of the wheel, for one row.
-constexpr u32 WheelUnitsPerRow = 40;
-
-} // namespace
-
 u32 TeskListBox::GetItemFromPoint(_Point2i& point)
 {
     const i32 offset = WrapSub(WrapSub(point.y, AbsoluteY), Border);
@@ -122,12 +115,8 @@ bool TeskListBox::OnLMouseDoubleClick(_Point2i& point)
 bool TeskListBox::OnMouseWheel(int offset)
 {
     const ElementWatch self(*this);
-    if (ScrollBar && ScrollBar->Visible) {
-        if (offset > 0)
-            ScrollBar->RaiseValue(static_cast<u32>(offset) / WheelUnitsPerRow);
-        else if (offset < 0)
-            ScrollBar->LowerValue((0u - static_cast<u32>(offset)) / WheelUnitsPerRow);
-    }
+    if (ScrollBar && ScrollBar->Visible)
+        ScrollBar->Turn(offset);
     if (self.Exists())
         TeskElement::OnMouseWheel(offset);
     return true;

@@ -5,13 +5,6 @@
 #include "teskara/core/Numbers.h"
 #include "teskara/element/ElementWatch.h"
 
-namespace {
-
-// Of the wheel, for one row.
-constexpr u32 WheelUnitsPerRow = 40;
-
-} // namespace
-
 TeskTreeNode* TeskTree::GetNodeFromPoint(const _Point2i& point, bool& onImage) const
 {
     const i32 below = WrapSub(point.y, RowsTop());
@@ -95,12 +88,8 @@ bool TeskTree::OnMouseMove(_Point2i& point)
 bool TeskTree::OnMouseWheel(int offset)
 {
     const ElementWatch self(*this);
-    if (ScrollBar && ScrollBar->Visible) {
-        if (offset > 0)
-            ScrollBar->RaiseValue(static_cast<u32>(offset) / WheelUnitsPerRow);
-        else if (offset < 0)
-            ScrollBar->LowerValue((0u - static_cast<u32>(offset)) / WheelUnitsPerRow);
-    }
+    if (ScrollBar && ScrollBar->Visible)
+        ScrollBar->Turn(offset);
     if (self.Exists())
         TeskElement::OnMouseWheel(offset);
     return true;

@@ -18,6 +18,9 @@ constexpr char VerticalTemplate[] = "verticalscrollbar";
 constexpr char ButtonKind[] = "button";
 constexpr char SliderKind[] = "slider";
 
+// Of the wheel.
+constexpr u32 UnitsPerStep = 40;
+
 // clang-format off
 constexpr MarkupValue<TeskScrollBar> ScrollBarValues[] = {
     {"Vertical", Markup::Toggle<&TeskScrollBar::Vertical>, false},
@@ -196,6 +199,14 @@ void TeskScrollBar::LowerValue(unsigned int amount)
 {
     if (Slider)
         Slider->SetValue(Slider->Value - std::min(amount, Slider->Value));
+}
+
+void TeskScrollBar::Turn(int offset)
+{
+    if (offset > 0)
+        RaiseValue(static_cast<u32>(offset) / UnitsPerStep);
+    else if (offset < 0)
+        LowerValue((0u - static_cast<u32>(offset)) / UnitsPerStep);
 }
 
 unsigned int TeskScrollBar::GetValue()

@@ -30,6 +30,9 @@ public:
     virtual void LowerValue(unsigned int amount);
     virtual unsigned int GetValue();
 
+    // As the mouse wheel turns: a step for each 40 units, upwards if it is positive.
+    void Turn(int offset);
+
     // Makes the parts of a scroll bar that a control has made for itself. A null template means the one named
     // "verticalscrollbar" or "scrollbar". The caller gives the sizes by RecalculateSize.
     void Create(const _CreateScrollBar& record, XMLNode* templateNode);

@@ -17,9 +17,6 @@ namespace {
 // The child of the console's parent that takes the keyboard for it.
 constexpr char InputName[] = "input";
 
-// Of the wheel, for one line.
-constexpr u32 WheelUnitsPerLine = 40;
-
 constexpr char LineBreak[] = "\r\n";
 
 // Adds the part of a line that lies in a block, without its colour codes.
@@ -125,10 +122,8 @@ try {
 bool TeskConsole::OnMouseWheel(int offset)
 {
     const ElementWatch self(*this);
-    if (ScrollBar && offset > 0)
-        ScrollBar->RaiseValue(static_cast<u32>(offset) / WheelUnitsPerLine);
-    else if (ScrollBar)
-        ScrollBar->LowerValue((0u - static_cast<u32>(offset)) / WheelUnitsPerLine);
+    if (ScrollBar)
+        ScrollBar->Turn(offset);
     if (self.Exists())
         TeskElement::OnMouseWheel(offset);
     return true;

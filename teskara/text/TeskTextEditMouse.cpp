@@ -10,13 +10,6 @@
 
 #include <algorithm>
 
-namespace {
-
-// Of the wheel, for one line.
-constexpr u32 WheelUnitsPerLine = 40;
-
-} // namespace
-
 // The rows of the last frame share the height evenly. Above the view there is only its first line.
 CTextEditLine* TeskTextEdit::LineUnder(const _Point2i& point) const
 {
@@ -86,10 +79,8 @@ bool TeskTextEdit::OnLMouseUp(_Point2i& point)
 bool TeskTextEdit::OnMouseWheel(int offset)
 {
     const ElementWatch self(*this);
-    if (ScrollBar && offset >= 1)
-        ScrollBar->RaiseValue(static_cast<u32>(offset) / WheelUnitsPerLine);
-    else if (ScrollBar)
-        ScrollBar->LowerValue((0u - static_cast<u32>(offset)) / WheelUnitsPerLine);
+    if (ScrollBar)
+        ScrollBar->Turn(offset);
     if (self.Exists())
         TeskElement::OnMouseWheel(offset);
     return true;

@@ -54,7 +54,7 @@ TEST(HostedTreeDeathTest, NodesAreObjects)
         EXPECT_EQ("Hull", Ask(ui, "ship.GetNode(ship.Root.Children.Handle).Text"));
         EXPECT_EQ("true", Ask(ui, "ship.Root.Children:Select() and ship.Selection.IsSelected"));
         EXPECT_EQ("Engine", ui.Expand("${UIElement[Ship].Root.Children.Children.Text}"));
-        EXPECT_EQ("Engine", ui.Expand("${UIElement[Ship].GetNode[\"text == 'Engine'\"].Text}"));
+        EXPECT_EQ("Engine", ui.Expand("${UIElement[Ship].GetNode[text == \"Engine\"].Text}"));
         EXPECT_EQ("", ui.Lines());
     });
 }
