@@ -262,6 +262,7 @@ TEST(TypeTablesDeathTest, AskingForAValueAllocatesNothing)
     WithToolkit([](ScriptHost&) {
         TeskElement& parent = MakeElement("frame", "Parent");
         const ScriptObject object(MakeElement("text", "Child", &parent));
+        object.Do("SetText", {"words"});
         const auto ask = [&](const char* member) {
             _MvTypeVar result;
             EXPECT_EQ(DispatchDone, object.Type().DispatchMember(object.Value(), member, 0, nullptr, result)) << member;
