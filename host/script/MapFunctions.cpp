@@ -1,24 +1,27 @@
 #include "host/script/MapFunctions.h"
 
+#include "host/script/LuaState.h"
 #include "host/script/ScriptObjects.h"
 #include "teskara/windows/TeskMap.h"
 #include "teskara/windows/TeskMapBlip.h"
+#include "teskara/windows/TeskMapView.h"
 
 namespace host {
 
 namespace {
 
-TeskMapBlip* BlipAt(lua_State* thread, int index)
+// Null: the argument is no such element.
+template <class Element> Element* ElementAt(lua_State* thread, int index)
 {
     const ScriptObject* object = ScriptObjects::At(thread, index);
     if (!object || !object->IsElement)
         return nullptr;
-    return dynamic_cast<TeskMapBlip*>(static_cast<TeskElement*>(object->Value.Value.Object));
+    return dynamic_cast<Element*>(static_cast<TeskElement*>(object->Value.Value.Object));
 }
 
 int MoveBlip(lua_State* thread)
 {
-    const TeskMapBlip* blip = BlipAt(thread, 1);
+    const TeskMapBlip* blip = ElementAt<TeskMapBlip>(thread, 1);
     if (!blip || !blip->Map())
         return luaL_argerror(thread, 1, "a blip of a map is needed");
 
@@ -30,12 +33,29 @@ int MoveBlip(lua_State* thread)
     return 0;
 }
 
+// The frame may run scripts of a template as it is made.
+int ViewBlip(lua_State* thread)
+{
+    TeskMapView* view = ElementAt<TeskMapView>(thread, 1);
+    TeskMapBlip* blip = ElementAt<TeskMapBlip>(thread, 2);
+    if (!view)
+        return luaL_argerror(thread, 1, "a view of maps is needed");
+    if (!blip)
+        return luaL_argerror(thread, 2, "a blip of a map is needed");
+
+    const RunningThread running(thread);
+    lua_pushboolean(thread, view->AddBlipView(blip) != nullptr);
+    return 1;
+}
+
 } // namespace
 
 void AddMapFunctions(lua_State* thread)
 {
     lua_pushcfunction(thread, MoveBlip);
     lua_setfield(thread, -2, "moveblip");
+    lua_pushcfunction(thread, ViewBlip);
+    lua_setfield(thread, -2, "viewblip");
 }
 
 } // namespace host

@@ -26,6 +26,20 @@ TEST(HostedMapDeathTest, AScriptMovesABlip)
     });
 }
 
+TEST(HostedMapDeathTest, AScriptShowsABlipInAView)
+{
+    WithInterface([](HostedInterface& ui) {
+        ui.Load(Map + std::string("<mapview name='View'><Width>50</Width><Height>50</Height></mapview>"));
+        EXPECT_EQ("TRUE", ui.Run("Result = viewblip(UIElement('View'), member(UIElement('Map'), 'Blip', 'Ship'))"));
+        EXPECT_EQ("mapblipview", ui.Expand("${UIElement[Ship@View].Type}"));
+        EXPECT_EQ("", ui.Lines());
+        ui.Run("viewblip(UIElement('Map'), member(UIElement('Map'), 'Blip', 'Ship'))");
+        EXPECT_NE(std::string::npos, ui.Lines().find("a view of maps is needed"));
+        ui.Run("viewblip(UIElement('View'), UIElement('Map'))");
+        EXPECT_NE(std::string::npos, ui.Lines().find("a blip of a map is needed"));
+    });
+}
+
 TEST(HostedMapDeathTest, NothingButABlipOfAMapIsMoved)
 {
     WithInterface([](HostedInterface& ui) {
