@@ -3,6 +3,7 @@
 #include "host/ConsoleCommands.h"
 #include "host/display/KeyCodes.h"
 #include "host/files/WholeFile.h"
+#include "host/script/MarkupFunctions.h"
 #include "teskara/core/CUIManager.h"
 #include "teskara/element/TeskElement.h"
 #include "teskara/text/TeskCommandEntry.h"
@@ -49,6 +50,7 @@ ReferenceHost::ReferenceHost(SDL_Renderer* renderer, const std::filesystem::path
 {
     m_Console.ShowOn([this](const std::string& line, LineWeight weight) { m_Overlay.Print(line, weight); });
     AddConsoleCommands(m_Scripts.Commands, m_Console);
+    m_Scripts.Globals.Add([this](lua_State* thread) { AddMarkupFunctions(thread, m_Files); });
     m_Scripts.Commands.Add("run", [this](int argc, char** argv) { return RunScriptFile(argc, argv); });
 }
 
