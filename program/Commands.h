@@ -9,6 +9,7 @@ class App;
 
 void AddRunCommand(CLI::App& app, int& exitCode);
 void AddShotCommand(CLI::App& app, int& exitCode);
+void AddGalleryCommand(CLI::App& app, int& exitCode);
 void AddProbeCommand(CLI::App& app, int& exitCode);
 
 // Exit status of the program.

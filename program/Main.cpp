@@ -36,6 +36,7 @@ int main(int argc, char** argv)
     app.require_subcommand(1);
     AddRunCommand(app, exitCode);
     AddShotCommand(app, exitCode);
+    AddGalleryCommand(app, exitCode);
     AddProbeCommand(app, exitCode);
 
     try {

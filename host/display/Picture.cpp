@@ -22,6 +22,11 @@ Picture::~Picture()
 
 bool Picture::Save(const std::string& file) const
 {
+    return Save(file, {0, 0, m_Surface->w, m_Surface->h});
+}
+
+bool Picture::Save(const std::string& file, const SDL_Rect& area) const
+{
     SDL_RenderFlush(m_Renderer);
     std::error_code error;
     const std::filesystem::path folder = std::filesystem::path(file).parent_path();
@@ -29,8 +34,9 @@ bool Picture::Save(const std::string& file) const
         std::filesystem::create_directories(folder, error);
 
     // Nothing shines through a picture.
-    SDL_Surface* opaque = SDL_ConvertSurfaceFormat(m_Surface, SDL_PIXELFORMAT_RGB24, 0);
-    const bool saved = opaque && IMG_SavePNG(opaque, file.c_str()) == 0;
+    SDL_Surface* opaque = SDL_CreateRGBSurfaceWithFormat(0, area.w, area.h, 24, SDL_PIXELFORMAT_RGB24);
+    const bool saved = opaque && SDL_SetSurfaceBlendMode(m_Surface, SDL_BLENDMODE_NONE) == 0
+        && SDL_BlitSurface(m_Surface, &area, opaque, nullptr) == 0 && IMG_SavePNG(opaque, file.c_str()) == 0;
     SDL_FreeSurface(opaque);
     return saved;
 }

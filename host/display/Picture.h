@@ -19,8 +19,10 @@ public:
     // Null if it could not be made.
     SDL_Renderer* Target() const { return m_Renderer; }
 
-    // Writes the picture as a PNG file, and its folder if that is missing. False: SDL_GetError says why.
+    // Writes the picture, or an area of it, as a PNG file, and its folder if that is missing. False: SDL_GetError says
+    // why.
     bool Save(const std::string& file) const;
+    bool Save(const std::string& file, const SDL_Rect& area) const;
 
 private:
     SDL_Surface* m_Surface = nullptr;
