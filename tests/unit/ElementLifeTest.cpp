@@ -151,6 +151,14 @@ TEST_F(ElementLifeTest, TheEndOfAKindDestroysEachElementTwice)
     EXPECT_EQ(nullptr, g_UIManager.FindFactory("diarist"));
 }
 
+TEST_F(ElementLifeTest, AKindThatWasReplacedLeavesTheLaterOneInItsPlace)
+{
+    const TeskFactory<Diarist> later("diarist");
+    EXPECT_EQ(&later, g_UIManager.FindFactory("diarist"));
+    Factory.reset();
+    EXPECT_EQ(&later, g_UIManager.FindFactory("diarist"));
+}
+
 TEST_F(ElementLifeTest, AnElementThatDoesNotReadItsMarkupIsRemovedAndHasNoChildren)
 {
     Load(Markup("P", "<Refuse/><Children>" + Markup("C") + "</Children>"));
