@@ -124,12 +124,7 @@ TreeRows::Halves TreeRows::SplitBehind(TreeMark& mark)
     TreeMark* below = &mark;
     for (next = mark.Parent; next && next->Right == below; next = next->Parent)
         below = next;
-    if (next)
-        return SplitBefore(*next);
-
-    while (below->Parent)
-        below = below->Parent;
-    return {below, nullptr};
+    return next ? SplitBefore(*next) : Halves{below, nullptr};
 }
 
 void TreeRows::Join(TreeMark* front, TreeMark* middle, TreeMark* back)
@@ -139,13 +134,17 @@ void TreeRows::Join(TreeMark* front, TreeMark* middle, TreeMark* back)
         m_Top->Parent = nullptr;
 }
 
+u32 TreeRows::NextPriority()
+{
+    m_Random = m_Random * 6364136223846793005u + 1442695040888963407u;
+    return static_cast<u32>(m_Random >> 32);
+}
+
+// A new row's two marks, joined.
 TreeMark* TreeRows::MarksOf(TreeRow& row)
 {
     for (TreeMark* mark : {&row.m_Start, &row.m_End}) {
-        m_Random ^= m_Random << 13;
-        m_Random ^= m_Random >> 17;
-        m_Random ^= m_Random << 5;
-        mark->Priority = m_Random;
+        mark->Priority = NextPriority();
         mark->Parent = mark->Left = mark->Right = nullptr;
         Refresh(*mark);
     }

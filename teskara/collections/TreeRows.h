@@ -3,6 +3,7 @@
 #include "teskara/core/Export.h"
 #include "teskara/core/Types.h"
 
+#include <cstdint>
 #include <limits>
 
 class TreeRow;
@@ -54,6 +55,10 @@ private:
 class TESKARA_EXPORT TreeRows
 {
 public:
+    TreeRows() = default;
+    TreeRows(const TreeRows&) = delete;
+    TreeRows& operator=(const TreeRows&) = delete;
+
     // These put a row, which is in here not yet and holds nothing: behind all others; as the last one that another one
     // holds; or beside another one.
     void Append(TreeRow& row);
@@ -91,7 +96,8 @@ private:
     static Halves SplitBehind(TreeMark& mark);
     void Join(TreeMark* front, TreeMark* middle, TreeMark* back);
     TreeMark* MarksOf(TreeRow& row);
+    u32 NextPriority();
 
     TreeMark* m_Top = nullptr;
-    u32 m_Random = 1;
+    u64 m_Random = reinterpret_cast<std::uintptr_t>(this); // so that nobody knows the priorities to come
 };
