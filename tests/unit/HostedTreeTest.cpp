@@ -134,6 +134,20 @@ TEST(HostedTreeDeathTest, AQueryMayRemoveNodesAndTheTree)
     });
 }
 
+TEST(HostedTreeDeathTest, ASearchOfManyNodesStaysWithinTheLimits)
+{
+    WithShip([](HostedInterface& ui) {
+        auto& tree = dynamic_cast<TeskTree&>(ui.Element("Ship"));
+        for (int node = 0; node < 50000; ++node)
+            tree.Root->AddChild("more", 0);
+        tree.Root->AddChild("last", 0);
+        const TeskTreeNode* found = tree.FindNodeByQuery("text == 'last' and parent.Handle > 0");
+        ASSERT_NE(nullptr, found) << ui.Lines();
+        EXPECT_EQ("last", found->Text);
+        EXPECT_EQ("", ui.Lines());
+    });
+}
+
 // One search is one call, however many nodes it asks.
 TEST(HostedTreeDeathTest, ASearchThatDoesNotEndIsStopped)
 {
