@@ -151,6 +151,16 @@ TEST_F(ElementLifeTest, TheEndOfAKindDestroysEachElementTwice)
     EXPECT_EQ(nullptr, g_UIManager.FindFactory("diarist"));
 }
 
+TEST_F(ElementLifeTest, TheWordOfAKindIsKeptInLowerCase)
+{
+    const TeskFactory<Diarist> factory("LOUD");
+    EXPECT_STREQ("loud", factory.GetName());
+    EXPECT_EQ(&factory, g_UIManager.FindFactory("Loud"));
+    TeskElement* element = g_UIManager.LoadElement(g_UIManager.Screen, "lOUD", "A");
+    ASSERT_NE(nullptr, element);
+    EXPECT_EQ("loud", element->Type);
+}
+
 TEST_F(ElementLifeTest, AKindThatWasReplacedLeavesTheLaterOneInItsPlace)
 {
     const TeskFactory<Diarist> later("diarist");

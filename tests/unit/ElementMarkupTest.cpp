@@ -96,6 +96,20 @@ TEST_F(ElementMarkupTest, TheStartIsKeptBeforeTheStoredPositionComes)
     EXPECT_EQ(0.5f, element.StartPositionWidth.Share());
 }
 
+TEST_F(ElementMarkupTest, AllFourValuesAreKeptWithTheirKinds)
+{
+    const TeskElement& element = MakeElement("<X>-1</X><Y>r2</Y><Height>r3</Height><Width>4</Width>");
+    EXPECT_EQ(-1, element.StartX);
+    EXPECT_EQ(2, element.StartY);
+    EXPECT_EQ(3u, element.StartHeight);
+    EXPECT_EQ(4u, element.StartWidth);
+    EXPECT_EQ(PositionAbsolute, element.StartPositionX.Type);
+    EXPECT_EQ(PositionFarEdge, element.StartPositionY.Type);
+    EXPECT_EQ(PositionFarEdge, element.StartPositionHeight.Type);
+    EXPECT_EQ(3u, element.StartPositionHeight.Factor);
+    EXPECT_EQ(PositionAbsolute, element.StartPositionWidth.Type);
+}
+
 TEST_F(ElementMarkupTest, AStoredPositionIsOnlyAskedForWhereItIsWanted)
 {
     Host.RestorePosition = [](TeskElement& element) { element.X = 99; };
