@@ -20,7 +20,7 @@ namespace {
 
 constexpr int Width = 1200;
 constexpr int Height = 675;
-constexpr int Margin = 16; // of the backdrop, around what is shown
+constexpr int Margin = 12; // of the backdrop, around what is shown
 constexpr u32 FrameMilliseconds = 16;
 constexpr int TitleY = 18; // from a window's upper edge
 constexpr u32 FramesUntilStill = 12;

@@ -169,6 +169,7 @@ def pictures(tally, preset):
         if name.strip() and not name.startswith("#"):
             check(tally, f"picture {name}",
                   ["tools/check_picture.py", f"build/{preset}/bin/teskara", name, *arguments.split()])
+    check(tally, "pictures of the gallery", ["tools/check_gallery.py", f"build/{preset}/bin/teskara"])
 
 
 def installed_copy(tally):
