@@ -26,6 +26,7 @@ VARIANTS = {
     "check": (("check", "checked"), PRESSABLE),
     "entry": (("entry",), ("", "focused")),
     "menu_item": (("menu_item", "menu_plain"), ("",)),
+    "menu_more": (("menu_more",), ("", "hover")),
     "tab": (("tab",), ("", "selected")),
     **{name: ((name,), PRESSABLE) for name in ("round", "up", "down", "left", "right", "close", "minimize", "restore")},
 }
