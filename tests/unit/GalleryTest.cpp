@@ -82,6 +82,37 @@ TEST(GalleryDeathTest, TheMarkupOfEachWindowIsFound)
     });
 }
 
+TEST(GalleryDeathTest, ARowOfTheIndexOpensItsWindow)
+{
+    WithInterface([](HostedInterface& ui) {
+        OpenGallery(ui);
+        const TeskElement& index = ui.Element("Kinds@Index@Gallery");
+        const int row = static_cast<int>(std::stoul(ui.Expand("${UIElement[Kinds@Index@Gallery].Font.Height}"))) + 2;
+        const TeskElement& window = ui.Element("Gallery text");
+        ui.Click(index.AbsoluteX + 60, index.AbsoluteY + 4 + row / 2); // a group
+        EXPECT_FALSE(window.Visible);
+        ui.Click(index.AbsoluteX + 60, index.AbsoluteY + 4 + 2 * row + row / 2);
+        EXPECT_TRUE(window.Visible);
+        EXPECT_EQ("", ui.Lines());
+    });
+}
+
+TEST(GalleryDeathTest, WhatIsUnavailableTakesNoPress)
+{
+    WithInterface([](HostedInterface& ui) {
+        OpenGallery(ui);
+        ui.Run("Gallery.Open('checkbox', 20, 20)");
+        ui.Frame();
+        for (const auto& [name, changes] : {std::pair("Normal off", true), std::pair("Unavailable off", false)}) {
+            const TeskElement& box = ui.Element((std::string(name) + "@Gallery checkbox").c_str());
+            ui.Click(box.AbsoluteX + 8, box.AbsoluteY + 8);
+            EXPECT_EQ(changes ? "TRUE" : "FALSE",
+                ui.Expand("${UIElement[" + std::string(name) + "@Gallery checkbox].Checked}"))
+                << name;
+        }
+    });
+}
+
 TEST(GalleryDeathTest, AWindowOpensAboveTheOthersAndCloses)
 {
     WithInterface([](HostedInterface& ui) {
