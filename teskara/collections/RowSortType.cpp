@@ -4,24 +4,18 @@
 
 #include <iterator>
 
-namespace {
-
-// In the order of the types.
-constexpr const char* Words[] = {"none", "user", "text", "value", "custom", "textreverse", "valuereverse"};
-static_assert(std::size(Words) == SortValueReverse + 1);
-
-} // namespace
+static_assert(std::size(RowSortWords) == SortValueReverse + 1);
 
 std::optional<RowSortType> FindRowSortType(std::string_view word)
 {
-    for (u32 type = 0; type < std::size(Words); ++type) {
-        if (EqualsNoCase(word, Words[type]))
-            return static_cast<RowSortType>(type);
+    for (const MarkupWord& row : RowSortWords) {
+        if (EqualsNoCase(word, row.Word))
+            return static_cast<RowSortType>(row.Value);
     }
     return std::nullopt;
 }
 
 const char* NameOfRowSortType(u32 type)
 {
-    return type < std::size(Words) ? Words[type] : nullptr;
+    return type < std::size(RowSortWords) ? RowSortWords[type].Word.data() : nullptr;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "teskara/core/Types.h"
+#include "teskara/element/MarkupWord.h"
 
 #include <optional>
 #include <string_view>
@@ -15,6 +16,17 @@ enum RowSortType : u32 {
     SortCustom = 4, // as the host or a script compares them
     SortTextReverse = 5,
     SortValueReverse = 6,
+};
+
+// The names of the types, in their order.
+inline constexpr MarkupWord RowSortWords[] = {
+    {"none", SortNone},
+    {"user", SortUser},
+    {"text", SortText},
+    {"value", SortValue},
+    {"custom", SortCustom},
+    {"textreverse", SortTextReverse},
+    {"valuereverse", SortValueReverse},
 };
 
 // The type of that name, in any case.

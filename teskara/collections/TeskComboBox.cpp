@@ -29,6 +29,18 @@ constexpr MarkupValue<TeskComboBox> ComboValues[] = {
 };
 // clang-format on
 
+constexpr MarkupPart ListPart = {"ListBox", "listbox"};
+constexpr MarkupPart ItemsPart = {"Items", "items"};
+constexpr MarkupPart ComboParts[] = {ListPart, ItemsPart};
+
+const MarkupShape g_Shape({
+    .Name = Kind,
+    .Base = "element",
+    .ScriptType = &pTeskComboBoxType,
+    .Tables = {&RowsOf<ComboValues>},
+    .Parts = {ComboParts},
+});
+
 } // namespace
 
 // Rows that stand in the list's own markup are selected before the list is known here, and do not show; the box's own
@@ -45,18 +57,18 @@ bool TeskComboBox::FromXML(XMLNode* node, XMLNode* templateNode)
         return false;
 
     const ElementWatch self(*this);
-    List->AddItems(XMLHelper::GetChild(node, "Items"));
+    List->AddItems(XMLHelper::GetChild(node, ItemsPart.Name));
     return self.Exists();
 }
 
 bool TeskComboBox::LoadList(const MarkupSource& source)
 {
-    XMLNode* node = source.Child("ListBox");
+    XMLNode* node = source.Child(ListPart.Name);
     if (!node)
         return false;
 
     const ElementWatch self(*this);
-    auto* list = dynamic_cast<TeskListBox*>(g_UIManager.LoadElement(this, "listbox", "List", node, nullptr));
+    auto* list = dynamic_cast<TeskListBox*>(g_UIManager.LoadElement(this, ListPart.Form, "List", node, nullptr));
     if (!list || !self.Exists())
         return false;
 

@@ -18,11 +18,12 @@ constexpr char Kind[] = "listbox";
 constexpr u32 TextMargin = 3;
 
 // An unknown word leaves the type as it was.
-constexpr MarkupForm<TeskListBox> SortWord = {
-    "word", [](TeskListBox& list, const MarkupSource& source, TagName tag, MarkupDefault fallback) {
+constexpr MarkupForm<TeskListBox> SortWord = {"word",
+    [](TeskListBox& list, const MarkupSource& source, TagName tag, MarkupDefault fallback) {
         if (const auto type = FindRowSortType(source.Text(tag, fallback.Text)))
             list.SortType = *type;
-    }};
+    },
+    nullptr, RowSortWords};
 
 // clang-format off
 constexpr MarkupValue<TeskListBox> ListValues[] = {
@@ -42,6 +43,30 @@ constexpr MarkupValue<TeskListBox> ListTexture[] = {
 };
 // clang-format on
 
+constexpr MarkupPart BarPart = {"ScrollBar", "scrollbar", MarkupPlace::NamedChild};
+constexpr MarkupPart ItemsPart = {"Items", "items"};
+constexpr MarkupPart ListParts[] = {BarPart, MaskAttribute, ItemsPart};
+
+constexpr MarkupPart ItemPart = {"Item", "item"};
+constexpr MarkupPart ItemsParts[] = {ItemPart};
+
+constexpr MarkupPart ItemValue = {"Value", "string", MarkupPlace::Attribute};
+constexpr MarkupPart ItemColor = {"Color", "hex", MarkupPlace::Attribute};
+constexpr MarkupPart ItemDefault = {"Default", "integer", MarkupPlace::Attribute};
+constexpr MarkupPart ItemParts[] = {ItemValue, ItemColor, ItemDefault};
+
+const MarkupShape g_Shape({
+    .Name = Kind,
+    .Base = "element",
+    .ScriptType = &pTeskListBoxType,
+    .Tables = {&RowsOf<ListValues>, &RowsOf<ListTexture>},
+    .Parts = {ListParts},
+});
+
+const MarkupShape g_ItemsShape({.Name = ItemsPart.Form, .Use = MarkupUse::Value, .Parts = {ItemsParts}});
+const MarkupShape g_ItemShape(
+    {.Name = ItemPart.Form, .Use = MarkupUse::Value, .Parts = {ItemParts}, .Holds = "string"});
+
 } // namespace
 
 // Rows that are read are sorted once, at the end.
@@ -54,7 +79,7 @@ bool TeskListBox::FromXML(XMLNode* node, XMLNode* templateNode)
 
     TextColor = Font->Color;
     const ElementWatch self(*this);
-    TeskScrollBar* bar = LoadScrollBar(*this, source, "ScrollBar");
+    TeskScrollBar* bar = LoadScrollBar(*this, source, BarPart.Name);
     if (!bar || !self.Exists())
         return false;
 
@@ -65,7 +90,7 @@ bool TeskListBox::FromXML(XMLNode* node, XMLNode* templateNode)
         return false;
 
     MaskTextures(source, {Texture.get()});
-    AddItems(source.Child("Items"));
+    AddItems(source.Child(ItemsPart.Name));
     if (!self.Exists())
         return false;
 
@@ -79,12 +104,12 @@ void TeskListBox::AddItems(XMLNode* items)
     const ElementWatch self(*this);
     for (XMLNode* node = XMLHelper::GetFirstChild(items); node; node = node->Next) {
         const char* text = XMLHelper::GetText(node->FirstChild);
-        if (node->Type != XMLElementNode || !EqualsNoCase(node->Name, "item") || !*text)
+        if (node->Type != XMLElementNode || !EqualsNoCase(node->Name, ItemPart.Name.Text) || !*text)
             continue;
 
-        const u32 id = AddItem(
-            text, XMLHelper::GetStringAttribute(node, "Value", ""), XMLHelper::GetHexAttribute(node, "Color", 0));
-        if (self.Exists() && XMLHelper::GetIntAttribute(node, "Default", 0) != 0)
+        const u32 id = AddItem(text, XMLHelper::GetStringAttribute(node, ItemValue.Name.Text, ""),
+            XMLHelper::GetHexAttribute(node, ItemColor.Name.Text, 0));
+        if (self.Exists() && XMLHelper::GetIntAttribute(node, ItemDefault.Name.Text, 0) != 0)
             SelectItem(id);
         if (!self.Exists())
             return;

@@ -48,6 +48,35 @@ constexpr ScrollButtonMarkup Right = {"right", &TeskTabControl::RightButton, "Ri
     "RightTexture", "RightPressedTexture", "RightHoverTexture", true};
 // clang-format on
 
+constexpr MarkupPart TabsPart = {"Tabs", "tabs"};
+constexpr MarkupPart TabPart = {"Tab", "tab"};
+constexpr MarkupPart TabName = {"Name", "string", MarkupPlace::Attribute};
+
+constexpr MarkupPart TabControlParts[] = {
+    {Left.Tag, ButtonKind},
+    {Left.Texture, "texture"},
+    {Left.TexturePressed, "texture"},
+    {Left.TextureHover, "texture"},
+    {Right.Tag, ButtonKind},
+    {Right.Texture, "texture"},
+    {Right.TexturePressed, "texture"},
+    {Right.TextureHover, "texture"},
+    TabsPart,
+};
+constexpr MarkupPart TabsParts[] = {TabPart};
+constexpr MarkupPart TabParts[] = {TabName};
+
+const MarkupShape g_Shape({
+    .Name = Kind,
+    .Base = "element",
+    .ScriptType = &pTeskTabControlType,
+    .Tables = {&RowsOf<TabControlValues>},
+    .Parts = {TabControlParts},
+});
+
+const MarkupShape g_TabsShape({.Name = TabsPart.Form, .Use = MarkupUse::Value, .Parts = {TabsParts}});
+const MarkupShape g_TabShape({.Name = TabPart.Form, .Use = MarkupUse::Value, .Parts = {TabParts}, .Holds = "element"});
+
 } // namespace
 
 bool TeskTabControl::FromXML(XMLNode* node, XMLNode* templateNode)
@@ -64,7 +93,7 @@ bool TeskTabControl::FromXML(XMLNode* node, XMLNode* templateNode)
             button->Width = button->Height = TabHeight;
     }
     const ElementWatch self(*this);
-    AddTabs(source.Child("Tabs"));
+    AddTabs(source.Child(TabsPart.Name));
     return self.Exists();
 }
 
@@ -128,10 +157,10 @@ void TeskTabControl::AddTabs(XMLNode* tabs)
 {
     const ElementWatch self(*this);
     for (XMLNode* node = XMLHelper::GetFirstChild(tabs); node && self.Exists(); node = node->Next) {
-        if (node->Type != XMLElementNode || !EqualsNoCase(node->Name, "Tab"))
+        if (node->Type != XMLElementNode || !EqualsNoCase(node->Name, TabPart.Name.Text))
             continue;
 
-        const char* name = XMLHelper::GetStringAttribute(node, "Name", "");
+        const char* name = XMLHelper::GetStringAttribute(node, TabName.Name.Text, "");
         AddTab(name, node->FirstChild, name, nullptr);
     }
 }

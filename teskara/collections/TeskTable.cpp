@@ -15,9 +15,6 @@ namespace {
 constexpr char Kind[] = "table";
 constexpr char CellKind[] = "tablecell";
 
-constexpr TagName RowTag = "Row";
-constexpr TagName CellTag = "Cell";
-
 // Room for the name of any cell.
 constexpr u32 CellNameSize = 32;
 
@@ -26,6 +23,20 @@ constexpr MarkupValue<TeskTable> TableValues[] = {
     {"Template", Markup::Text<&TeskTable::CellTemplate>, ""},
 };
 // clang-format on
+
+constexpr MarkupPart RowPart = {"Row", "row"};
+constexpr MarkupPart CellPart = {"Cell", CellKind};
+constexpr MarkupPart TableParts[] = {RowPart};
+constexpr MarkupPart RowParts[] = {CellPart};
+
+const MarkupShape g_Shape({
+    .Name = Kind,
+    .Base = "frame",
+    .Tables = {&RowsOf<TableValues>},
+    .Parts = {TableParts},
+});
+
+const MarkupShape g_RowShape({.Name = RowPart.Form, .Use = MarkupUse::Value, .Parts = {RowParts}});
 
 // The first child element of that tag from a node on, its siblings included; null if there is none.
 XMLNode* NextTagged(XMLNode* node, TagName tag)
@@ -51,10 +62,10 @@ GridExtent ExtentOf(XMLNode* tableNode)
 {
     GridExtent extent;
     u64 row = 0;
-    for (XMLNode* node = FirstTagged(tableNode, RowTag); node; node = NextTagged(node->Next, RowTag)) {
+    for (XMLNode* node = FirstTagged(tableNode, RowPart.Name); node; node = NextTagged(node->Next, RowPart.Name)) {
         extent.Rows = std::max(extent.Rows, ++row);
         u64 columns = 0;
-        for (XMLNode* cell = FirstTagged(node, CellTag); cell; cell = NextTagged(cell->Next, CellTag)) {
+        for (XMLNode* cell = FirstTagged(node, CellPart.Name); cell; cell = NextTagged(cell->Next, CellPart.Name)) {
             columns += TeskTableCell::ColSpanOf(cell);
             extent.Rows = std::max(extent.Rows, row + TeskTableCell::RowSpanOf(cell) - 1);
         }
@@ -148,7 +159,8 @@ bool TeskTable::LoadCells(XMLNode* node)
 {
     u32 row = 0;
     u32 number = 0;
-    for (XMLNode* rowNode = FirstTagged(node, RowTag); rowNode; rowNode = NextTagged(rowNode->Next, RowTag)) {
+    for (XMLNode* rowNode = FirstTagged(node, RowPart.Name); rowNode;
+         rowNode = NextTagged(rowNode->Next, RowPart.Name)) {
         if (!LoadRow(rowNode, row++, number))
             return false;
     }
@@ -163,7 +175,7 @@ bool TeskTable::LoadRow(XMLNode* rowNode, u32 row, u32& number)
     RowSizes.Share(row);
     const ElementWatch self(*this);
     u64 column = 0;
-    for (XMLNode* node = FirstTagged(rowNode, CellTag); node; node = NextTagged(node->Next, CellTag)) {
+    for (XMLNode* node = FirstTagged(rowNode, CellPart.Name); node; node = NextTagged(node->Next, CellPart.Name)) {
         column = Cells.FreeColumn(row, column);
         if (column >= Columns)
             break;

@@ -4,6 +4,7 @@
 #include "teskara/core/AsciiCase.h"
 #include "teskara/core/BoundedText.h"
 #include "teskara/core/CUIManager.h"
+#include "teskara/element/MarkupShape.h"
 #include "teskara/markup/MarkupSource.h"
 
 #include <algorithm>
@@ -11,6 +12,16 @@
 namespace {
 
 constexpr char Kind[] = "tablecell";
+
+constexpr MarkupPart RowSpanPart = {"RowSpan", "integer", MarkupPlace::Attribute};
+constexpr MarkupPart ColSpanPart = {"ColSpan", "integer", MarkupPlace::Attribute};
+constexpr MarkupPart CellParts[] = {RowSpanPart, ColSpanPart};
+
+const MarkupShape g_Shape({
+    .Name = Kind,
+    .Base = "frame",
+    .Parts = {CellParts},
+});
 
 u32 SpanOf(XMLNode* node, const char* attribute)
 {
@@ -45,10 +56,10 @@ bool TeskTableCell::IsTypeOf(const char* word)
 
 u32 TeskTableCell::RowSpanOf(XMLNode* node)
 {
-    return SpanOf(node, "RowSpan");
+    return SpanOf(node, RowSpanPart.Name.Text);
 }
 
 u32 TeskTableCell::ColSpanOf(XMLNode* node)
 {
-    return SpanOf(node, "ColSpan");
+    return SpanOf(node, ColSpanPart.Name.Text);
 }

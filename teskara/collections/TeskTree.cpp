@@ -32,11 +32,22 @@ constexpr MarkupValue<TeskTree> TreeValues[] = {
 };
 // clang-format on
 
+constexpr MarkupPart BarPart = {"ScrollBar", "scrollbar"};
+constexpr MarkupPart TreeParts[] = {BarPart};
+
+const MarkupShape g_Shape({
+    .Name = Kind,
+    .Base = "frame",
+    .ScriptType = &pTeskTreeType,
+    .Tables = {&RowsOf<TreeValues>},
+    .Parts = {TreeParts},
+});
+
 // Null: there is none, it could not be loaded, or the tree is gone.
 TeskScrollBar* LoadBar(TeskTree& tree, XMLNode* node)
 {
     const ElementWatch watch(tree);
-    TeskElement* bar = node ? g_UIManager.LoadElement(&tree, "scrollbar", "vertical", node, nullptr) : nullptr;
+    TeskElement* bar = node ? g_UIManager.LoadElement(&tree, BarPart.Form, "vertical", node, nullptr) : nullptr;
     return watch.Exists() ? dynamic_cast<TeskScrollBar*>(bar) : nullptr;
 }
 
@@ -65,7 +76,7 @@ bool TeskTree::FromXML(XMLNode* node, XMLNode* templateNode)
     if (Font->Color != 0)
         DefaultTextColor = Font->Color;
     const ElementWatch self(*this);
-    TeskScrollBar* bar = LoadBar(*this, source.Child("ScrollBar"));
+    TeskScrollBar* bar = LoadBar(*this, source.Child(BarPart.Name));
     if (!bar)
         return false;
 

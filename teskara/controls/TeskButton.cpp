@@ -31,6 +31,16 @@ constexpr MarkupValue<TeskButton> ButtonTextures[] = {
 };
 // clang-format on
 
+constexpr MarkupPart ButtonParts[] = {MaskAttribute};
+
+const MarkupShape g_Shape({
+    .Name = Kind,
+    .Base = "element",
+    .ScriptType = &pTeskButtonType,
+    .Tables = {&RowsOf<ButtonValues>, &RowsOf<ButtonTextures>},
+    .Parts = {ButtonParts},
+});
+
 } // namespace
 
 bool TeskButton::FromXML(XMLNode* node, XMLNode* templateNode)

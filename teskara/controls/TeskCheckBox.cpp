@@ -35,6 +35,16 @@ constexpr MarkupValue<TeskCheckBox> CheckBoxValues[] = {
 };
 // clang-format on
 
+constexpr MarkupPart CheckBoxParts[] = {MaskAttribute};
+
+const MarkupShape g_Shape({
+    .Name = Kind,
+    .Base = "element",
+    .ScriptType = &pTeskCheckBoxType,
+    .Tables = {&RowsOf<CheckBoxValues>},
+    .Parts = {CheckBoxParts},
+});
+
 // How high and wide the box is with that image, which may be null.
 u32 BoxSideOf(TeskTexture* texture)
 {

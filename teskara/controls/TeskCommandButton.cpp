@@ -16,6 +16,12 @@ constexpr MarkupValue<TeskCommandButton> CommandButtonValues[] = {
 };
 // clang-format on
 
+const MarkupShape g_Shape({
+    .Name = Kind,
+    .Base = "button",
+    .Tables = {&RowsOf<CommandButtonValues>},
+});
+
 } // namespace
 
 bool TeskCommandButton::FromXML(XMLNode* node, XMLNode* templateNode)

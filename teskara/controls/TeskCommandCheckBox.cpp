@@ -20,6 +20,12 @@ constexpr MarkupValue<TeskCommandCheckBox> CommandCheckBoxValues[] = {
 };
 // clang-format on
 
+const MarkupShape g_Shape({
+    .Name = Kind,
+    .Base = "checkbox",
+    .Tables = {&RowsOf<CommandCheckBoxValues>},
+});
+
 } // namespace
 
 bool TeskCommandCheckBox::FromXML(XMLNode* node, XMLNode* templateNode)

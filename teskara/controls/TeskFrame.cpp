@@ -19,6 +19,13 @@ constexpr MarkupValue<TeskFrame> FrameValues[] = {
 };
 // clang-format on
 
+const MarkupShape g_Shape({
+    .Name = Kind,
+    .Base = "element",
+    .ScriptType = &pTeskFrameType,
+    .Tables = {&RowsOf<FrameValues>},
+});
+
 } // namespace
 
 bool TeskFrame::FromXML(XMLNode* node, XMLNode* templateNode)

@@ -23,6 +23,17 @@ constexpr MarkupValue<TeskGauge> GaugeValues[] = {
 };
 // clang-format on
 
+constexpr MarkupPart FillerPart = {"Filler", "gaugefiller"};
+constexpr MarkupPart GaugeParts[] = {MaskAttribute, FillerPart};
+
+const MarkupShape g_Shape({
+    .Name = Kind,
+    .Base = "frame",
+    .ScriptType = &pTeskGaugeType,
+    .Tables = {&RowsOf<GaugeValues>},
+    .Parts = {GaugeParts},
+});
+
 } // namespace
 
 TeskGauge::TeskGauge(const char* type, TeskElement* parent, const char* name)
@@ -39,14 +50,14 @@ bool TeskGauge::FromXML(XMLNode* node, XMLNode* templateNode)
         return false;
 
     MaskTextures(source, {Texture.get(), TopTexture.get()});
-    XMLNode* filler = source.Child("Filler");
+    XMLNode* filler = source.Child(FillerPart.Name);
     return !filler || MakeFiller(filler);
 }
 
 // Computes the filler's size at once: the gauge's own may never change. False: the gauge was deleted meanwhile.
 bool TeskGauge::MakeFiller(XMLNode* node)
 {
-    Filler = TeskElementFactory::New<TeskGaugeFiller>("gaugefiller", this, "filler");
+    Filler = TeskElementFactory::New<TeskGaugeFiller>(FillerPart.Form, this, "filler");
     if (!Filler)
         return true;
 

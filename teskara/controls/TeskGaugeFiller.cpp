@@ -30,6 +30,16 @@ constexpr MarkupValue<TeskGaugeFiller> FillerValues[] = {
 };
 // clang-format on
 
+constexpr MarkupPart FillerParts[] = {MaskAttribute};
+
+const MarkupShape g_Shape({
+    .Name = Kind,
+    .Base = "element",
+    .Use = MarkupUse::Part,
+    .Tables = {&RowsOf<FillerValues>},
+    .Parts = {FillerParts},
+});
+
 // The memory of the last copy, so that a frame allocates nothing.
 std::unique_ptr<TeskTexture> g_SpareCopy;
 

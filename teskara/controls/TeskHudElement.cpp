@@ -23,7 +23,7 @@ constexpr char NoValue[] = "NULL";
 u32 g_UpdateDepth = 0;
 
 constexpr MarkupForm<TeskHudElement> GroupWord = {
-    "text", [](TeskHudElement& element, const MarkupSource& source, TagName tag, MarkupDefault fallback) {
+    "string", [](TeskHudElement& element, const MarkupSource& source, TagName tag, MarkupDefault fallback) {
         element.Group = std::make_unique<utf8string>(source.Text(tag, fallback.Text));
     }};
 
@@ -35,6 +35,13 @@ constexpr MarkupValue<TeskHudElement> HudValues[] = {
     {"Font",           Markup::Font<&TeskHudElement::Font>,              {}},
 };
 // clang-format on
+
+const MarkupShape g_Shape({
+    .Name = Kind,
+    .Base = "element",
+    .ScriptType = &pTeskHudElementType,
+    .Tables = {&RowsOf<HudValues>},
+});
 
 } // namespace
 

@@ -32,13 +32,39 @@ constexpr MarkupValue<TeskScrollBar> ScrollBarValues[] = {
 struct ButtonTags {
     const char* Name;
     TagName Element;
-    const char* Texture;
-    const char* TextureHover;
-    const char* TexturePressed;
+    TagName Texture;
+    TagName TextureHover;
+    TagName TexturePressed;
 };
 
 constexpr ButtonTags UpTags = {"up", "UpButton", "UpTexture", "UpTextureHover", "UpTexturePressed"};
 constexpr ButtonTags DownTags = {"down", "DownButton", "DownTexture", "DownTextureHover", "DownTexturePressed"};
+
+constexpr MarkupPart SliderPart = {"Slider", SliderKind};
+constexpr MarkupPart SliderTexturePart = {"SliderTexture", "texture", MarkupPlace::TemplateChild};
+constexpr MarkupPart SliderHandlePart = {"SliderHandleTexture", "texture", MarkupPlace::TemplateChild};
+
+constexpr MarkupPart ScrollBarParts[] = {
+    SliderPart,
+    {UpTags.Element, ButtonKind, MarkupPlace::TemplateChild},
+    {DownTags.Element, ButtonKind, MarkupPlace::TemplateChild},
+    {UpTags.Texture, "texture", MarkupPlace::TemplateChild},
+    {UpTags.TextureHover, "texture", MarkupPlace::TemplateChild},
+    {UpTags.TexturePressed, "texture", MarkupPlace::TemplateChild},
+    {DownTags.Texture, "texture", MarkupPlace::TemplateChild},
+    {DownTags.TextureHover, "texture", MarkupPlace::TemplateChild},
+    {DownTags.TexturePressed, "texture", MarkupPlace::TemplateChild},
+    SliderTexturePart,
+    SliderHandlePart,
+};
+
+const MarkupShape g_Shape({
+    .Name = Kind,
+    .Base = "element",
+    .ScriptType = &pTeskScrollBarType,
+    .Tables = {&RowsOf<ScrollBarValues>},
+    .Parts = {ScrollBarParts},
+});
 
 // Loads a part as an element of its kind. False: it failed, or the bar is gone. A part without markup is none.
 template <class Part>
@@ -78,15 +104,15 @@ void FillButton(TeskButton& button, const ButtonTags& tags, XMLNode* templateNod
     }
 
     button.Create({}, nullptr);
-    button.Texture.reset(button.TextureFromXML(nullptr, tags.Texture, templateNode));
-    button.TextureHover.reset(button.TextureFromXML(nullptr, tags.TextureHover, templateNode));
-    button.TexturePressed.reset(button.TextureFromXML(nullptr, tags.TexturePressed, templateNode));
+    button.Texture.reset(button.TextureFromXML(nullptr, tags.Texture.Text, templateNode));
+    button.TextureHover.reset(button.TextureFromXML(nullptr, tags.TextureHover.Text, templateNode));
+    button.TexturePressed.reset(button.TextureFromXML(nullptr, tags.TexturePressed.Text, templateNode));
 }
 
 // A slider with markup of its own stands upright, whatever way the bar lies; some interfaces are drawn that way.
 void FillSlider(TeskSlider& slider, const _CreateScrollBar& record, XMLNode* templateNode)
 {
-    if (XMLNode* node = XMLHelper::GetChild(templateNode, "Slider")) {
+    if (XMLNode* node = XMLHelper::GetChild(templateNode, SliderPart.Name)) {
         const ElementWatch watch(slider);
         slider.FromXML(node, nullptr);
         if (!watch.Exists())
@@ -100,8 +126,8 @@ void FillSlider(TeskSlider& slider, const _CreateScrollBar& record, XMLNode* tem
     values.Range = record.Range;
     values.Vertical = record.Vertical;
     slider.Create(values, nullptr);
-    slider.Texture.reset(slider.TextureFromXML(nullptr, "SliderTexture", templateNode));
-    slider.HandleTexture.reset(slider.TextureFromXML(nullptr, "SliderHandleTexture", templateNode));
+    slider.Texture.reset(slider.TextureFromXML(nullptr, SliderTexturePart.Name.Text, templateNode));
+    slider.HandleTexture.reset(slider.TextureFromXML(nullptr, SliderHandlePart.Name.Text, templateNode));
 }
 
 } // namespace
@@ -115,7 +141,7 @@ bool TeskScrollBar::FromXML(XMLNode* node, XMLNode* templateNode)
 
     XMLNode* up = XMLHelper::GetChild(templateNode, UpTags.Element);
     XMLNode* down = XMLHelper::GetChild(templateNode, DownTags.Element);
-    return LoadPart(*this, &TeskScrollBar::Slider, SliderKind, "slider", source.Child("Slider"))
+    return LoadPart(*this, &TeskScrollBar::Slider, SliderKind, "slider", source.Child(SliderPart.Name))
         && LoadPart(*this, &TeskScrollBar::UpButton, ButtonKind, "UpButton", up)
         && LoadPart(*this, &TeskScrollBar::DownButton, ButtonKind, "DownButton", down);
 }

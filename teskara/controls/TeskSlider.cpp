@@ -37,6 +37,16 @@ constexpr MarkupValue<TeskSlider> SliderScripts[] = {
 };
 // clang-format on
 
+constexpr MarkupPart SliderParts[] = {MaskAttribute};
+
+const MarkupShape g_Shape({
+    .Name = Kind,
+    .Base = "element",
+    .ScriptType = &pTeskSliderType,
+    .Tables = {&RowsOf<SliderValues>, &RowsOf<SliderTextures>, &RowsOf<SliderScripts>},
+    .Parts = {SliderParts},
+});
+
 } // namespace
 
 TeskSlider::TeskSlider(const char* type, TeskElement* parent, const char* name) : TeskElement(type, parent, name)

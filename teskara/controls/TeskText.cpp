@@ -24,12 +24,12 @@ constexpr int UnknownWidth = 12;
 // Room beyond which the memory of a broken text is given back when the next one is small.
 constexpr std::size_t SplitSlack = 64;
 
-constexpr Markup::MarkupWord HorizontalWords[] = {
+constexpr MarkupWord HorizontalWords[] = {
     {"center", AlignCenter},
     {"right", AlignRight},
 };
 
-constexpr Markup::MarkupWord VerticalWords[] = {
+constexpr MarkupWord VerticalWords[] = {
     {"center", AlignVerticalCenter},
     {"bottom", AlignBottom},
 };
@@ -43,6 +43,13 @@ constexpr MarkupValue<TeskText> TextValues[] = {
     {"Text",              Markup::Text<&TeskText::Text>,                             ""},
 };
 // clang-format on
+
+const MarkupShape g_Shape({
+    .Name = Kind,
+    .Base = "element",
+    .ScriptType = &pTeskTextType,
+    .Tables = {&RowsOf<TextValues>},
+});
 
 // Every byte as a text of its own. Constants are measured faster than a text that was written just before.
 constexpr auto OneByteTexts = [] {

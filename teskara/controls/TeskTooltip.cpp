@@ -24,6 +24,13 @@ constexpr MarkupValue<TeskTooltip> TooltipValues[] = {
 };
 // clang-format on
 
+const MarkupShape g_Shape({
+    .Name = Kind,
+    .Base = "frame",
+    .ScriptType = &pTeskTooltipType,
+    .Tables = {&RowsOf<TooltipValues>},
+});
+
 } // namespace
 
 TeskTooltip::~TeskTooltip()

@@ -17,6 +17,12 @@ constexpr MarkupValue<TeskVariableGauge> VariableGaugeValues[] = {
 };
 // clang-format on
 
+const MarkupShape g_Shape({
+    .Name = Kind,
+    .Base = "gauge",
+    .Tables = {&RowsOf<VariableGaugeValues>},
+});
+
 } // namespace
 
 bool TeskVariableGauge::FromXML(XMLNode* node, XMLNode* templateNode)

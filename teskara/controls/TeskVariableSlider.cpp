@@ -40,6 +40,12 @@ constexpr MarkupValue<TeskVariableSlider> VariableSliderValues[] = {
 };
 // clang-format on
 
+const MarkupShape g_Shape({
+    .Name = Kind,
+    .Base = "slider",
+    .Tables = {&RowsOf<VariableSliderValues>},
+});
+
 } // namespace
 
 bool TeskVariableSlider::FromXML(XMLNode* node, XMLNode* templateNode)

@@ -5,7 +5,7 @@
 
 void MaskTextures(const MarkupSource& source, std::initializer_list<TeskTexture*> textures)
 {
-    const u32 mask = source.HexAttribute("ColorMask", 0);
+    const u32 mask = source.HexAttribute(MaskAttribute.Name.Text, 0);
     if (mask == 0)
         return;
 

@@ -1,14 +1,14 @@
 #include "teskara/element/EventNames.h"
 
-#include "teskara/element/EventRows.h"
+#include "teskara/element/MarkupRows.h"
 
 #include <set>
 #include <string_view>
 
 const char* NameOfEvent(const TeskElement& element, u32 atom)
 {
-    for (const EventRows* rows = EventRows::First(); rows; rows = rows->Next()) {
-        if (const char* name = rows->NameOf(element, atom))
+    for (const MarkupRows* rows = MarkupRows::First(); rows; rows = rows->Next()) {
+        if (const char* name = rows->NameOfEvent(element, atom))
             return name;
     }
     return nullptr;
@@ -19,13 +19,15 @@ std::vector<const char*> EventNames()
 try {
     std::vector<const char*> names;
     std::set<std::string_view> ofSomeKinds;
-    for (const EventRows* rows = EventRows::First(); rows; rows = rows->Next()) {
-        std::vector<const char*> own;
-        rows->AppendNames(own);
-        if (rows->IsOfEveryKind())
-            names.swap(own);
-        else
-            ofSomeKinds.insert(own.begin(), own.end());
+    for (const MarkupRows* table = MarkupRows::First(); table; table = table->Next()) {
+        std::vector<MarkupRow> rows;
+        table->AppendTo(rows);
+        for (const MarkupRow& row : rows) {
+            if (row.IsEvent && table->IsOfEveryKind())
+                names.push_back(row.Tag);
+            else if (row.IsEvent)
+                ofSomeKinds.insert(row.Tag);
+        }
     }
     for (const std::string_view name : ofSomeKinds)
         names.push_back(name.data());

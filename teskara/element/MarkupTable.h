@@ -3,12 +3,14 @@
 #include "teskara/core/AsciiCase.h"
 #include "teskara/core/Types.h"
 #include "teskara/element/ElementWatch.h"
-#include "teskara/element/EventRows.h"
+#include "teskara/element/MarkupRows.h"
+#include "teskara/element/MarkupShape.h"
 #include "teskara/element/TeskElement.h"
 #include "teskara/markup/MarkupSource.h"
 
 #include <cstddef>
 #include <span>
+#include <string>
 #include <string_view>
 #include <type_traits>
 #include <utility>
@@ -25,7 +27,7 @@
 //
 // The columns are kept by hand, so a table stands between the marks that keep the formatter away. A value that depends
 // on one just read is a row with a form of its own: {"name", lambda}. An event is a row like others, and known to
-// EventNames.h as soon as some code reads the table.
+// EventNames.h as soon as some code reads the table. Tools learn of a table from the MarkupShape of its kind.
 
 // What a value is if neither node nor template has it.
 struct MarkupDefault {
@@ -42,11 +44,12 @@ struct MarkupDefault {
 };
 
 // How a text becomes the field of a control: the name that people read, and the function. If the field is a script, the
-// value is an event, and Script finds it.
+// value is an event, and Script finds it. A value that is one of a few words names them.
 template <class Owner> struct MarkupForm {
     const char* Name;
     void (*Read)(Owner& control, const MarkupSource& source, TagName tag, MarkupDefault fallback);
     const ScriptPointer& (*Script)(const Owner& control) = nullptr;
+    std::span<const MarkupWord> Words = {};
 };
 
 template <class Owner> struct MarkupValue {
@@ -55,23 +58,29 @@ template <class Owner> struct MarkupValue {
     MarkupDefault Default;
 };
 
-// The events of a table.
-template <class Owner> class MarkupEvents final : public EventRows
+// The default as markup would say it; empty for a form that has none.
+TESKARA_EXPORT std::string DefaultText(
+    std::string_view form, const MarkupDefault& value, std::span<const MarkupWord> words);
+
+// A table, for those who do not know its kind.
+template <class Owner> class MarkupTableRows final : public MarkupRows
 {
 public:
-    template <std::size_t Count> explicit MarkupEvents(const MarkupValue<Owner> (&values)[Count]) : m_Values(values) { }
+    template <std::size_t Count> explicit MarkupTableRows(const MarkupValue<Owner> (&values)[Count]) : m_Values(values)
+    {
+    }
 
     bool IsOfEveryKind() const override { return std::is_same_v<Owner, TeskElement>; }
 
-    void AppendNames(std::vector<const char*>& names) const override
+    void AppendTo(std::vector<MarkupRow>& rows) const override
     {
-        for (const MarkupValue<Owner>& value : m_Values) {
-            if (value.Form.Script)
-                names.push_back(value.Tag.Text);
+        for (const auto& [tag, form, fallback] : m_Values) {
+            rows.push_back({tag.Text, form.Name, DefaultText(form.Name, fallback, form.Words), form.Words,
+                form.Script != nullptr});
         }
     }
 
-    const char* NameOf(const TeskElement& element, u32 atom) const override
+    const char* NameOfEvent(const TeskElement& element, u32 atom) const override
     {
         const auto* owner = dynamic_cast<const Owner*>(&element);
         if (!owner)
@@ -90,12 +99,12 @@ private:
 };
 
 // Those of one table, from the start of the program on.
-template <const auto& Values> inline const MarkupEvents EventsOf(Values);
+template <const auto& Values> inline const MarkupTableRows RowsOf(Values);
 
 // Reads every value of a table in its order. False: the control was deleted meanwhile, or memory ran out.
 template <const auto& Values, class Control> bool ReadMarkup(Control& control, const MarkupSource& source)
 {
-    static_cast<void>(&EventsOf<Values>);
+    static_cast<void>(&RowsOf<Values>);
     const ElementWatch self(control);
     try {
         for (const auto& value : Values) {
@@ -149,7 +158,7 @@ constexpr MarkupForm<OwnerOf<Field>> Toggle = {
 
 template <auto Field>
 constexpr MarkupForm<OwnerOf<Field>> Text = {
-    "text", [](OwnerOf<Field>& control, const MarkupSource& source, TagName tag, MarkupDefault fallback) {
+    "string", [](OwnerOf<Field>& control, const MarkupSource& source, TagName tag, MarkupDefault fallback) {
         control.*Field = source.Text(tag, fallback.Text);
     }};
 
@@ -162,14 +171,9 @@ constexpr MarkupForm<OwnerOf<Field>> Sequence = {
     }};
 
 // One of a few words, in any case. Words is a constant array of MarkupWord; any other text means the default.
-struct MarkupWord {
-    std::string_view Word;
-    u32 Value;
-};
-
 template <auto Field, const auto& Words>
-constexpr MarkupForm<OwnerOf<Field>> Word = {
-    "word", [](OwnerOf<Field>& control, const MarkupSource& source, TagName tag, MarkupDefault fallback) {
+constexpr MarkupForm<OwnerOf<Field>> Word = {"word",
+    [](OwnerOf<Field>& control, const MarkupSource& source, TagName tag, MarkupDefault fallback) {
         const std::string_view text = source.Text(tag, "");
         u32 number = fallback.Number;
         for (const MarkupWord& word : Words) {
@@ -177,7 +181,8 @@ constexpr MarkupForm<OwnerOf<Field>> Word = {
                 number = word.Value;
         }
         control.*Field = static_cast<TypeOf<Field>>(number);
-    }};
+    },
+    nullptr, Words};
 
 // A coordinate or dimension and how it follows the parent.
 template <auto Field, auto Position>

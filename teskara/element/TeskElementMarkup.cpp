@@ -2,6 +2,8 @@
 #include "teskara/core/HostCalls.h"
 #include "teskara/element/MarkupTable.h"
 #include "teskara/element/TeskElement.h"
+#include "teskara/markup/MarkupNames.h"
+#include "teskara/script/TypeGlobals.h"
 
 namespace {
 
@@ -27,7 +29,7 @@ constexpr MarkupForm<TeskElement> VisibleElseAsItIs = {
     }};
 
 constexpr MarkupForm<TeskElement> TextUnlessEmpty = {
-    "text", [](TeskElement& element, const MarkupSource& source, TagName tag, MarkupDefault fallback) {
+    "string", [](TeskElement& element, const MarkupSource& source, TagName tag, MarkupDefault fallback) {
         const char* text = source.Text(tag, fallback.Text);
         if (*text)
             element.AutoTooltip = std::make_unique<utf8string>(text);
@@ -67,6 +69,22 @@ constexpr MarkupValue<TeskElement> ElementValues[] = {
     {"AutoTooltip",        TextUnlessEmpty,                                                   ""},
 };
 // clang-format on
+
+constexpr MarkupPart ElementParts[] = {
+    {NameAttribute, "string", MarkupPlace::Attribute},
+    {TemplateAttribute, "template", MarkupPlace::Attribute},
+    {ChildrenTag, "children"},
+};
+
+const MarkupShape g_Shape({
+    .Name = "element",
+    .Use = MarkupUse::Base,
+    .ScriptType = &pTeskElementType,
+    .Tables = {&RowsOf<ElementValues>},
+    .Parts = {ElementParts},
+});
+
+const MarkupShape g_ChildrenShape({.Name = "children", .Use = MarkupUse::Value, .Holds = "element"});
 
 } // namespace
 

@@ -5,9 +5,11 @@
 #include "teskara/core/Utf8.h"
 #include "teskara/core/platform/Platform.h"
 #include "teskara/element/ElementWatch.h"
+#include "teskara/element/FontParts.h"
 #include "teskara/element/TeskElement.h"
 #include "teskara/element/TeskFixedFont.h"
 #include "teskara/element/TeskTexture.h"
+#include "teskara/markup/MarkupNames.h"
 #include "teskara/markup/MarkupSource.h"
 #include "teskara/markup/SkinScope.h"
 #include "teskara/markup/XMLDocument.h"
@@ -29,11 +31,11 @@ struct FontMarkup {
     FontMarkup(XMLNode* node, XMLNode* templateNode)
     {
         const MarkupSource source(node, templateNode);
-        Name = source.Text("Name", "");
-        Bold = source.Toggle("Bold", false);
-        Fixed = source.Toggle("Fixed", false);
-        Size = static_cast<u8>(source.Integer("Size", 0));
-        Color = source.Hex("Color", 0);
+        Name = source.Text(FontParts::Name.Name, "");
+        Bold = source.Toggle(FontParts::Bold.Name, false);
+        Fixed = source.Toggle(FontParts::Fixed.Name, false);
+        Size = static_cast<u8>(source.Integer(FontParts::Size.Name, 0));
+        Color = source.Hex(FontParts::Color.Name, 0);
     }
 
     const char* Name;
@@ -45,7 +47,7 @@ struct FontMarkup {
 
 XMLNode* FindFontTemplate(XMLNode* font)
 {
-    XMLNode* named = g_UIManager.FindTemplate(XMLHelper::GetStringAttribute(font, "Template", ""));
+    XMLNode* named = g_UIManager.FindTemplate(XMLHelper::GetStringAttribute(font, TemplateAttribute, ""));
     return named ? named : g_UIManager.FindTemplate(DefaultFontTemplate);
 }
 
@@ -95,10 +97,10 @@ TeskTexture* MakeTexture(XMLNode* markup)
         return nullptr;
 
     XMLNode* templateNode = nullptr;
-    const char* name = XMLHelper::GetStringAttribute(markup, "Filename", "");
+    const char* name = XMLHelper::GetStringAttribute(markup, FilenameAttribute, "");
     if (!*name) {
-        templateNode = g_UIManager.FindTemplate(XMLHelper::GetStringAttribute(markup, "Template", ""));
-        name = XMLHelper::GetStringAttribute(templateNode, "Filename", "");
+        templateNode = g_UIManager.FindTemplate(XMLHelper::GetStringAttribute(markup, TemplateAttribute, ""));
+        name = XMLHelper::GetStringAttribute(templateNode, FilenameAttribute, "");
         if (!*name)
             return nullptr;
     }

@@ -6,12 +6,32 @@
 #include "teskara/core/HostCalls.h"
 #include "teskara/core/Limits.h"
 #include "teskara/core/Numbers.h"
+#include "teskara/element/FontParts.h"
 #include "teskara/element/TeskElement.h"
 #include "teskara/element/TeskScreen.h"
+#include "teskara/markup/MarkupNames.h"
 #include "teskara/markup/XMLHelper.h"
 
 #include <algorithm>
 #include <cstring>
+
+namespace {
+
+constexpr MarkupPart Parts[] = {
+    {TemplateAttribute, "template", MarkupPlace::Attribute},
+    FontParts::Name,
+    FontParts::Bold,
+    FontParts::Fixed,
+    FontParts::Size,
+    FontParts::Color,
+    FontParts::SizeAttribute,
+    FontParts::ColorAttribute,
+};
+
+const MarkupShape g_Shape({.Name = "font", .Use = MarkupUse::Value, .Parts = {Parts}});
+const MarkupShape g_FixedShape({.Name = "fixed font", .Base = "font", .Use = MarkupUse::Value});
+
+} // namespace
 
 TeskFont::TeskFont(TeskElement* owner, const char* name, u8 size, bool fixed, bool bold)
     : Name(TextOrEmpty(name)), Size(size), Bold(bold), Fixed(fixed), Owner(owner)
@@ -60,11 +80,11 @@ _CreateFont TeskFont::WithFallbacks(const _CreateFont& record, XMLNode* template
     }
 
     if (!full.Name)
-        full.Name = XMLHelper::GetStringValue(templateNode, "Name", "");
+        full.Name = XMLHelper::GetStringValue(templateNode, FontParts::Name.Name.Text, "");
     if (full.Color == 0)
-        full.Color = XMLHelper::GetHexAttribute(templateNode, "Color", 0);
+        full.Color = XMLHelper::GetHexAttribute(templateNode, FontParts::ColorAttribute.Name.Text, 0);
     if (full.Size == 0)
-        full.Size = XMLHelper::GetIntAttribute(templateNode, "Size", 0);
+        full.Size = XMLHelper::GetIntAttribute(templateNode, FontParts::SizeAttribute.Name.Text, 0);
     return full;
 }
 

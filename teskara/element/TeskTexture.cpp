@@ -2,6 +2,8 @@
 
 #include "teskara/core/BoundedText.h"
 #include "teskara/core/CUIManager.h"
+#include "teskara/element/MarkupShape.h"
+#include "teskara/markup/MarkupNames.h"
 #include "teskara/markup/MarkupSource.h"
 #include "teskara/markup/XMLHelper.h"
 
@@ -18,6 +20,51 @@ constexpr TextureEdge Edges[] = {
     {"bottom", &TeskTexture::Bottom},
     {"top", &TeskTexture::Top},
 };
+
+// In the order of reading.
+constexpr MarkupPart TrianglePart = {"Triangle", "triangle"};
+constexpr MarkupPart BorderPart = {"Border", "integer"};
+constexpr MarkupPart OrientationPart = {"Orientation", "integer"};
+constexpr MarkupPart AlphaPart = {"Alpha", "float"};
+constexpr MarkupPart ColorMaskPart = {"ColorMask", "hex"};
+constexpr MarkupPart ColorKeyPart = {"ColorKey", "hex", MarkupPlace::Attribute};
+constexpr MarkupPart ColorMaskAttribute = {"ColorMask", "hex", MarkupPlace::Attribute};
+
+constexpr MarkupPart TextureParts[] = {
+    {FilenameAttribute, "file", MarkupPlace::Attribute},
+    {TemplateAttribute, "template", MarkupPlace::Attribute},
+    {Edges[0].Tag, "integer"},
+    {Edges[1].Tag, "integer"},
+    {Edges[2].Tag, "integer"},
+    {Edges[3].Tag, "integer"},
+    TrianglePart,
+    BorderPart,
+    OrientationPart,
+    AlphaPart,
+    ColorMaskPart,
+    ColorKeyPart,
+    ColorMaskAttribute,
+};
+
+struct TriangleCorner {
+    MarkupPart Part;
+    float TeskTexture::*Field;
+};
+
+constexpr TriangleCorner Corners[] = {
+    {{"X1", "float", MarkupPlace::Attribute}, &TeskTexture::X1},
+    {{"Y1", "float", MarkupPlace::Attribute}, &TeskTexture::Y1},
+    {{"X2", "float", MarkupPlace::Attribute}, &TeskTexture::X2},
+    {{"Y2", "float", MarkupPlace::Attribute}, &TeskTexture::Y2},
+    {{"X3", "float", MarkupPlace::Attribute}, &TeskTexture::X3},
+    {{"Y3", "float", MarkupPlace::Attribute}, &TeskTexture::Y3},
+};
+
+constexpr MarkupPart TriangleParts[] = {
+    Corners[0].Part, Corners[1].Part, Corners[2].Part, Corners[3].Part, Corners[4].Part, Corners[5].Part};
+
+const MarkupShape g_TextureShape({.Name = "texture", .Use = MarkupUse::Value, .Parts = {TextureParts}});
+const MarkupShape g_TriangleShape({.Name = TrianglePart.Form, .Use = MarkupUse::Value, .Parts = {TriangleParts}});
 
 } // namespace
 
@@ -69,7 +116,7 @@ bool TeskTexture::FromXML(XMLNode* node)
 bool TeskTexture::FromXML(XMLNode* node, XMLNode* templateNode)
 {
     if (!templateNode)
-        templateNode = g_UIManager.FindTemplate(XMLHelper::GetStringAttribute(node, "Template", ""));
+        templateNode = g_UIManager.FindTemplate(XMLHelper::GetStringAttribute(node, TemplateAttribute, ""));
 
     const MarkupSource source(node, templateNode);
     for (const auto& [tag, field] : Edges) {
@@ -77,19 +124,19 @@ bool TeskTexture::FromXML(XMLNode* node, XMLNode* templateNode)
         if (this->*field != 0)
             Flags |= TextureHasRect;
     }
-    if (XMLNode* triangle = source.Child("Triangle"))
+    if (XMLNode* triangle = source.Child(TrianglePart.Name))
         ReadTriangle(triangle);
-    Border = source.Integer("Border", 0);
-    Orientation = static_cast<u8>(source.Integer("Orientation", 0));
-    if (source.Child("Alpha")) {
+    Border = source.Integer(BorderPart.Name, 0);
+    Orientation = static_cast<u8>(source.Integer(OrientationPart.Name, 0));
+    if (source.Child(AlphaPart.Name)) {
         Flags |= TextureHasAlpha;
-        Alpha = source.Float("Alpha", 1.0f);
+        Alpha = source.Float(AlphaPart.Name, 1.0f);
     }
-    if (source.Child("ColorMask")) {
+    if (source.Child(ColorMaskPart.Name)) {
         Flags |= TextureHasColorMask;
-        ColorMask = source.Hex("ColorMask", 0);
+        ColorMask = source.Hex(ColorMaskPart.Name, 0);
     }
-    ColorKey = source.HexAttribute("ColorKey", 0);
+    ColorKey = source.HexAttribute(ColorKeyPart.Name.Text, 0);
     ReadColorMaskAttribute(node, templateNode);
     return true;
 }
@@ -97,23 +144,21 @@ bool TeskTexture::FromXML(XMLNode* node, XMLNode* templateNode)
 void TeskTexture::ReadTriangle(XMLNode* triangle)
 {
     Flags |= TextureHasTriangle;
-    X1 = XMLHelper::GetFloatAttribute(triangle, "X1", 0);
-    Y1 = XMLHelper::GetFloatAttribute(triangle, "Y1", 0);
-    X2 = XMLHelper::GetFloatAttribute(triangle, "X2", 0);
-    Y2 = XMLHelper::GetFloatAttribute(triangle, "Y2", 0);
-    X3 = XMLHelper::GetFloatAttribute(triangle, "X3", 0);
-    Y3 = XMLHelper::GetFloatAttribute(triangle, "Y3", 0);
+    for (const auto& [part, field] : Corners)
+        this->*field = XMLHelper::GetFloatAttribute(triangle, part.Name.Text, 0);
 }
 
 // An attribute that only the template has turns the mask on, but its value is asked of the node, which gives 0.
 void TeskTexture::ReadColorMaskAttribute(XMLNode* node, XMLNode* templateNode)
 {
-    const auto isGiven = [](XMLNode* place) { return *XMLHelper::GetStringAttribute(place, "ColorMask", "") != 0; };
+    const auto isGiven = [](XMLNode* place) {
+        return *XMLHelper::GetStringAttribute(place, ColorMaskAttribute.Name.Text, "") != 0;
+    };
     if (!isGiven(node) && !isGiven(templateNode))
         return;
 
     Flags |= TextureHasColorMask;
-    ColorMask = XMLHelper::GetHexAttribute(node, "ColorMask", 0);
+    ColorMask = XMLHelper::GetHexAttribute(node, ColorMaskAttribute.Name.Text, 0);
 }
 
 bool TeskTexture::Prepare() const

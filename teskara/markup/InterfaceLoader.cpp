@@ -9,9 +9,11 @@
 #include "teskara/core/Limits.h"
 #include "teskara/core/MarkupReading.h"
 #include "teskara/element/ElementWatch.h"
+#include "teskara/element/MarkupShape.h"
 #include "teskara/element/TeskElement.h"
 #include "teskara/element/TeskElementFactory.h"
 #include "teskara/element/TeskScreen.h"
+#include "teskara/markup/MarkupNames.h"
 #include "teskara/markup/SkinScope.h"
 #include "teskara/markup/TeskSkin.h"
 #include "teskara/markup/XMLDocument.h"
@@ -32,9 +34,18 @@ struct CUIManager::LoadRequest {
 
 namespace {
 
-constexpr TagName TemplateTag = "Template";
-constexpr TagName SkinTag = "Skin";
-constexpr TagName ChildrenTag = "Children";
+constexpr MarkupPart TemplatePart = {TemplateTag, "template element"};
+constexpr MarkupPart SkinPart = {SkinTag, "skin"};
+constexpr MarkupPart FileParts[] = {TemplatePart, SkinPart};
+
+constexpr MarkupPart NameParts[] = {
+    {NameAttribute, "string", MarkupPlace::Attribute},
+    {TemplateAttribute, "templates", MarkupPlace::Attribute},
+};
+
+const MarkupShape g_FileShape({.Name = "file", .Use = MarkupUse::Value, .Parts = {FileParts}, .Holds = "element"});
+const MarkupShape g_TemplateShape(
+    {.Name = TemplatePart.Form, .Use = MarkupUse::Value, .Parts = {NameParts}, .Holds = "value"});
 
 bool IsElement(const XMLNode* node)
 {
@@ -48,7 +59,7 @@ bool HasTag(const XMLNode* node, TagName tag)
 
 const char* NameOf(XMLNode* node)
 {
-    return XMLHelper::GetStringAttribute(node, "name", "");
+    return XMLHelper::GetStringAttribute(node, NameAttribute, "");
 }
 
 void LoadSkin(XMLNode* node)
@@ -57,7 +68,7 @@ void LoadSkin(XMLNode* node)
     if (!skin)
         return;
 
-    XMLNode* templateNode = g_UIManager.FindTemplate(XMLHelper::GetStringAttribute(node, "Template", ""));
+    XMLNode* templateNode = g_UIManager.FindTemplate(XMLHelper::GetStringAttribute(node, TemplateAttribute, ""));
     if (!skin->FromXML(node, templateNode))
         g_UIManager.RemoveSkin(skin->Name.c_str());
 }
@@ -268,7 +279,7 @@ try {
 
     const MarkupReading reading;
     if (!templateName)
-        templateName = XMLHelper::GetStringAttribute(node, "Template", "");
+        templateName = XMLHelper::GetStringAttribute(node, TemplateAttribute, "");
     const utf8string parentName = parent->Name;
     TeskElement* element = factory->Create(parent, name, node, templateName);
     if (!element) {

@@ -4,6 +4,7 @@
 #include "teskara/core/CUIManager.h"
 #include "teskara/core/Numbers.h"
 #include "teskara/markup/ElementPosition.h"
+#include "teskara/markup/MarkupQuestions.h"
 
 namespace {
 
@@ -31,6 +32,7 @@ u64 MarkupSource::NamesOf(const XMLNode* node)
 
 XMLNode* MarkupSource::Child(TagName tag) const
 {
+    MarkupQuestions::Tell({m_Node, tag.Text, false});
     const u64 bit = NameBit(tag.Hash);
     if (m_NodeNames & bit) {
         if (XMLNode* child = XMLHelper::GetChild(m_Node, tag))
@@ -93,6 +95,7 @@ u32 MarkupSource::HexAttribute(const char* name, u32 fallback) const
 
 u32 MarkupSource::Position(TagName tag, ElementPosition& position) const
 {
+    MarkupQuestions::Tell({m_Node, tag.Text, false});
     u32 value = 0;
     position = {};
     const u64 bit = NameBit(tag.Hash);

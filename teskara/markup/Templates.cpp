@@ -2,6 +2,7 @@
 
 #include "teskara/core/BoundedText.h"
 #include "teskara/core/CUIManager.h"
+#include "teskara/markup/MarkupNames.h"
 #include "teskara/markup/TemplateChain.h"
 #include "teskara/markup/TeskSkin.h"
 #include "teskara/markup/XMLDocument.h"
@@ -11,8 +12,6 @@
 #include <utility>
 
 namespace {
-
-constexpr TagName TemplateTag = "Template";
 
 bool IsTemplate(const XMLNode* node)
 {
@@ -40,7 +39,7 @@ try {
 
     const utf8string copiedName = name;
     StoredTemplate old = TakeTemplate(name);
-    const bool inherits = *XMLHelper::GetStringAttribute(node, "Template", "") != 0;
+    const bool inherits = *XMLHelper::GetStringAttribute(node, TemplateAttribute, "") != 0;
     StoredTemplate merged(inherits ? TemplateChain(node).Merge() : node->Clone(nullptr));
     RetireTemplate(std::move(old));
     return StoreTemplate(copiedName.c_str(), std::move(merged));

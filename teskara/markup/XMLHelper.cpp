@@ -2,16 +2,20 @@
 
 #include "teskara/core/Numbers.h"
 #include "teskara/markup/ElementPosition.h"
+#include "teskara/markup/MarkupQuestions.h"
 #include "teskara/markup/XMLAttribute.h"
 
 #include <optional>
 #include <string_view>
+
+constinit MarkupQuestions::Listener MarkupQuestions::g_Listener = nullptr;
 
 namespace {
 
 // The value of the attribute; null if there is none or it is empty.
 const char* AttributeText(XMLNode* node, const char* name)
 {
+    MarkupQuestions::Tell({node, name, true});
     const XMLAttribute* const attribute = node ? node->FindAttribute(name) : nullptr;
     return attribute && *attribute->Value ? attribute->Value : nullptr;
 }
@@ -126,6 +130,7 @@ XMLNode* XMLHelper::GetChild(XMLNode* node, const char* name)
 
 XMLNode* XMLHelper::GetChild(XMLNode* node, const char* name, u32 foldedHash)
 {
+    MarkupQuestions::Tell({node, name, false});
     const std::string_view wanted = name;
     for (XMLNode* child = GetFirstChild(node); child; child = child->Next)
         if (child->Type == XMLElementNode && child->HasName(wanted, foldedHash))

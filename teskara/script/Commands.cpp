@@ -47,3 +47,11 @@ void RemoveCommands()
     for (const CommandRow& row : Commands)
         Host::RemoveCommand(row.Name);
 }
+
+std::vector<const char*> CommandNames()
+{
+    std::vector<const char*> names;
+    for (const CommandRow& row : Commands)
+        names.push_back(row.Name);
+    return names;
+}

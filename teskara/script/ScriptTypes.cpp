@@ -75,9 +75,9 @@ MvTypeDefinition* pUintType = nullptr;
 namespace {
 
 // Makes a type with all its names. Throws when there is no memory.
-using TypeMaker = std::unique_ptr<MvTypeDefinition> (*)(const char* name);
+using TypeMaker = std::unique_ptr<ToolkitType> (*)(const char* name);
 
-template <class Type> std::unique_ptr<MvTypeDefinition> Make(const char* name)
+template <class Type> std::unique_ptr<ToolkitType> Make(const char* name)
 {
     return std::make_unique<Type>(name);
 }
@@ -196,4 +196,19 @@ void RemoveScriptTypes()
     for (const HostTypeRow& row : HostTypes)
         *row.Type = nullptr;
     g_Registered = false;
+}
+
+void VisitScriptTypes(const ScriptTypeVisitor& visit)
+{
+    for (const TypeRow& row : Types)
+        visit(*row.Make(row.Name), NameOfScriptType(row.Base));
+}
+
+const char* NameOfScriptType(MvTypeDefinition* const* type)
+{
+    for (const TypeRow& row : Types) {
+        if (row.Type == type)
+            return row.Name;
+    }
+    return nullptr;
 }

@@ -83,3 +83,11 @@ void RemoveTopLevelObjects()
     for (const ObjectRow& row : Objects)
         Host::RemoveTopLevelObject(row.Name);
 }
+
+std::vector<const char*> TopLevelObjectNames()
+{
+    std::vector<const char*> names;
+    for (const ObjectRow& row : Objects)
+        names.push_back(row.Name);
+    return names;
+}

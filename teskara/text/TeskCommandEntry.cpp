@@ -28,6 +28,12 @@ constexpr MarkupValue<TeskCommandEntry> CommandEntryValues[] = {
 };
 // clang-format on
 
+const MarkupShape g_Shape({
+    .Name = Kind,
+    .Base = "textentry",
+    .Tables = {&RowsOf<CommandEntryValues>},
+});
+
 } // namespace
 
 // The blank line is the bottom row of the walk, until the ring comes round to it.

@@ -38,6 +38,17 @@ constexpr MarkupValue<TeskConsole> ConsoleValues[] = {
 };
 // clang-format on
 
+constexpr MarkupPart BarPart = {"ScrollBar", "scrollbar", MarkupPlace::NamedChild};
+constexpr MarkupPart ConsoleParts[] = {BarPart};
+
+const MarkupShape g_Shape({
+    .Name = Kind,
+    .Base = "element",
+    .ScriptType = &pTeskConsoleType,
+    .Tables = {&RowsOf<ConsoleValues>},
+    .Parts = {ConsoleParts},
+});
+
 } // namespace
 
 bool TeskConsole::FromXML(XMLNode* node, XMLNode* templateNode)
@@ -52,7 +63,7 @@ bool TeskConsole::FromXML(XMLNode* node, XMLNode* templateNode)
     values.PositionX = {PositionFarEdge, values.Width};
     values.Range = BackBufferSize;
     const ElementWatch self(*this);
-    TeskScrollBar* bar = LoadScrollBar(*this, source, "ScrollBar", values);
+    TeskScrollBar* bar = LoadScrollBar(*this, source, BarPart.Name, values);
     if (!bar || !self.Exists())
         return false;
 

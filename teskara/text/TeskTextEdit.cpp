@@ -24,6 +24,17 @@ constexpr MarkupValue<TeskTextEdit> EditValues[] = {
 };
 // clang-format on
 
+constexpr MarkupPart BarPart = {"VerticalScrollBar", "scrollbar", MarkupPlace::NamedChild};
+constexpr MarkupPart EditParts[] = {BarPart};
+
+const MarkupShape g_Shape({
+    .Name = Kind,
+    .Base = "frame",
+    .ScriptType = &pTeskTextEditType,
+    .Tables = {&RowsOf<EditValues>},
+    .Parts = {EditParts},
+});
+
 // At the right edge.
 _CreateScrollBar EdgeScrollBar()
 {
@@ -62,7 +73,7 @@ bool TeskTextEdit::FromXML(XMLNode* node, XMLNode* templateNode)
         return false;
 
     const ElementWatch self(*this);
-    TeskScrollBar* bar = LoadScrollBar(*this, source, "VerticalScrollBar", EdgeScrollBar());
+    TeskScrollBar* bar = LoadScrollBar(*this, source, BarPart.Name, EdgeScrollBar());
     if (!bar || !self.Exists())
         return false;
 

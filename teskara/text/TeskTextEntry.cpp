@@ -29,7 +29,7 @@ constexpr MarkupForm<TeskTextEntry> Length = {
     }};
 
 constexpr MarkupForm<TeskTextEntry> FirstByte = {
-    "text", [](TeskTextEntry& entry, const MarkupSource& source, TagName tag, MarkupDefault fallback) {
+    "string", [](TeskTextEntry& entry, const MarkupSource& source, TagName tag, MarkupDefault fallback) {
         entry.PasswordCharacter = *source.Text(tag, fallback.Text);
     }};
 
@@ -53,6 +53,13 @@ constexpr MarkupValue<TeskTextEntry> EntryFont[] = {
     {"Font", Markup::Font<&TeskTextEntry::Font>, {}},
 };
 // clang-format on
+
+const MarkupShape g_Shape({
+    .Name = Kind,
+    .Base = "element",
+    .ScriptType = &pTeskTextEntryType,
+    .Tables = {&RowsOf<EntryValues>},
+});
 
 // A key that does something else than to give a character.
 struct KeyAction {

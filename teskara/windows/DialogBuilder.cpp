@@ -7,6 +7,12 @@ namespace {
 constexpr u32 ButtonFontSize = 12;
 constexpr i32 TextTop = 5;
 
+constexpr MarkupPart BorderPart = {"Border", "integer", MarkupPlace::TemplateChild};
+constexpr MarkupPart BackgroundPart = {"BackgroundColor", "hex", MarkupPlace::TemplateChild};
+constexpr MarkupPart DialogParts[] = {BorderPart, BackgroundPart};
+
+const MarkupShape g_Shape({.Name = "dialog", .Base = "dialog window", .Use = MarkupUse::Base, .Parts = {DialogParts}});
+
 u32 HeightOf(const TeskFont* font)
 {
     return font ? font->Size : 0;
@@ -43,14 +49,14 @@ bool DialogBuilder::MakeWindow(const char* title, u32 borderColor)
     _CreateWindow record;
     record.Width = m_Sizes.Width;
     record.Height = m_Sizes.WindowHeight;
-    record.Border = m_Source.Integer("Border", 0);
+    record.Border = m_Source.Integer(BorderPart.Name, 0);
     record.Title = title;
     m_Window.Create(record, m_Source.Template());
     if (!m_Watch.Exists())
         return false;
 
     m_Window.SetTitle(title);
-    m_Window.BackgroundColor = m_Source.Hex("BackgroundColor", 0);
+    m_Window.BackgroundColor = m_Source.Hex(BackgroundPart.Name, 0);
     m_Window.BorderColor = borderColor;
     m_Window.RecalculateChildrenSize();
     if (!m_Watch.Exists())

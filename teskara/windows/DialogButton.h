@@ -1,6 +1,6 @@
 #pragma once
 
-#include "teskara/markup/XMLHelper.h"
+#include "teskara/element/MarkupShape.h"
 
 // A button of dialogs: its text, which is its name too, and the tags of its look in a dialog's template.
 struct DialogButton {
@@ -22,3 +22,13 @@ inline constexpr DialogButton YesDialogButton =
 inline constexpr DialogButton NoDialogButton =
     {"No",     "NoColor",     "NoButton",     "NoTexture",     "NoTexturePressed",     "NoTextureHover"};
 // clang-format on
+
+// What a dialog's template may say of some buttons.
+template <const DialogButton&... Buttons>
+inline constexpr MarkupPart DialogButtonParts[] = {
+    {Buttons.Color, "hex", MarkupPlace::TemplateChild}...,
+    {Buttons.Template, "template", MarkupPlace::TemplateChild}...,
+    {Buttons.Texture, "texture", MarkupPlace::TemplateChild}...,
+    {Buttons.TexturePressed, "texture", MarkupPlace::TemplateChild}...,
+    {Buttons.TextureHover, "texture", MarkupPlace::TemplateChild}...,
+};

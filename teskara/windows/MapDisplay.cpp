@@ -31,6 +31,13 @@ constexpr MarkupValue<MapDisplay> AreaValues[] = {
 };
 // clang-format on
 
+const MarkupShape g_Shape({
+    .Name = "map area",
+    .Base = "element",
+    .Use = MarkupUse::Base,
+    .Tables = {&RowsOf<AreaValues>},
+});
+
 } // namespace
 
 bool MapDisplay::ReadArea(XMLNode* node, XMLNode* templateNode)

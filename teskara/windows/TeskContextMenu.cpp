@@ -35,6 +35,13 @@ constexpr MarkupValue<TeskContextMenu> MenuValues[] = {
 };
 // clang-format on
 
+const MarkupShape g_Shape({
+    .Name = Kind,
+    .Base = "frame",
+    .Use = MarkupUse::Made,
+    .Tables = {&RowsOf<MenuValues>},
+});
+
 // The handler must not know the menu any longer, even if its own operation forgets to see to that or fails.
 void TellMenuDestroyed(CContextMenuHandler& handler, const TeskContextMenu* menu)
 {

@@ -13,13 +13,13 @@ constexpr char Kind[] = "map";
 constexpr char BlipKind[] = "mapblip";
 
 constexpr MarkupForm<TeskMap> FactoryElseBlip = {
-    "text", [](TeskMap& map, const MarkupSource& source, TagName tag, MarkupDefault fallback) {
+    "string", [](TeskMap& map, const MarkupSource& source, TagName tag, MarkupDefault fallback) {
         const char* factory = source.Text(tag, fallback.Text);
         CopyBounded(map.BlipFactory, sizeof(map.BlipFactory), *factory ? factory : BlipKind);
     }};
 
 constexpr MarkupForm<TeskMap> OwnTemplate = {
-    "text", [](TeskMap& map, const MarkupSource& source, TagName tag, MarkupDefault fallback) {
+    "string", [](TeskMap& map, const MarkupSource& source, TagName tag, MarkupDefault fallback) {
         map.BlipTemplate = std::make_unique<utf8string>(source.Text(tag, fallback.Text));
     }};
 
@@ -29,6 +29,13 @@ constexpr MarkupValue<TeskMap> MapValues[] = {
     {"BlipTemplate", OwnTemplate,     ""},
 };
 // clang-format on
+
+const MarkupShape g_Shape({
+    .Name = Kind,
+    .Base = "map area",
+    .ScriptType = &pTeskMapType,
+    .Tables = {&RowsOf<MapValues>},
+});
 
 bool IsEmpty(const char* text)
 {

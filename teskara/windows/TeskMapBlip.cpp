@@ -19,6 +19,13 @@ constexpr MarkupValue<TeskMapBlip> BlipValues[] = {
 };
 // clang-format on
 
+const MarkupShape g_Shape({
+    .Name = Kind,
+    .Base = "frame",
+    .ScriptType = &pTeskMapBlipType,
+    .Tables = {&RowsOf<BlipValues>},
+});
+
 } // namespace
 
 TeskMapBlip::~TeskMapBlip()

@@ -4,8 +4,19 @@
 #include "teskara/core/BoundedText.h"
 #include "teskara/core/CUIManager.h"
 #include "teskara/element/ElementWatch.h"
+#include "teskara/element/MarkupShape.h"
 #include "teskara/windows/MapLabel.h"
 #include "teskara/windows/TeskMapView.h"
+
+namespace {
+
+const MarkupShape g_Shape({
+    .Name = "mapblipview",
+    .Base = "frame",
+    .Use = MarkupUse::Made,
+});
+
+} // namespace
 
 TeskMapBlipView::~TeskMapBlipView()
 {

@@ -10,6 +10,11 @@ namespace {
 constexpr char Kind[] = "mapview";
 constexpr char BlipViewKind[] = "mapblipview";
 
+const MarkupShape g_Shape({
+    .Name = Kind,
+    .Base = "map area",
+});
+
 const _Point3f* PointOf(const TeskMapBlipView& view)
 {
     const TeskMapBlip* blip = view.Blip();

@@ -13,6 +13,18 @@ constexpr char Kind[] = "messagebox";
 // Below the text.
 constexpr u32 Room = 30;
 
+constexpr MarkupPart FontPart = {"Font", "font", MarkupPlace::TemplateChild};
+constexpr MarkupPart BorderColorPart = {"BorderColor", "hex", MarkupPlace::TemplateChild};
+constexpr MarkupPart BoxParts[] = {FontPart, BorderColorPart};
+
+const MarkupShape g_Shape({
+    .Name = Kind,
+    .Base = "dialog",
+    .Use = MarkupUse::Made,
+    .ScriptType = &pTeskMessageBoxType,
+    .Parts = {BoxParts, DialogButtonParts<OKDialogButton, CancelDialogButton, YesDialogButton, NoDialogButton>},
+});
+
 } // namespace
 
 // A button of a type of box: how wide it is, how far from the first one it stands, and how wide all of them are.
@@ -61,12 +73,12 @@ void TeskMessageBox::Create(const char* title, const char* text, eMessageBoxType
     if (!templateNode)
         templateNode = g_UIManager.FindTemplate(Kind);
     Type = type;
-    Font.reset(FontFromXML(templateNode, "Font", nullptr));
+    Font.reset(FontFromXML(templateNode, FontPart.Name.Text, nullptr));
     DialogBuilder dialog(*this, templateNode, Font.get());
     const u32 lineHeight = Font ? Font->Size + 1u : 1u;
     if (!dialog.BreakText(text, {lineHeight, Room}))
         return;
-    if (!dialog.MakeWindow(title, dialog.Source().Hex("BorderColor", 0)))
+    if (!dialog.MakeWindow(title, dialog.Source().Hex(BorderColorPart.Name, 0)))
         return;
 
     MakeText(dialog);

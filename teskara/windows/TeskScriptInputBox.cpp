@@ -2,6 +2,7 @@
 
 #include "teskara/core/AsciiCase.h"
 #include "teskara/core/BoundedText.h"
+#include "teskara/script/TypeGlobals.h"
 #include "teskara/text/TeskTextEntry.h"
 #include "teskara/windows/DialogBuilder.h"
 
@@ -19,6 +20,21 @@ constexpr u32 EntryBottom = 50; // from its top to the bottom of the box
 constexpr u32 EntryMargin = 5;
 constexpr u32 EntryHeight = 20;
 
+constexpr MarkupPart FontPart = {"Font", "font", MarkupPlace::TemplateChild};
+constexpr MarkupPart TexturePart = {"Texture", "texture", MarkupPlace::TemplateChild};
+
+// Unlike that of a message box, the colour is read as a decimal number.
+constexpr MarkupPart BorderColorPart = {"BorderColor", "integer", MarkupPlace::TemplateChild};
+constexpr MarkupPart BoxParts[] = {FontPart, TexturePart, BorderColorPart};
+
+const MarkupShape g_Shape({
+    .Name = Kind,
+    .Base = "dialog",
+    .Use = MarkupUse::Made,
+    .ScriptType = &pTeskWindowType,
+    .Parts = {BoxParts, DialogButtonParts<OKDialogButton, CancelDialogButton>},
+});
+
 } // namespace
 
 bool TeskScriptInputBox::FromXML(XMLNode*, XMLNode*)
@@ -35,14 +51,13 @@ void TeskScriptInputBox::Create(const char* title, const char* text, const char*
 {
     if (!templateNode)
         templateNode = g_UIManager.FindTemplate(Kind);
-    Font.reset(FontFromXML(templateNode, "Font", nullptr));
+    Font.reset(FontFromXML(templateNode, FontPart.Name.Text, nullptr));
     DialogBuilder dialog(*this, templateNode, Font.get());
     if (!dialog.BreakText(text, {LineHeight, Room}))
         return;
 
-    Texture.reset(TextureFromXML(templateNode, "Texture", nullptr));
-    // Unlike that of a message box, the colour is read as a decimal number.
-    if (dialog.MakeWindow(title, dialog.Source().Integer("BorderColor", 0)) && MakeParts(dialog, initial))
+    Texture.reset(TextureFromXML(templateNode, TexturePart.Name.Text, nullptr));
+    if (dialog.MakeWindow(title, dialog.Source().Integer(BorderColorPart.Name, 0)) && MakeParts(dialog, initial))
         Center();
 }
 

@@ -3,6 +3,17 @@
 #include "teskara/core/AsciiCase.h"
 #include "teskara/core/BoundedText.h"
 #include "teskara/element/ElementWatch.h"
+#include "teskara/element/MarkupShape.h"
+
+namespace {
+
+const MarkupShape g_Shape({
+    .Name = "scriptmessagebox",
+    .Base = "messagebox",
+    .Use = MarkupUse::Made,
+});
+
+} // namespace
 
 bool TeskScriptMessageBox::IsTypeOf(const char* word)
 {

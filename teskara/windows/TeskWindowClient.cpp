@@ -2,6 +2,16 @@
 
 #include "teskara/core/AsciiCase.h"
 #include "teskara/core/BoundedText.h"
+#include "teskara/element/MarkupShape.h"
+
+namespace {
+
+const MarkupShape g_Shape({
+    .Name = "windowclient",
+    .Base = "frame",
+});
+
+} // namespace
 
 // It is no frame by this word, though it is one by its class.
 bool TeskWindowClient::IsTypeOf(const char* word)

@@ -4,6 +4,7 @@
 #include "teskara/core/MarkupReading.h"
 #include "teskara/core/Numbers.h"
 #include "teskara/element/MarkupTable.h"
+#include "teskara/script/TypeGlobals.h"
 #include "teskara/windows/TeskWindow.h"
 
 namespace {
@@ -27,13 +28,13 @@ constexpr MarkupForm<TeskWindow> Flag = {
 
 // Of the window's own node, never of its template.
 constexpr MarkupForm<TeskWindow> TitleElseName = {
-    "text", [](TeskWindow& window, const MarkupSource& source, TagName tag, MarkupDefault) {
+    "string", [](TeskWindow& window, const MarkupSource& source, TagName tag, MarkupDefault) {
         const char* title = XMLHelper::GetStringValue(source.Node(), tag.Text, window.Name.c_str());
         window.Title = std::make_unique<utf8string>(title);
     }};
 
 constexpr MarkupForm<TeskWindow> OwnClickFocus = {
-    "text", [](TeskWindow& window, const MarkupSource& source, TagName tag, MarkupDefault fallback) {
+    "string", [](TeskWindow& window, const MarkupSource& source, TagName tag, MarkupDefault fallback) {
         const char* name = XMLHelper::GetStringValue(source.Node(), tag.Text, fallback.Text);
         window.ClickFocus = std::make_unique<utf8string>(name);
     }};
@@ -62,6 +63,40 @@ constexpr MarkupValue<TeskWindow> CreatedWindowValues[] = {
     {"ClickFocus",           OwnClickFocus,                                  ""},
 };
 // clang-format on
+
+// Their attributes bound the size.
+constexpr MarkupPart MinHeightPart = {"MinHeight", "integer", MarkupPlace::Attribute, "Resizable"};
+constexpr MarkupPart MinWidthPart = {"MinWidth", "integer", MarkupPlace::Attribute, "Resizable"};
+constexpr MarkupPart TitleBarPart = {"TitleBar", "frame"};
+constexpr MarkupPart ClientPart = {"Client", "windowclient"};
+
+constexpr MarkupPart WindowParts[] = {
+    MinHeightPart,
+    MinWidthPart,
+    {MinHeightPart.Name, "integer", MarkupPlace::Attribute, "HeightResizable"},
+    {MinWidthPart.Name, "integer", MarkupPlace::Attribute, "WidthResizable"},
+    TitleBarPart,
+    ClientPart,
+};
+
+constexpr MarkupPart DialogWindowParts[] = {TitleBarPart, ClientPart};
+
+const MarkupShape g_Shape({
+    .Name = Kind,
+    .Base = "frame",
+    .ScriptType = &pTeskWindowType,
+    .Tables = {&RowsOf<WindowValues>},
+    .Parts = {WindowParts},
+});
+
+// The window that a dialog is takes these from the dialog's template.
+const MarkupShape g_DialogShape({
+    .Name = "dialog window",
+    .Base = nullptr,
+    .Use = MarkupUse::Base,
+    .Tables = {&RowsOf<CreatedWindowValues>},
+    .Parts = {DialogWindowParts},
+});
 
 // A part whose markup says nothing at all is none. An empty one of the window's own still hides that of the template.
 XMLNode* PartMarkup(const MarkupSource& source, TagName tag)
@@ -126,24 +161,24 @@ void TeskWindow::ReadBounds(const MarkupSource& source)
     XMLNode* width = both ? both : source.Child("WidthResizable");
     XMLNode* height = both ? both : source.Child("HeightResizable");
     if (height)
-        MinHeight = XMLHelper::GetIntAttribute(height, "MinHeight", LeastHeightOfMarkup);
+        MinHeight = XMLHelper::GetIntAttribute(height, MinHeightPart.Name.Text, LeastHeightOfMarkup);
     if (width)
-        MinWidth = XMLHelper::GetIntAttribute(width, "MinWidth", LeastWidthOfMarkup);
+        MinWidth = XMLHelper::GetIntAttribute(width, MinWidthPart.Name.Text, LeastWidthOfMarkup);
 }
 
 // False: the window was deleted meanwhile.
 bool TeskWindow::LoadParts(const MarkupSource& source)
 {
-    XMLNode* titleBar = PartMarkup(source, "TitleBar");
+    XMLNode* titleBar = PartMarkup(source, TitleBarPart.Name);
     if (titleBar && !LoadTitleBar(titleBar))
         return false;
 
-    XMLNode* client = PartMarkup(source, "Client");
+    XMLNode* client = PartMarkup(source, ClientPart.Name);
     if (!client)
         return true;
 
     const ElementWatch self(*this);
-    TeskElement* made = g_UIManager.LoadElement(this, "windowclient", "Client", client, nullptr);
+    TeskElement* made = g_UIManager.LoadElement(this, ClientPart.Form, "Client", client, nullptr);
     if (!self.Exists())
         return false;
 
@@ -154,7 +189,7 @@ bool TeskWindow::LoadParts(const MarkupSource& source)
 bool TeskWindow::LoadTitleBar(XMLNode* node)
 {
     const ElementWatch self(*this);
-    TeskElement* made = g_UIManager.LoadElement(this, "frame", "TitleBar", node, nullptr);
+    TeskElement* made = g_UIManager.LoadElement(this, TitleBarPart.Form, "TitleBar", node, nullptr);
     if (!self.Exists())
         return false;
 

@@ -74,8 +74,8 @@ TEST_F(EventNamesTest, EventsOfEveryElementComeFirst)
 TEST_F(EventNamesTest, AnExtensionBringsItsEventsAndTakesThemAlong)
 {
     {
-        const MarkupEvents events(SingerValues);
-        const MarkupEvents others(SingerValues);
+        const MarkupTableRows events(SingerValues);
+        const MarkupTableRows others(SingerValues);
         EXPECT_TRUE(IsKnown("OnSing"));
         EXPECT_FALSE(IsKnown("Volume"));
         EXPECT_EQ(nullptr, NameOfEvent(Element("Plain"), 1000));
