@@ -260,7 +260,8 @@ TEST_F(DrawingTest, AListOfRectanglesIsSentAsGivenAndOnlyItsFirstTextureMatters)
         Calls());
     EXPECT_FALSE(Panel->TexturedRects(1, records + 1));
     EXPECT_FALSE(Panel->TexturedRects(1, nullptr));
-    EXPECT_TRUE(Panel->TexturedRects(0, records));
+    EXPECT_TRUE(Panel->TexturedRects(0, records + 1));
+    EXPECT_EQ("", Calls());
 }
 
 TEST_F(DrawingTest, AHostThatRefusesIsHeard)

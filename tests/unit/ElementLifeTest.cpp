@@ -97,6 +97,21 @@ TEST_F(ElementLifeTest, AnElementWithoutMarkupIsSizedAndCreatedAndReadsNothing)
     EXPECT_EQ("made a\nnot sized a\ncreated a\n", TakeDiary());
 }
 
+TEST_F(ElementLifeTest, WithoutParentKindNameOrMarkupNothingIsMadeAndNothingSaid)
+{
+    TeskElement* screen = g_UIManager.Screen;
+    XMLNode* node = g_UIManager.AddTemplate("t", "<Template/>");
+    EXPECT_EQ(nullptr, g_UIManager.LoadElement(nullptr, "diarist", "A"));
+    EXPECT_EQ(nullptr, g_UIManager.LoadElement(screen, nullptr, "A"));
+    EXPECT_EQ(nullptr, g_UIManager.LoadElement(screen, "diarist", nullptr));
+    EXPECT_EQ(nullptr, g_UIManager.LoadElement(nullptr, "diarist", "A", node, nullptr));
+    EXPECT_EQ(nullptr, g_UIManager.LoadElement(screen, nullptr, "A", node, nullptr));
+    EXPECT_EQ(nullptr, g_UIManager.LoadElement(screen, "diarist", nullptr, node, nullptr));
+    EXPECT_EQ(nullptr, g_UIManager.LoadElement(screen, "diarist", "A", nullptr, nullptr));
+    EXPECT_EQ("", TakeDiary());
+    EXPECT_EQ("", Host.TakeCalls());
+}
+
 TEST_F(ElementLifeTest, AParentGoesAheadOfItsChildren)
 {
     Load(Markup("P", "<Children>" + Markup("C") + Markup("D") + "</Children>"));
