@@ -73,7 +73,8 @@ private:
 
     bool HasOpened(const TeskElement& element) const { return !m_Permanent.contains(element.ID) && element.Visible; }
 
-    // Shows the window of a kind with what it opens. The mouse goes over that, as it would to choose from it.
+    // Shows the window of a kind with what it opens. The mouse goes over that, as it would to choose from it: only a move
+    // on a menu lights up a row.
     void Pose(const std::string& kind, TeskElement& window)
     {
         char nothing[64];
@@ -212,7 +213,8 @@ bool TakePictures(const GalleryOptions& options)
     host::InterfaceSession session(picture.Target(), settings);
     const std::vector<std::string> skins = options.Skins.empty() ? AllSkins() : options.Skins;
     return std::ranges::all_of(skins, [&](const std::string& skin) {
-        const std::filesystem::path name = std::filesystem::path(skin).filename();
+        const std::filesystem::path path = skin;
+        const std::filesystem::path name = path.has_filename() ? path.filename() : path.parent_path().filename();
         return session.OpenSkin(skin) && TakeSkin(picture, session, std::filesystem::path(options.Folder) / name);
     });
 }

@@ -118,6 +118,13 @@ class Checks(unittest.TestCase):
         self.assertEqual(len(found), 1, found)
         self.assertIn('"Base", which does not stand yet', found[0])
 
+    def test_states_must_be_covered(self):
+        hover = '"button" has no TextureHover'
+        self.assertTrue(any(hover in finding for finding in check_skins.uncovered_states({})))
+        texts = {"plate": "<T><TextureHover/></T>", "button": '<T Template="Other,Plate,"/>', "other": "<T/>"}
+        covered = {name: xml.etree.ElementTree.fromstring(text) for name, text in texts.items()}
+        self.assertFalse(any(hover in finding for finding in check_skins.uncovered_states(covered)))
+
     def test_skins_tell_the_same_colours(self):
         def skin(colors):
             return {"list colors": xml.etree.ElementTree.fromstring(f"<Template>{colors}</Template>")}
