@@ -65,6 +65,8 @@ TEST(ColorCodes, SixDigitsMakeAnyOpaqueColor)
     const Applied applied = Apply("#12aBfFtext");
     EXPECT_EQ(0xff12abffu, applied.Color);
     EXPECT_EQ("text", applied.Rest);
+    EXPECT_EQ(0xffafafafu, Apply("#AFafAF").Color);
+    EXPECT_EQ(0xff909090u, Apply("#909090").Color);
 }
 
 TEST(ColorCodes, DigitsThatAreNoneCountAsZero)
