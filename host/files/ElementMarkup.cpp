@@ -7,7 +7,8 @@
 #include "teskara/markup/XMLHelper.h"
 
 #include <algorithm>
-#include <ranges>
+#include <string>
+#include <vector>
 
 namespace host {
 
@@ -63,9 +64,11 @@ std::optional<std::string> FindElementMarkup(const UsedFiles& files, std::string
     if (name.empty())
         return std::nullopt;
 
-    for (const std::string& file : files.Interfaces() | std::views::reverse) {
+    // What was loaded last is what shows.
+    const std::vector<std::string>& paths = files.Interfaces();
+    for (auto file = paths.rbegin(); file != paths.rend(); ++file) {
         XMLDocument document;
-        if (!document.ParseFile(file.c_str()))
+        if (!document.ParseFile(file->c_str()))
             continue;
         XMLNode* root = XMLHelper::GetChild(document.Root, RootTag);
         if (const XMLNode* node = root ? FindByPath(root, name) : nullptr)
