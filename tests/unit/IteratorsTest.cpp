@@ -344,13 +344,11 @@ public:
     }
     u32 GetSize() override
     {
-        Act();
-        return Size.value_or(static_cast<u32>(Words.size()));
+        return Act() ? Size.value_or(static_cast<u32>(Words.size())) : 0;
     }
     bool GetEntry(u32 position, _MvTypeVar& result) override
     {
-        Act();
-        if (position == 0 || position > Words.size() || !Words[position - 1])
+        if (!Act() || position == 0 || position > Words.size() || !Words[position - 1])
             return false;
 
         result.Type = &m_Type;
@@ -363,13 +361,17 @@ public:
     std::function<void()> OnAsked;
 
 private:
-    void Act() const
+    // False: what was done has ended this.
+    bool Act() const
     {
+        const std::weak_ptr<int> life = m_Life;
         if (const auto act = OnAsked)
             act();
+        return !life.expired();
     }
 
     MvTypeDefinition& m_Type;
+    std::shared_ptr<int> m_Life = std::make_shared<int>();
 };
 
 template <class Container, class Iterator> void ExpectWalks(const char* typeName)

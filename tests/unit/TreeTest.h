@@ -13,6 +13,9 @@
 class TreeTest : public PressTest
 {
 protected:
+    // The trees end after this, and their scripts write into it no more.
+    ~TreeTest() override { Host.Scripts.clear(); }
+
     // A tree under the listener, 100 by 56, which has room for five rows, of which it counts on four.
     TeskTree& MakeTree(const std::string& markup = {})
     {
