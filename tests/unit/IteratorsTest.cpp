@@ -342,10 +342,7 @@ public:
     {
         return static_cast<u32>(std::ranges::count_if(Words, [](auto& word) { return !!word; }));
     }
-    u32 GetSize() override
-    {
-        return Act() ? Size.value_or(static_cast<u32>(Words.size())) : 0;
-    }
+    u32 GetSize() override { return Act() ? Size.value_or(static_cast<u32>(Words.size())) : 0; }
     bool GetEntry(u32 position, _MvTypeVar& result) override
     {
         if (!Act() || position == 0 || position > Words.size() || !Words[position - 1])
