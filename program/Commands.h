@@ -11,6 +11,7 @@ void AddRunCommand(CLI::App& app, int& exitCode);
 void AddShotCommand(CLI::App& app, int& exitCode);
 void AddGalleryCommand(CLI::App& app, int& exitCode);
 void AddProbeCommand(CLI::App& app, int& exitCode);
+void AddSchemaCommand(CLI::App& app, int& exitCode);
 
 // Exit status of the program.
 enum : int {

@@ -38,6 +38,7 @@ int main(int argc, char** argv)
     AddShotCommand(app, exitCode);
     AddGalleryCommand(app, exitCode);
     AddProbeCommand(app, exitCode);
+    AddSchemaCommand(app, exitCode);
 
     try {
         app.parse(argc, argv);

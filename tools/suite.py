@@ -172,6 +172,11 @@ def pictures(tally, preset):
     check(tally, "pictures of the gallery", ["tools/check_gallery.py", f"build/{preset}/bin/teskara"])
 
 
+def reference(tally):
+    say("build/dev: docs/reference is what the program makes, and its schema takes all interfaces")
+    check(tally, "reference", ["tools/check_reference.py", "build/dev/bin/teskara"])
+
+
 def installed_copy(tally):
     say("an installed copy: the program starts from it, a client and the example build against it")
     prefix, client = ROOT / "build/installed", ROOT / "build/installed_client"
@@ -230,6 +235,8 @@ def main():
     else:
         check_the_house(tally)
         built = behaviour(tally, "dev", with_pictures=not options.quick)
+        if built:
+            reference(tally)
         if not options.quick:
             if built:
                 lint(tally)

@@ -8,10 +8,11 @@
 #include "teskara/core/CUIManager.h"
 #include "teskara/core/HostCalls.h"
 #include "teskara/core/MarkupReading.h"
+#include "teskara/core/Messages.h"
 #include "teskara/core/Numbers.h"
 #include "teskara/element/ElementWatch.h"
 #include "teskara/element/TeskElementFactory.h"
-#include "teskara/markup/XMLHelper.h"
+#include "teskara/markup/MarkupNames.h"
 
 #include <algorithm>
 #include <string_view>
@@ -30,9 +31,9 @@ constexpr u32 NumberTextSize = 32;
 void LoadIntoFrame(TeskFrame& frame, XMLNode* node)
 {
     const ElementWatch watch(frame);
-    const char* name = XMLHelper::GetStringAttribute(node, "Name", "");
+    const char* name = XMLHelper::GetStringAttribute(node, NameAttribute, "");
     if (!g_UIManager.LoadElement(&frame, node->Name, name, node, nullptr) && watch.Exists())
-        Host::PrintLine("Failed to create %s child %s for %s", node->Name, name, frame.Name.c_str());
+        Host::PrintLine(Messages::ChildFailed, node->Name, name, frame.Name.c_str());
 }
 
 // Stops where the frame ends.

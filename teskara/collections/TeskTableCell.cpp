@@ -5,6 +5,7 @@
 #include "teskara/core/BoundedText.h"
 #include "teskara/core/CUIManager.h"
 #include "teskara/element/MarkupShape.h"
+#include "teskara/markup/MarkupNames.h"
 #include "teskara/markup/MarkupSource.h"
 
 #include <algorithm>
@@ -39,7 +40,7 @@ TeskTableCell::~TeskTableCell()
 
 bool TeskTableCell::FromXML(XMLNode* node, XMLNode* templateNode)
 {
-    if (XMLNode* own = g_UIManager.FindTemplate(XMLHelper::GetStringAttribute(node, "Template", "")))
+    if (XMLNode* own = g_UIManager.FindTemplate(XMLHelper::GetStringAttribute(node, TemplateAttribute, "")))
         templateNode = own;
     if (!TeskFrame::FromXML(node, TemplateFor(node, templateNode, Kind)))
         return false;

@@ -5,6 +5,7 @@
 #include "teskara/core/CUIManager.h"
 #include "teskara/core/HostCalls.h"
 #include "teskara/core/Limits.h"
+#include "teskara/core/Messages.h"
 #include "teskara/core/platform/Platform.h"
 #include "teskara/element/ChildIndex.h"
 #include "teskara/element/ElementWatch.h"
@@ -117,7 +118,7 @@ void TeskElement::Delete()
     }
     if (!factory) {
         Stage = LifeStage::Alive;
-        Host::PrintLine("WARNING: CANNOT DELETE '%s': Factory '%s' not found", FullName.c_str(), Type.c_str());
+        Host::PrintLine(Messages::NoFactoryToDelete, FullName.c_str(), Type.c_str());
         return;
     }
     factory->Deleter().Delete(this);

@@ -5,6 +5,7 @@
 #include "teskara/core/HostCalls.h"
 #include "teskara/core/Limits.h"
 #include "teskara/core/MarkupReading.h"
+#include "teskara/core/Messages.h"
 #include "teskara/element/ElementWatch.h"
 #include "teskara/element/TeskElement.h"
 
@@ -30,7 +31,7 @@ TeskElementFactory::~TeskElementFactory()
 void TeskElementFactory::Register(const char* name, unsigned int version)
 {
     if (version != TeskaraVersion) {
-        Host::PrintLine("UI Element type '%s' unavailable (version mismatch)", TextOrEmpty(name));
+        Host::PrintLine(Messages::WrongVersion, TextOrEmpty(name));
         return;
     }
 

@@ -1,5 +1,6 @@
 #include "teskara/core/BoundedText.h"
 #include "teskara/core/HostCalls.h"
+#include "teskara/core/Messages.h"
 #include "teskara/element/MarkupTable.h"
 #include "teskara/element/TeskElement.h"
 #include "teskara/markup/MarkupNames.h"
@@ -125,6 +126,6 @@ TeskEmbeddedScript* TeskElement::EmbeddedScriptFromXML(
 
     TeskEmbeddedScript* compiled = TeskEmbeddedScript::New(this, script->FirstChild->Name, arguments);
     if (!compiled)
-        Host::PrintLine("%s embedded script failed to load", TextOrEmpty(tag));
+        Host::PrintLine(Messages::ScriptFailed, TextOrEmpty(tag));
     return compiled;
 }

@@ -8,6 +8,7 @@
 #include "teskara/core/HostCalls.h"
 #include "teskara/core/Limits.h"
 #include "teskara/core/MarkupReading.h"
+#include "teskara/core/Messages.h"
 #include "teskara/element/ElementWatch.h"
 #include "teskara/element/MarkupShape.h"
 #include "teskara/element/TeskElement.h"
@@ -86,14 +87,14 @@ bool RefuseNamesake(TeskElement* parent, const char* name)
     if (!parent->FindChild(name))
         return false;
 
-    Host::PrintLine("Child named '%s' already exists in parent element '%s'", name, parent->Name.c_str());
+    Host::PrintLine(Messages::NameTaken, name, parent->Name.c_str());
     return true;
 }
 
 // Takes the name of the parent as a copy: making the element may have deleted it.
 void ReportFailedCreation(const char* name, const utf8string& parentName)
 {
-    Host::PrintLine("CreateUIElement failed on '%s' under '%s'", name, parentName.c_str());
+    Host::PrintLine(Messages::CreationFailed, name, parentName.c_str());
 }
 
 // The last steps of every creation. Null if the element was deleted by one of them.
@@ -115,7 +116,7 @@ void LoadChild(TeskElement& parent, XMLNode* node)
     if (g_UIManager.LoadElement(&parent, node->Name, name, node, nullptr) || !watch.Exists())
         return;
 
-    Host::PrintLine("Failed to create %s child %s for %s", node->Name, name, parent.Name.c_str());
+    Host::PrintLine(Messages::ChildFailed, node->Name, name, parent.Name.c_str());
 }
 
 // The node's list of children hides that of the template, even if it is empty.
@@ -163,17 +164,17 @@ bool CUIManager::OpenInterface(const char* file, XMLDocument& document, XMLNode*
 {
     char path[sizeof(CurrentFile)];
     if (!Host::LocateFile(TextOrEmpty(file), path, sizeof(path))) {
-        Host::PrintLine("Could not locate file");
+        Host::PrintLine(Messages::NoFile);
         return false;
     }
     CopyBounded(CurrentFile, sizeof(CurrentFile), path);
     if (!document.ParseFile(path)) {
-        Host::PrintLine("Failed to parse %s: %s", path, document.ErrorText);
+        Host::PrintLine(Messages::ParseFailed, path, document.ErrorText);
         return false;
     }
     root = XMLHelper::GetChild(document.Root, RootTagName);
     if (!root) {
-        Host::PrintLine("Failed to find %s element in %s", RootTagName, path);
+        Host::PrintLine(Messages::NoRoot, RootTagName, path);
         return false;
     }
     return true;
@@ -246,7 +247,7 @@ try {
 
     TeskElementFactory* factory = FindFactory(type);
     if (!factory) {
-        Host::PrintLine("No UI element factory for type '%s'", type);
+        Host::PrintLine(Messages::NoFactoryByName, type);
         return nullptr;
     }
     if (RefuseNamesake(parent, name))
@@ -271,7 +272,7 @@ try {
 
     TeskElementFactory* factory = FindFactory(type);
     if (!factory) {
-        Host::PrintLine("No UI element factory for type %s", type);
+        Host::PrintLine(Messages::NoFactoryForNode, type);
         return nullptr;
     }
     if (RefuseNamesake(parent, name))

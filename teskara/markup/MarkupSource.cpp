@@ -4,6 +4,7 @@
 #include "teskara/core/CUIManager.h"
 #include "teskara/core/Numbers.h"
 #include "teskara/markup/ElementPosition.h"
+#include "teskara/markup/MarkupNames.h"
 #include "teskara/markup/MarkupQuestions.h"
 
 namespace {
@@ -121,6 +122,6 @@ XMLNode* TemplateFor(XMLNode* node, XMLNode* templateNode, const char* kind)
     if (templateNode)
         return templateNode;
 
-    XMLNode* named = g_UIManager.FindTemplate(XMLHelper::GetStringAttribute(node, "Template", ""));
+    XMLNode* named = g_UIManager.FindTemplate(XMLHelper::GetStringAttribute(node, TemplateAttribute, ""));
     return named ? named : g_UIManager.FindTemplate(kind);
 }

@@ -3,6 +3,7 @@
 #include "teskara/core/CUIManager.h"
 #include "teskara/core/Limits.h"
 #include "teskara/core/utf8string.h"
+#include "teskara/markup/MarkupNames.h"
 #include "teskara/markup/XMLAttribute.h"
 #include "teskara/markup/XMLAttributeList.h"
 #include "teskara/markup/XMLHelper.h"
@@ -16,7 +17,7 @@ namespace {
 
 const char* BaseNames(XMLNode* node)
 {
-    return XMLHelper::GetStringAttribute(node, "Template", "");
+    return XMLHelper::GetStringAttribute(node, TemplateAttribute, "");
 }
 
 void RemoveChild(XMLNode* parent, XMLNode* child)

@@ -2,6 +2,7 @@
 
 #include "teskara/core/BoundedText.h"
 #include "teskara/core/HostCalls.h"
+#include "teskara/core/Messages.h"
 #include "teskara/script/Arguments.h"
 
 namespace {
@@ -35,5 +36,5 @@ void RefuseDialog(const Arguments& arguments, TeskElement* element)
 {
     if (element && element->Parent)
         element->Parent->DeleteChild(element);
-    Host::PrintLine("%s failed", arguments.Text(0));
+    Host::PrintLine(Messages::DialogFailed, arguments.Text(0));
 }

@@ -1,6 +1,7 @@
 #include "teskara/script/InputBoxCommand.h"
 
 #include "teskara/core/HostCalls.h"
+#include "teskara/core/Messages.h"
 #include "teskara/element/ElementWatch.h"
 #include "teskara/script/Arguments.h"
 #include "teskara/script/DialogCommand.h"
@@ -13,7 +14,7 @@ constexpr int NoWaitingScript = 1;
 
 void PrintSyntax(const Arguments& arguments)
 {
-    Host::PrintLine("Syntax: %s [-skin <name>] [-template <name>] <text> [default]", arguments.Text(0));
+    Host::PrintLine(Messages::InputBoxSyntax, arguments.Text(0));
 }
 
 void ShowInputBox(const Arguments& arguments, const DialogFlags& flags, HostScript& script)
@@ -37,11 +38,11 @@ int RunInputBoxCommand(const Arguments& arguments)
 {
     HostScript* script = Host::GetCurrentScript();
     if (!script) {
-        Host::PrintLine("You don't look like a script, or talk like a script...dont try to be one :)");
+        Host::PrintLine(Messages::NoScript);
         return NoWaitingScript;
     }
     if (Host::IsInsideAtom(*script)) {
-        Host::PrintLine("'%s' is not available in atoms", arguments.Text(0));
+        Host::PrintLine(Messages::NotInAtoms, arguments.Text(0));
         return NoWaitingScript;
     }
     if (!arguments.Has(1)) {

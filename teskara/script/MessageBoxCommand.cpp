@@ -1,6 +1,7 @@
 #include "teskara/script/MessageBoxCommand.h"
 
 #include "teskara/core/HostCalls.h"
+#include "teskara/core/Messages.h"
 #include "teskara/script/Arguments.h"
 #include "teskara/script/DialogCommand.h"
 #include "teskara/windows/TeskScriptMessageBox.h"
@@ -30,7 +31,7 @@ const TypeFlag* FindTypeFlag(const Arguments& arguments, int index)
 
 void PrintSyntax(const Arguments& arguments)
 {
-    Host::PrintLine("Syntax: %s [-skin <name>] [-template <name>] [-ok|-okcancel|-yesno] <text>", arguments.Text(0));
+    Host::PrintLine(Messages::MessageBoxSyntax, arguments.Text(0));
 }
 
 } // namespace

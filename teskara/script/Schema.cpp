@@ -3,6 +3,7 @@
 #include "teskara/core/AsciiCase.h"
 #include "teskara/core/BoundedText.h"
 #include "teskara/core/CUIManager.h"
+#include "teskara/core/Messages.h"
 #include "teskara/element/MarkupShape.h"
 #include "teskara/element/NotificationNames.h"
 #include "teskara/script/Commands.h"
@@ -127,6 +128,7 @@ Schema::Schema() : RootTag(g_UIManager.RootTagName)
     VisitScriptTypes([this](const ToolkitType& type, const char* base) { Types.push_back(Describe(type, base)); });
     std::ranges::copy(TopLevelObjectNames(), std::back_inserter(Objects));
     std::ranges::copy(CommandNames(), std::back_inserter(Commands));
+    std::ranges::copy(Messages::All, std::back_inserter(Messages));
     for (u32 code = 0; code < NotificationCodeEnd; ++code) {
         if (const char* name = NameOfNotification(static_cast<NotificationCode>(code)))
             Notifications.push_back({name, code});

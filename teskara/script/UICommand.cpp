@@ -2,6 +2,7 @@
 
 #include "teskara/core/CUIManager.h"
 #include "teskara/core/HostCalls.h"
+#include "teskara/core/Messages.h"
 #include "teskara/element/TeskScreen.h"
 #include "teskara/script/Arguments.h"
 
@@ -9,13 +10,6 @@ namespace {
 
 constexpr int UIDone = 0;
 constexpr int UIFailed = -1;
-
-constexpr char UISyntax[] = "Syntax: %s -reset|-[re]load [-parent <FQN>] [-skin <name>] <filename> "
-                            "[<element name> [new name]]|-unload <filename>";
-constexpr char LoadUsage[] = "Usage: %s -load [-parent <FQN>] [-skin <name>] <filename> [<element name> [new name]]";
-constexpr char ReloadUsage[] =
-    "Usage: %s -reload [-parent <FQN>] [-skin <name>] <filename> [<element name> [new name]]";
-constexpr char UnloadUsage[] = "Usage: %s -unload <filename>";
 
 int Explain(const char* usage, const Arguments& arguments)
 {
@@ -25,7 +19,7 @@ int Explain(const char* usage, const Arguments& arguments)
 
 int FileFailed(const char* file)
 {
-    Host::PrintLine("Could not load interface file '%s'", file);
+    Host::PrintLine(Messages::FileFailed, file);
     return UIFailed;
 }
 
@@ -54,13 +48,13 @@ int LoadInterface(const Arguments& arguments, const char* usage, bool replace)
     TeskElement* parent = g_UIManager.Screen;
     if (arguments.IsWord(next, "-parent")) {
         if (arguments.Count() <= 4)
-            return Explain(LoadUsage, arguments); // whichever form it was
+            return Explain(Messages::LoadUsage, arguments); // whichever form it was
 
         parent = g_UIManager.FindElement(arguments.Text(3));
         next = 4;
         if (!parent) {
             // Names the argument behind the parent's name; scripts know the line in this form.
-            Host::PrintLine("Parent element '%s' could not be found", arguments.Text(4));
+            Host::PrintLine(Messages::NoParent, arguments.Text(4));
             return UIFailed;
         }
     }
@@ -79,18 +73,18 @@ int LoadInterface(const Arguments& arguments, const char* usage, bool replace)
 
 int LoadNew(const Arguments& arguments)
 {
-    return LoadInterface(arguments, LoadUsage, false);
+    return LoadInterface(arguments, Messages::LoadUsage, false);
 }
 
 int LoadAgain(const Arguments& arguments)
 {
-    return LoadInterface(arguments, ReloadUsage, true);
+    return LoadInterface(arguments, Messages::ReloadUsage, true);
 }
 
 int UnloadFile(const Arguments& arguments)
 {
     if (arguments.Count() < 3)
-        return Explain(UnloadUsage, arguments);
+        return Explain(Messages::UnloadUsage, arguments);
 
     return g_UIManager.UnloadInterfaceXML(arguments.Text(2)) ? UIDone : FileFailed(arguments.Text(2));
 }
@@ -115,5 +109,5 @@ int RunUICommand(const Arguments& arguments)
         if (arguments.IsWord(1, flag.Word))
             return flag.Run(arguments);
     }
-    return Explain(UISyntax, arguments);
+    return Explain(Messages::UISyntax, arguments);
 }

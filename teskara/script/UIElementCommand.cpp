@@ -2,6 +2,7 @@
 
 #include "teskara/core/CUIManager.h"
 #include "teskara/core/HostCalls.h"
+#include "teskara/core/Messages.h"
 #include "teskara/element/TeskScreen.h"
 #include "teskara/script/Arguments.h"
 
@@ -38,10 +39,10 @@ struct ElementFlag {
 };
 
 constexpr ElementFlag ElementFlags[] = {
-    {"-kill", "Syntax: %s -kill <element>", Kill},
-    {"-hide", "Syntax: %s -hide <element>", Hide},
-    {"-show", "Syntax: %s -show <element>", Show},
-    {"-toggle", "Syntax: %s -toggle <element>", Toggle},
+    {"-kill", Messages::KillSyntax, Kill},
+    {"-hide", Messages::HideSyntax, Hide},
+    {"-show", Messages::ShowSyntax, Show},
+    {"-toggle", Messages::ToggleSyntax, Toggle},
 };
 
 // From the bottom to the top. Printing a line may run scripts, so the elements are noted before the first one.
@@ -52,11 +53,11 @@ void ListTopLevelElements()
          child = child->Next)
         ids.push_back(child->ID);
 
-    Host::PrintLine("Top-Level UI Elements\n--------------------------");
+    Host::PrintLine(Messages::ElementListHead);
     for (const u32 id : ids) {
         if (const TeskElement* element = g_UIManager.FindElementByID(id)) {
-            Host::PrintLine(
-                "%s '%s' - %s", element->Type.c_str(), element->Name.c_str(), element->Visible ? "Shown" : "Hidden");
+            Host::PrintLine(Messages::ElementListLine, element->Type.c_str(), element->Name.c_str(),
+                element->Visible ? "Shown" : "Hidden");
         }
     }
 }
@@ -72,7 +73,7 @@ void ActOnElement(const ElementFlag& flag, const Arguments& arguments)
     if (element)
         flag.Act(*element);
     else
-        Host::PrintLine("Could not find '%s'", arguments.Text(2));
+        Host::PrintLine(Messages::NoElement, arguments.Text(2));
 }
 
 } // namespace
@@ -90,6 +91,6 @@ int RunUIElementCommand(const Arguments& arguments)
             return 0;
         }
     }
-    Host::PrintLine("Syntax: %s -list|-hide <name>|-show <name>|-toggle <name>|-kill <name>", arguments.Text(0));
+    Host::PrintLine(Messages::UIElementSyntax, arguments.Text(0));
     return 0;
 }

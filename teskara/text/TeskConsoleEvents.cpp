@@ -4,6 +4,7 @@
 #include "teskara/core/CUIManager.h"
 #include "teskara/core/HostCalls.h"
 #include "teskara/core/Limits.h"
+#include "teskara/core/Messages.h"
 #include "teskara/core/Numbers.h"
 #include "teskara/element/ElementWatch.h"
 #include "teskara/text/ClipboardCopy.h"
@@ -110,7 +111,7 @@ try {
         if (const char* line = Lines.At(slot))
             AppendPart(text, block, line);
         else
-            Host::PrintLine("Bad nLine %d", static_cast<int>(slot));
+            Host::PrintLine(Messages::BadLine, static_cast<int>(slot));
         return self.Exists();
     });
     if (self.Exists())

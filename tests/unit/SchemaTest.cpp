@@ -232,4 +232,5 @@ TEST_F(SchemaTest, TellsOfWhatStandsAtTheTop)
     EXPECT_EQ("NotifyChildGoing", m_Schema.Notifications.back().Name);
     EXPECT_EQ(51u, m_Schema.Notifications.back().Code);
     EXPECT_EQ("Tesk", m_Schema.RootTag);
+    EXPECT_EQ(1, std::count(m_Schema.Messages.begin(), m_Schema.Messages.end(), "Could not load interface file '%s'"));
 }
