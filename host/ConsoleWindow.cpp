@@ -1,6 +1,7 @@
 #include "host/ConsoleWindow.h"
 
 #include "host/InterfaceSession.h"
+#include "host/record/ToolkitCalls.h"
 #include "teskara/core/CUIManager.h"
 #include "teskara/element/ElementWatch.h"
 #include "teskara/element/TeskElement.h"
@@ -45,7 +46,7 @@ bool ConsoleWindow::HandleKey(u32 key)
 void ConsoleWindow::Toggle()
 {
     if (const TeskElement* window = Find())
-        g_UIManager.ShowElement(Name, !window->Visible);
+        Toolkit::ShowElement(Name, !window->Visible);
     else
         Open();
 
@@ -54,10 +55,10 @@ void ConsoleWindow::Toggle()
         return;
 
     const ElementWatch watch(*window);
-    window->MoveZTop(false);
+    Toolkit::RaiseElement(window->ID);
     TeskElement* input = g_UIManager.FindElement(InputName);
     if (watch.Exists() && input)
-        g_UIManager.SetFocusElement(input);
+        Toolkit::FocusElement(input->ID);
 }
 
 // The arrow keys begin with what was typed before.
@@ -69,7 +70,7 @@ void ConsoleWindow::Open()
         return;
 
     for (const std::string& line : m_Session.Host().TypedCommands().Lines())
-        input->History.Add(line);
+        Toolkit::AddToHistory(input->ID, line.c_str());
 }
 
 TeskElement* ConsoleWindow::Find()

@@ -1,6 +1,8 @@
 #include "host/InterfaceSession.h"
 
 #include "host/files/MarkupFault.h"
+#include "host/record/Recorder.h"
+#include "host/record/ToolkitCalls.h"
 #include "teskara/core/CUIManager.h"
 
 namespace host {
@@ -18,24 +20,26 @@ InterfaceSession::InterfaceSession(SDL_Renderer* renderer, const Settings& setti
         m_Clock.HoldStill();
     if (!settings.Commands.empty())
         m_Host.KeepCommands(settings.Commands);
-    SetPlatform(&m_Platform);
-    F1(&m_Host)->Initialize();
+    if (settings.Recording)
+        settings.Recording->Attach(m_Host, m_Platform);
+    SetPlatform(settings.Recording ? &settings.Recording->System() : static_cast<Platform*>(&m_Platform));
+    Toolkit::Start(&m_Host);
 
     // What is loaded before the first frame takes its time from here, and its sizes from the display.
-    g_UIManager.FrameTick = m_Clock.Ticks();
+    Toolkit::SetFrameTick(m_Clock.Ticks());
     m_SecondStart = m_Clock.Ticks();
     m_Frame.Width = settings.Width;
     m_Frame.Height = settings.Height;
     m_Frame.Ticks = m_Clock.Ticks();
     m_Host.BeginFrame(m_Frame, 1);
-    g_UIManager.Render();
+    Toolkit::Render();
 }
 
 // The elements go while their scripts still have types and objects.
 InterfaceSession::~InterfaceSession()
 {
-    g_UIManager.Reset();
-    g_UIManager.Shutdown();
+    Toolkit::Reset();
+    Toolkit::Shutdown();
     SetPlatform(nullptr);
 }
 
@@ -56,7 +60,7 @@ bool InterfaceSession::Open(const std::vector<std::string>& files, const std::st
 bool InterfaceSession::OpenFile(const std::string& file)
 {
     const std::filesystem::path path = file;
-    return Load(path.is_absolute() ? path.filename().string() : file, file, g_UIManager.FindSkin(m_Frame.Skin.c_str()));
+    return Load(path.is_absolute() ? path.filename().string() : file, file, m_Frame.Skin.c_str());
 }
 
 bool InterfaceSession::OpenOwn(const std::string& name)
@@ -70,7 +74,7 @@ bool InterfaceSession::DrawFrame(int width, int height, float scale)
     m_Frame.Height = height;
     CountFrame();
     m_Host.BeginFrame(m_Frame, scale);
-    g_UIManager.Render();
+    Toolkit::Render();
     return m_Host.EndFrame();
 }
 
@@ -78,14 +82,14 @@ void InterfaceSession::SkipFrame()
 {
     CountFrame();
     m_Host.BeginFrame(m_Frame, 1);
-    g_UIManager.Render();
+    Toolkit::Render();
 }
 
 // Where a file is no markup, the place is told as well.
-bool InterfaceSession::Load(const std::string& subject, const std::string& file, TeskSkin* skin)
+bool InterfaceSession::Load(const std::string& subject, const std::string& file, const char* skin)
 {
     const TrailStep step(m_Host.Output().Trail(), subject);
-    if (g_UIManager.LoadInterfaceXML(file.c_str(), true, skin))
+    if (Toolkit::LoadInterface(file.c_str(), true, skin))
         return true;
 
     const auto path = m_Host.Paths().FindInterface(file);

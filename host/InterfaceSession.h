@@ -8,9 +8,9 @@
 #include <string>
 #include <vector>
 
-class TeskSkin;
-
 namespace host {
+
+class Recorder;
 
 // The toolkit with the reference host, from its start to its end. There can be one in a process.
 class InterfaceSession
@@ -21,6 +21,7 @@ public:
         std::filesystem::path Positions; // the file of stored positions; empty to store none
         std::filesystem::path Commands; // the file of typed commands; empty to keep none
         ScriptTrust Trust = ScriptTrust::None;
+        Recorder* Recording = nullptr; // stands between host and toolkit; borrowed, and null for none
         int Width = 0; // of the display at the start
         int Height = 0;
     };
@@ -57,7 +58,7 @@ public:
     ReferenceHost& Host() { return m_Host; }
 
 private:
-    bool Load(const std::string& subject, const std::string& file, TeskSkin* skin);
+    bool Load(const std::string& subject, const std::string& file, const char* skin);
     void CountFrame();
 
     HostClock m_Clock;

@@ -1,6 +1,6 @@
 #include "host/OverlayConsole.h"
 
-#include "teskara/controls/TeskScrollBar.h"
+#include "host/record/ToolkitCalls.h"
 #include "teskara/core/CUIManager.h"
 #include "teskara/text/LineWrap.h"
 #include "teskara/text/TeskConsole.h"
@@ -20,12 +20,6 @@ std::string_view CodeOf(LineWeight weight)
     default:
         return "";
     }
-}
-
-u64 ColumnsOf(TeskConsole& console)
-{
-    const u32 barWidth = console.ScrollBar ? console.ScrollBar->Width : 0;
-    return console.Font && console.Width > barWidth ? (console.Width - barWidth) / console.Font->GetCharWidthA() : 0;
 }
 
 } // namespace
@@ -66,14 +60,15 @@ TeskConsole* OverlayConsole::Find(const char* name)
 void OverlayConsole::PrintIn(TeskConsole& console, const Line& line)
 {
     const std::string_view code = CodeOf(line.Weight);
-    const u64 columns = ColumnsOf(console);
+    const u32 id = console.ID;
+    const u64 columns = code.empty() ? 0 : Toolkit::MeasureConsole(id);
     if (code.empty() || columns <= code.size() || line.Text.empty()) {
-        console.Print((line.Text + '\n').c_str());
+        Toolkit::PrintInConsole(id, (line.Text + '\n').c_str());
         return;
     }
     LineWrap pieces(line.Text, columns - code.size());
     for (std::string_view piece; pieces.Next(piece);)
-        console.Print((std::string(code) + std::string(piece) + '\n').c_str());
+        Toolkit::PrintInConsole(id, (std::string(code) + std::string(piece) + '\n').c_str());
 }
 
 } // namespace host

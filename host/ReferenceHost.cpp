@@ -3,6 +3,7 @@
 #include "host/ConsoleCommands.h"
 #include "host/display/KeyCodes.h"
 #include "host/files/WholeFile.h"
+#include "host/record/ToolkitCalls.h"
 #include "host/script/MarkupFunctions.h"
 #include "teskara/core/CUIManager.h"
 #include "teskara/element/TeskElement.h"
@@ -75,7 +76,9 @@ HostScript* ReferenceHost::GetCurrentScript()
 
 void ReferenceHost::AddCommand(const char* name, CommandHandler handler, int, int)
 {
-    m_Scripts.Commands.Add(name, handler);
+    m_Scripts.Commands.Add(name, [name = std::string(name), handler](int argc, char** argv) {
+        return Toolkit::RunCommand(name.c_str(), handler, argc, argv);
+    });
 }
 
 void ReferenceHost::RemoveCommand(const char* name)

@@ -12,6 +12,7 @@ void AddShotCommand(CLI::App& app, int& exitCode);
 void AddGalleryCommand(CLI::App& app, int& exitCode);
 void AddProbeCommand(CLI::App& app, int& exitCode);
 void AddSchemaCommand(CLI::App& app, int& exitCode);
+void AddReplayCommand(CLI::App& app, int& exitCode);
 
 // Exit status of the program.
 enum : int {

@@ -20,3 +20,9 @@ void InterfaceOptions::AddTo(CLI::App& command)
     command.add_option("--skin", Skin, "A skin: its name in interfaces/skins, or its folder")->type_name("NAME");
     command.add_flag("--trust", Trust, "Give scripts the whole standard library of Lua, with files and processes");
 }
+
+CLI::Option* InterfaceOptions::AddRecord(CLI::App& command)
+{
+    return command.add_option("--record", Record, "Write every call between toolkit and host into a file, for replay")
+        ->type_name("FILE");
+}

@@ -7,7 +7,8 @@
 
 namespace CLI {
 class App;
-}
+class Option;
+} // namespace CLI
 
 // The options of the commands that show interfaces: which files, how large, in which skin.
 struct InterfaceOptions {
@@ -17,5 +18,8 @@ struct InterfaceOptions {
     std::string Skin; // empty for the first one
     bool Trust = false; // scripts may use all of Lua
 
+    std::string Record; // the file of a recording; empty for none
+
     void AddTo(CLI::App& command);
+    CLI::Option* AddRecord(CLI::App& command);
 };

@@ -39,6 +39,7 @@ int main(int argc, char** argv)
     AddGalleryCommand(app, exitCode);
     AddProbeCommand(app, exitCode);
     AddSchemaCommand(app, exitCode);
+    AddReplayCommand(app, exitCode);
 
     try {
         app.parse(argc, argv);

@@ -8,6 +8,7 @@
 #include "program/Commands.h"
 #include "program/DisplaySize.h"
 #include "program/InterfaceOptions.h"
+#include "program/RecordingOption.h"
 #include "teskara/core/CUIManager.h"
 
 #include <CLI/CLI.hpp>
@@ -48,7 +49,7 @@ void WriteAnswer(const std::string& line)
 
 void RunFrames(host::InterfaceSession& session, host::Window& window, host::LiveReload& live)
 {
-    host::InputRouter input(g_UIManager, session.System());
+    host::InputRouter input(session.System());
     input.SetZoom(window.Zoom());
     host::ConsoleWindow console(session);
     input.SetShortcuts([&console](u32 key) { return console.HandleKey(key); });
@@ -91,6 +92,9 @@ bool FindDisplay()
 
 int Run(const InterfaceOptions& options, bool watch)
 {
+    RecordingOption recording(options.Record);
+    if (!recording.Begin())
+        return ExitFailed;
     if (!FindDisplay()) {
         std::fprintf(stderr, "teskara: There is no display to open a window on; `teskara shot` makes a picture.\n");
         return ExitFailed;
@@ -104,15 +108,18 @@ int Run(const InterfaceOptions& options, bool watch)
     settings.Positions = host::StoredPositions::DefaultFile();
     settings.Commands = host::CommandHistory::DefaultFile();
     settings.Trust = options.Trust ? host::ScriptTrust::Full : host::ScriptTrust::None;
+    settings.Recording = recording.Get();
     settings.Width = options.Size.Width;
     settings.Height = options.Size.Height;
-    host::InterfaceSession session(window.Target(), settings);
-    host::LiveReload live(session, watch ? host::LiveReload::Watching::On : host::LiveReload::Watching::Off);
-    if (!session.Open(options.Files, options.Skin))
-        return ExitFailed;
+    {
+        host::InterfaceSession session(window.Target(), settings);
+        host::LiveReload live(session, watch ? host::LiveReload::Watching::On : host::LiveReload::Watching::Off);
+        if (!session.Open(options.Files, options.Skin))
+            return ExitFailed;
 
-    RunFrames(session, window, live);
-    return ExitDone;
+        RunFrames(session, window, live);
+    }
+    return recording.End() ? ExitDone : ExitFailed;
 }
 
 } // namespace
@@ -123,7 +130,10 @@ void AddRunCommand(CLI::App& app, int& exitCode)
     CLI::App* run = app.add_subcommand("run", "Open interface files in a window");
     options->AddTo(*run);
     const auto watch = std::make_shared<bool>(false);
-    run->add_flag("--watch,!--no-watch", *watch, "Show a file anew when it, a skin or an image changes")->take_last();
+    CLI::Option* watchFlag =
+        run->add_flag("--watch,!--no-watch", *watch, "Show a file anew when it, a skin or an image changes")
+            ->take_last();
+    options->AddRecord(*run)->excludes(watchFlag); // what a reload does to elements is in no recording
     run->callback([options, watch, &exitCode] {
         exitCode = Run(*options, *watch);
         SDL_Quit();

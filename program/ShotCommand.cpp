@@ -1,7 +1,9 @@
 #include "host/InterfaceSession.h"
 #include "host/display/Picture.h"
+#include "host/record/ToolkitCalls.h"
 #include "program/Commands.h"
 #include "program/InterfaceOptions.h"
+#include "program/RecordingOption.h"
 #include "teskara/core/CUIManager.h"
 
 #include <CLI/CLI.hpp>
@@ -22,6 +24,7 @@ struct ShotOptions : InterfaceOptions {
     std::string Output;
     u32 At = 1000;
     std::optional<_Point2i> Mouse;
+    std::vector<_Point2i> Clicks;
 };
 
 std::optional<_Point2i> ReadPoint(const std::string& text)
@@ -36,13 +39,24 @@ std::optional<_Point2i> ReadPoint(const std::string& text)
     return second == std::errc() && stop == end ? std::optional(point) : std::nullopt;
 }
 
+// A click that takes a frame, as those of people do at least.
+void Click(host::InterfaceSession& session, _Point2i place)
+{
+    host::Toolkit::OnMouseMove(place);
+    session.SkipFrame();
+    host::Toolkit::OnLMouseDown();
+    session.Clock().Advance(FrameMilliseconds);
+    session.SkipFrame();
+    host::Toolkit::OnLMouseUp();
+}
+
 // Lets the time pass in steps of a frame and draws the last one.
 void DrawMoment(host::InterfaceSession& session, const ShotOptions& options)
 {
-    if (options.Mouse) {
-        _Point2i mouse = *options.Mouse;
-        g_UIManager.OnMouseMove(mouse);
-    }
+    for (const _Point2i& place : options.Clicks)
+        Click(session, place);
+    if (options.Mouse)
+        host::Toolkit::OnMouseMove(*options.Mouse);
     for (u32 elapsed = 0; elapsed < options.At;) {
         session.SkipFrame();
         const u32 step = std::min(FrameMilliseconds, options.At - elapsed);
@@ -65,16 +79,23 @@ int Shoot(const ShotOptions& options)
         std::fprintf(stderr, "teskara: Could not make a picture: %s\n", SDL_GetError());
         return ExitFailed;
     }
+    RecordingOption recording(options.Record);
+    if (!recording.Begin())
+        return ExitFailed;
     host::InterfaceSession::Settings settings;
+    settings.Recording = recording.Get();
     settings.ClockStandsStill = true;
     settings.Trust = options.Trust ? host::ScriptTrust::Full : host::ScriptTrust::None;
     settings.Width = options.Size.Width;
     settings.Height = options.Size.Height;
-    host::InterfaceSession session(picture.Target(), settings);
-    if (!session.Open(options.Files, options.Skin))
+    {
+        host::InterfaceSession session(picture.Target(), settings);
+        if (!session.Open(options.Files, options.Skin))
+            return ExitFailed;
+        DrawMoment(session, options);
+    }
+    if (!recording.End())
         return ExitFailed;
-
-    DrawMoment(session, options);
     if (!picture.Save(options.Output)) {
         std::fprintf(stderr, "teskara: Could not write %s: %s\n", options.Output.c_str(), SDL_GetError());
         return ExitFailed;
@@ -102,5 +123,20 @@ void AddShotCommand(CLI::App& app, int& exitCode)
             },
             "Where the mouse is")
         ->type_name("X,Y");
+    shot->add_option_function<std::vector<std::string>>(
+            "--click",
+            [options](const std::vector<std::string>& texts) {
+                for (const std::string& text : texts) {
+                    const auto point = ReadPoint(text);
+                    if (!point)
+                        throw CLI::ValidationError("--click", "'" + text + "' is no point such as 120,80");
+                    options->Clicks.push_back(*point);
+                }
+            },
+            "Where the left button is clicked before that; again for further clicks")
+        ->type_name("X,Y")
+        ->expected(1)
+        ->take_all();
+    options->AddRecord(*shot);
     shot->callback([options, &exitCode] { exitCode = Shoot(*options); });
 }

@@ -3,7 +3,7 @@
 #include "host/HostPlatform.h"
 #include "host/display/Characters.h"
 #include "host/display/KeyCodes.h"
-#include "teskara/core/CUIManager.h"
+#include "host/record/ToolkitCalls.h"
 
 #include <cmath>
 #include <string>
@@ -39,7 +39,7 @@ std::string TakeTextOfKey()
 
 } // namespace
 
-InputRouter::InputRouter(CUIManager& manager, HostPlatform& platform) : m_Manager(manager), m_Platform(platform) { }
+InputRouter::InputRouter(HostPlatform& platform) : m_Platform(platform) { }
 
 void InputRouter::Handle(const SDL_Event& event)
 {
@@ -69,9 +69,9 @@ void InputRouter::HandleButton(const SDL_MouseButtonEvent& button)
     MoveMouse(button.x, button.y);
     const bool down = button.type == SDL_MOUSEBUTTONDOWN;
     if (button.button == SDL_BUTTON_LEFT)
-        down ? m_Manager.OnLMouseDown() : m_Manager.OnLMouseUp();
+        down ? Toolkit::OnLMouseDown() : Toolkit::OnLMouseUp();
     else if (button.button == SDL_BUTTON_RIGHT)
-        down ? m_Manager.OnRMouseDown() : m_Manager.OnRMouseUp();
+        down ? Toolkit::OnRMouseDown() : Toolkit::OnRMouseUp();
 }
 
 void InputRouter::HandleWheel(const SDL_MouseWheelEvent& wheel)
@@ -81,7 +81,7 @@ void InputRouter::HandleWheel(const SDL_MouseWheelEvent& wheel)
     const float whole = std::trunc(m_WheelRest);
     m_WheelRest -= whole;
     if (whole != 0)
-        m_Manager.OnMouseWheel(static_cast<int>(whole));
+        Toolkit::OnMouseWheel(static_cast<int>(whole));
 }
 
 // A key without a code comes as a text alone.
@@ -101,7 +101,7 @@ void InputRouter::HandleKeyDown(const SDL_KeyboardEvent& key)
     std::size_t at = 0;
     if (isTyped)
         m_Platform.SetTypedCharacter(code, text.empty() ? 0 : DecodeCharacter(text, at));
-    m_Manager.OnKeyDown(code);
+    Toolkit::OnKeyDown(code);
     HandleText(std::string_view(text).substr(at));
 }
 
@@ -111,7 +111,7 @@ void InputRouter::HandleKeyUp(const SDL_KeyboardEvent& key)
     if (code == 0)
         return;
 
-    m_Manager.OnKeyUp(code);
+    Toolkit::OnKeyUp(code);
     m_Platform.ForgetTypedCharacter(code);
 }
 
@@ -120,8 +120,8 @@ void InputRouter::HandleText(std::string_view text)
 {
     for (std::size_t at = 0; at < text.size();) {
         m_Platform.SetTypedCharacter(KeyTypedText, DecodeCharacter(text, at));
-        m_Manager.OnKeyDown(KeyTypedText);
-        m_Manager.OnKeyUp(KeyTypedText);
+        Toolkit::OnKeyDown(KeyTypedText);
+        Toolkit::OnKeyUp(KeyTypedText);
     }
     m_Platform.ForgetTypedCharacter(KeyTypedText);
 }
@@ -137,7 +137,7 @@ void InputRouter::MoveMouse(int x, int y)
 {
     _Point2i position = {static_cast<i32>(std::floor(static_cast<float>(x) / m_Zoom)),
         static_cast<i32>(std::floor(static_cast<float>(y) / m_Zoom))};
-    m_Manager.OnMouseMove(position);
+    Toolkit::OnMouseMove(position);
 }
 
 } // namespace host

@@ -8,18 +8,16 @@
 #include <string_view>
 #include <utility>
 
-class CUIManager;
-
 namespace host {
 
 class HostPlatform;
 
-// Turns SDL's events into calls of the manager.
+// Turns SDL's events into input for the toolkit.
 class InputRouter
 {
 public:
-    // Both are borrowed.
-    InputRouter(CUIManager& manager, HostPlatform& platform);
+    // The platform is borrowed.
+    explicit InputRouter(HostPlatform& platform);
 
     // Keys that this takes do not reach the interface, nor does their text.
     using Shortcuts = std::function<bool(u32 key)>;
@@ -40,7 +38,6 @@ private:
     void HandleWindow(const SDL_WindowEvent& window);
     void MoveMouse(int x, int y);
 
-    CUIManager& m_Manager;
     HostPlatform& m_Platform;
     Shortcuts m_Shortcuts;
     float m_Zoom = 1;

@@ -2,6 +2,7 @@
 
 #include "host/probe/HostTypes.h"
 #include "host/probe/ValueText.h"
+#include "host/record/ToolkitCalls.h"
 #include "host/script/ScriptIndexes.h"
 #include "teskara/core/Limits.h"
 #include "teskara/script/MvIndexIterator.h"
@@ -266,7 +267,7 @@ bool IndexType::ToText(MvValue value, char* buffer, u32 size)
     for (bool isThere = entry.First(); isThere && text.size() < size; isThere = entry.Next()) {
         _MvTypeVar found;
         char part[Limits::TextBuffer4096] = "";
-        if (!entry.GetValue(found) || !found.Type->ToText(found.Value, part, sizeof part))
+        if (!entry.GetValue(found) || !Toolkit::ToText(found, part, sizeof part))
             continue;
         text += text.empty() ? "" : ", ";
         text += part;

@@ -1,5 +1,6 @@
 #include "host/script/MapFunctions.h"
 
+#include "host/record/ToolkitCalls.h"
 #include "host/script/LuaState.h"
 #include "host/script/ScriptObjects.h"
 #include "teskara/windows/TeskMap.h"
@@ -29,22 +30,22 @@ int MoveBlip(lua_State* thread)
     location.x = static_cast<float>(luaL_checknumber(thread, 2));
     location.y = static_cast<float>(luaL_checknumber(thread, 3));
     location.z = static_cast<float>(luaL_optnumber(thread, 4, 0));
-    blip->Map()->UpdateBlip(blip->ID, location);
+    Toolkit::MoveBlip(blip->Map()->ID, blip->ID, location);
     return 0;
 }
 
 // The frame may run scripts of a template as it is made.
 int ViewBlip(lua_State* thread)
 {
-    TeskMapView* view = ElementAt<TeskMapView>(thread, 1);
-    TeskMapBlip* blip = ElementAt<TeskMapBlip>(thread, 2);
+    const TeskMapView* view = ElementAt<TeskMapView>(thread, 1);
+    const TeskMapBlip* blip = ElementAt<TeskMapBlip>(thread, 2);
     if (!view)
         return luaL_argerror(thread, 1, "a view of maps is needed");
     if (!blip)
         return luaL_argerror(thread, 2, "a blip of a map is needed");
 
     const RunningThread running(thread);
-    lua_pushboolean(thread, view->AddBlipView(blip) != nullptr);
+    lua_pushboolean(thread, Toolkit::ViewBlip(view->ID, blip->ID));
     return 1;
 }
 

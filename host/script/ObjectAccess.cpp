@@ -1,5 +1,6 @@
 #include "host/script/ObjectAccess.h"
 
+#include "host/record/ToolkitCalls.h"
 #include "host/script/ScriptObjects.h"
 #include "host/script/ScriptValues.h"
 #include "teskara/script/MvTypeDefinition.h"
@@ -103,7 +104,7 @@ int ObjectAccess::PushMember(lua_State* thread, ScriptObject& object, const char
     const RunningThread running(thread);
     const _MvTypeVar asked = object.Value; // the object may go meanwhile
     _MvTypeVar result;
-    const int done = asked.Type->DispatchMember(asked.Value, name, arguments.Count(), arguments.Texts(), result);
+    const int done = Toolkit::DispatchMember(asked, name, arguments.Count(), arguments.Texts(), result);
     if (done == DispatchUnknown)
         return FailForName(thread, *asked.Type, name);
 
@@ -118,7 +119,7 @@ int ObjectAccess::PushIndexed(lua_State* thread, const ScriptObject& object) con
     const RunningThread running(thread);
     const _MvTypeVar asked = object.Value;
     _MvTypeVar result;
-    const int done = asked.Type->GetIndex(asked.Value, index.Count(), index.Texts(), result);
+    const int done = Toolkit::GetIndex(asked, index.Count(), index.Texts(), result);
     if (done == DispatchUnknown)
         return FailForName(thread, *asked.Type, index.Texts()[0]);
 
@@ -239,7 +240,7 @@ int ObjectAccess::CallMethod(lua_State* thread)
     ArgumentTexts arguments(thread, access.m_Values, 2);
     const RunningThread running(thread);
     const _MvTypeVar asked = object.Value;
-    const int done = asked.Type->DispatchMethod(asked.Value, name, arguments.Count(), arguments.Texts());
+    const int done = Toolkit::DispatchMethod(asked, name, arguments.Count(), arguments.Texts());
     if (done == DispatchUnknown)
         return FailForName(thread, *asked.Type, name);
 

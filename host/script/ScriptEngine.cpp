@@ -1,6 +1,7 @@
 #include "host/script/ScriptEngine.h"
 
 #include "host/Console.h"
+#include "host/record/ToolkitCalls.h"
 #include "host/script/CommandLineWords.h"
 #include "host/script/MapFunctions.h"
 #include "host/script/SequenceParser.h"
@@ -156,7 +157,7 @@ void ScriptEngine::AddTopLevelObject(const char* name, TopLevelObjectHandler han
     Globals.Add([&](lua_State* thread) {
         char* noArguments[] = {nullptr};
         _MvTypeVar value;
-        if (handler(0, noArguments, value) && value.Type && !Types.AsOwn(value.Type)) {
+        if (Toolkit::AskTopLevelObject(handler, 0, noArguments, value) && value.Type && !Types.AsOwn(value.Type)) {
             Values.Push(thread, value);
         } else {
             lua_pushlightuserdata(thread, this);
@@ -356,7 +357,7 @@ int ScriptEngine::GetObject(lua_State* thread)
     const RunningThread running(thread);
     const TopLevelObjectHandler handler = engine.TopLevel.Find(lua_tostring(thread, lua_upvalueindex(2)));
     _MvTypeVar value;
-    if (!handler || !handler(index.Count(), index.Texts(), value))
+    if (!handler || !Toolkit::AskTopLevelObject(handler, index.Count(), index.Texts(), value))
         value = {};
     engine.Values.Push(thread, value);
     return 1;

@@ -1,5 +1,6 @@
 #include "host/script/ScriptTask.h"
 
+#include "host/record/ToolkitCalls.h"
 #include "teskara/core/CUIManager.h"
 
 namespace host {
@@ -12,6 +13,11 @@ bool IsOpen(u32 dialog)
 }
 
 } // namespace
+
+ScriptTask::~ScriptTask()
+{
+    Toolkit::EndScript(*this);
+}
 
 void ScriptTask::SetUserInput(const char* text)
 {

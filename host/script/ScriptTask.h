@@ -18,6 +18,8 @@ public:
     {
     }
 
+    ~ScriptTask() override;
+
     const char* GetName() const override { return m_Name.c_str(); }
     bool IsInsideAtom() const override { return m_Atoms > m_AtomsOutside; }
     const char* GetUserInput() const override { return m_Answer ? m_Answer->c_str() : nullptr; }

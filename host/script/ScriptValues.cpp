@@ -1,6 +1,7 @@
 #include "host/script/ScriptValues.h"
 
 #include "host/probe/HostTypes.h"
+#include "host/record/ToolkitCalls.h"
 #include "host/script/ScriptObjects.h"
 
 #include <charconv>
@@ -244,7 +245,7 @@ bool ScriptValues::AppendText(const _MvTypeVar& value, std::string& text) const
 
     char buffer[4096];
     buffer[0] = '\0';
-    if (!value.Type->ToText(value.Value, buffer, sizeof buffer))
+    if (!Toolkit::ToText(value, buffer, sizeof buffer))
         return false;
     text += buffer;
     return true;

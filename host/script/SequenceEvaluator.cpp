@@ -1,6 +1,7 @@
 #include "host/script/SequenceEvaluator.h"
 
 #include "host/Console.h"
+#include "host/record/ToolkitCalls.h"
 #include "host/script/Atoms.h"
 #include "host/script/ScriptGlobals.h"
 #include "host/script/ScriptObjects.h"
@@ -210,7 +211,8 @@ SequenceEvaluator::Place SequenceEvaluator::Start(
     const SequenceStep& step = part.Path[0];
     if (const TopLevelObjectHandler handler = m_In.Objects.Find(step.Name)) {
         StepArguments arguments;
-        return arguments.Read(*this, step) && handler(arguments.Count(), arguments.Texts(), frame.Value)
+        return arguments.Read(*this, step)
+                && Toolkit::AskTopLevelObject(handler, arguments.Count(), arguments.Texts(), frame.Value)
                 && frame.Value.Type
             ? Place::Frame
             : Place::Nowhere;
@@ -286,8 +288,7 @@ SequenceEvaluator::Place SequenceEvaluator::ReadIndex(const SequenceStep& step, 
     const ScriptObject* object = ScriptObjects::At(frame.Thread, -1);
     if (!object->Value.Type)
         return Place::Nowhere;
-    const int done =
-        object->Value.Type->GetIndex(object->Value.Value, arguments.Count(), arguments.Texts(), frame.Value);
+    const int done = Toolkit::GetIndex(_MvTypeVar(object->Value), arguments.Count(), arguments.Texts(), frame.Value);
     return done == DispatchDone && frame.Value.Type ? Place::Frame : Place::Nowhere;
 }
 
@@ -324,15 +325,14 @@ SequenceEvaluator::Place SequenceEvaluator::TakeStep(const SequenceStep& step, c
     if (!arguments.Read(*this, step) || !frame.Value.Type)
         return Place::Nowhere;
 
-    MvTypeDefinition& type = *frame.Value.Type;
-    const MvValue value = frame.Value.Value;
+    const _MvTypeVar object = frame.Value; // the frame may forget it meanwhile
     if (step.StepKind == SequenceStep::Kind::Method)
-        return type.DispatchMethod(value, step.Name.c_str(), arguments.Count(), arguments.Texts()) == DispatchDone
+        return Toolkit::DispatchMethod(object, step.Name.c_str(), arguments.Count(), arguments.Texts()) == DispatchDone
             ? Place::Frame
             : Place::Nowhere;
 
     _MvTypeVar result;
-    const int done = type.DispatchMember(value, step.Name.c_str(), arguments.Count(), arguments.Texts(), result);
+    const int done = Toolkit::DispatchMember(object, step.Name.c_str(), arguments.Count(), arguments.Texts(), result);
     frame.Value = result;
     return done == DispatchDone && result.Type ? Place::Frame : Place::Nowhere;
 }

@@ -17,7 +17,7 @@ namespace {
 class TypedInterface
 {
 public:
-    explicit TypedInterface(HostedInterface& ui) : m_UI(ui), m_Input(g_UIManager, ui.Session().System())
+    explicit TypedInterface(HostedInterface& ui) : m_UI(ui), m_Input(ui.Session().System())
     {
         setenv("SDL_VIDEODRIVER", "dummy", 1);
         EXPECT_EQ(0, SDL_Init(SDL_INIT_VIDEO)) << SDL_GetError();
