@@ -161,6 +161,12 @@ def replay_corpus(tally, preset):
             files = files[max(reached, 1):]
 
 
+def recordings(tally, preset):
+    say(f"build/{preset}: recordings, replayed")
+    for file in sorted((ROOT / "tests/recordings").glob("*.rec")):
+        check(tally, f"recording {file.name}", [f"build/{preset}/bin/teskara", "replay", file.relative_to(ROOT)])
+
+
 def pictures(tally, preset):
     say(f"build/{preset}: pictures")
     cases = (ROOT / "tests/pictures/cases.txt")
@@ -201,6 +207,7 @@ def behaviour(tally, preset, with_pictures):
         return False
     unit_tests(tally, preset)
     transcripts(tally, preset)
+    recordings(tally, preset)
     replay_corpus(tally, preset)
     if with_pictures:
         pictures(tally, preset)
