@@ -13,6 +13,7 @@ void AddGalleryCommand(CLI::App& app, int& exitCode);
 void AddProbeCommand(CLI::App& app, int& exitCode);
 void AddSchemaCommand(CLI::App& app, int& exitCode);
 void AddReplayCommand(CLI::App& app, int& exitCode);
+void AddLintCommand(CLI::App& app, int& exitCode);
 
 // Exit status of the program.
 enum : int {

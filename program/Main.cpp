@@ -40,6 +40,7 @@ int main(int argc, char** argv)
     AddProbeCommand(app, exitCode);
     AddSchemaCommand(app, exitCode);
     AddReplayCommand(app, exitCode);
+    AddLintCommand(app, exitCode);
 
     try {
         app.parse(argc, argv);

@@ -1,0 +1,74 @@
+#pragma once
+
+#include <span>
+#include <string_view>
+
+namespace host {
+
+class LintContext;
+
+// One thing that is looked for. Its page is docs/lint/NAME.md.
+struct LintRule {
+    std::string_view Name;
+    std::string_view Text; // what it finds, in a line
+    bool IsStrict; // looked for on demand only: it may well be meant
+    void (*Check)(LintContext& context);
+};
+
+// The rule of files that are no markup: the others do not look at them.
+extern const LintRule MarkupRule;
+
+// All others, in the order in which they look.
+std::span<const LintRule> LintRules();
+
+// The groups of rules, each in a file of its own.
+namespace LintChecks {
+
+// Values
+void Toggle(LintContext& context);
+void Hex(LintContext& context);
+void Number(LintContext& context);
+void Word(LintContext& context);
+void FarShare(LintContext& context);
+void EmptyValue(LintContext& context);
+void ValueBegin(LintContext& context);
+void ValueEnd(LintContext& context);
+
+// Tags
+void UnknownKind(LintContext& context);
+void MisplacedKind(LintContext& context);
+void UnknownTag(LintContext& context);
+void UnknownAttribute(LintContext& context);
+void AttributeForChild(LintContext& context);
+void ChildForAttribute(LintContext& context);
+void NoName(LintContext& context);
+void SameName(LintContext& context);
+
+// Templates
+void TemplateList(LintContext& context);
+void TemplateOrder(LintContext& context);
+void TemplateCycle(LintContext& context);
+void UnknownTemplate(LintContext& context);
+void SkinTemplate(LintContext& context);
+void HiddenChildren(LintContext& context);
+
+// Resources
+void TextureFile(LintContext& context);
+void FontColor(LintContext& context);
+void LongText(LintContext& context);
+
+// Controls
+void EntryLength(LintContext& context);
+void TreeRowHeight(LintContext& context);
+void ComboHeight(LintContext& context);
+void FadeDelay(LintContext& context);
+void TooltipElement(LintContext& context);
+
+// Scripts
+void ScriptError(LintContext& context);
+void SequenceText(LintContext& context);
+void UnknownMember(LintContext& context);
+
+} // namespace LintChecks
+
+} // namespace host

@@ -1,0 +1,155 @@
+#include "host/files/WholeFile.h"
+#include "host/lint/LintReport.h"
+#include "host/lint/LintRule.h"
+#include "host/lint/Linter.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <string>
+
+namespace {
+
+using host::Finding;
+
+std::vector<Finding> Lint(const std::string& text)
+{
+    host::Linter linter;
+    linter.AddText("test.xml", text);
+    return linter.Look(true);
+}
+
+std::string Report(const std::string& text)
+{
+    return FindingsAsText(Lint(text));
+}
+
+std::filesystem::path PageOf(std::string_view rule)
+{
+    return std::filesystem::path(TESKARA_DOCS) / "lint" / (std::string(rule) + ".md");
+}
+
+// The markup behind a line of a page; empty if there is none.
+std::string ExampleBehind(const std::string& page, const std::string& line)
+{
+    const std::string begin = "```xml\n";
+    const std::size_t label = page.find("\n" + line + "\n");
+    const std::size_t at = label == page.npos ? label : page.find(begin, label);
+    if (at == page.npos)
+        return {};
+    return page.substr(at + begin.size(), page.find("```", at + begin.size()) - at - begin.size());
+}
+
+void ExpectPageToHold(std::string_view rule)
+{
+    SCOPED_TRACE(rule);
+    const auto page = host::ReadWholeFile(PageOf(rule));
+    ASSERT_TRUE(page);
+    const std::string bad = ExampleBehind(*page, "Bad:");
+    const std::string good = ExampleBehind(*page, "Good:");
+    ASSERT_FALSE(bad.empty());
+    ASSERT_FALSE(good.empty());
+
+    const std::vector<Finding> found = Lint(bad);
+    EXPECT_FALSE(found.empty());
+    for (const Finding& finding : found)
+        EXPECT_EQ(finding.Rule, rule) << finding.Message;
+    EXPECT_EQ(Report(good), "");
+}
+
+TEST(Lint, ThePageOfEachRuleHasABadAndAGoodExample)
+{
+    ExpectPageToHold(host::MarkupRule.Name);
+    for (const host::LintRule& rule : host::LintRules())
+        ExpectPageToHold(rule.Name);
+}
+
+TEST(Lint, SaysWhereAValueStandsAndWhatWasMeant)
+{
+    EXPECT_EQ(Report("<Tesk>\n  <frame name=\"A\">\n    <Width>12px</Width>\n  </frame>\n</Tesk>"),
+        "test.xml:3:5: what stands behind the number in '12px' is not read; meant: 12 (number)\n");
+}
+
+TEST(Lint, SaysWhereAnAttributeStands)
+{
+    EXPECT_EQ(Report("<Tesk>\n  <frame name=\"A\"\n         Width=\"5\"/>\n</Tesk>"),
+        "test.xml:3:10: 'Width' is a child element, and is not read as an attribute; meant: <Width>5</Width> "
+        "(attribute-for-child)\n");
+}
+
+TEST(Lint, CountsColumnsInCharactersAndNoByteOrderMark)
+{
+    EXPECT_EQ(Report("\xef\xbb\xbf<Tesk><!-- \xc3\xa4\xe2\x82\xac --><nothing name=\"A\"/></Tesk>"),
+        "test.xml:1:18: there is no kind 'nothing': the element is left out (unknown-kind)\n");
+}
+
+TEST(Lint, SaysInWhichLineOfAScriptTheMistakeIs)
+{
+    EXPECT_EQ(
+        Lint("<Tesk><frame name=\"A\"><OnLoad>\n  Count = 1\n  Count = = 2\n</OnLoad></frame></Tesk>").at(0).Place.Line,
+        3u);
+}
+
+TEST(Lint, ReadsATemplateAsThoseThatUseIt)
+{
+    EXPECT_EQ(
+        Report("<Tesk><Template name=\"A\"><Range>5</Range></Template><gauge name=\"G\" Template=\"A\"/></Tesk>"), "");
+    EXPECT_EQ(Report("<Tesk><Template name=\"A\"><Range>5</Range></Template><text name=\"T\" Template=\"A\"/></Tesk>"),
+        "test.xml:1:26: nobody reads 'Range' in a text (unknown-tag)\n");
+}
+
+TEST(Lint, ReadsATemplateThatNobodyUsesAsAnything)
+{
+    EXPECT_EQ(Report("<Tesk><Template name=\"A\"><Range>5</Range><ItemHeight>5</ItemHeight></Template></Tesk>"), "");
+}
+
+TEST(Lint, FollowsWhatMembersGive)
+{
+    EXPECT_EQ(Report("<Tesk><text name=\"A\"><OnLoad>this.Font:SetSize(12)\nthis.Parent:Show()</OnLoad></text></Tesk>")
+                  .find("unknown-member"),
+        Report("<Tesk><text name=\"A\"><OnLoad>this.Font:SetSize(12)</OnLoad></text></Tesk>").find("unknown-member"));
+    EXPECT_NE(Report("<Tesk><text name=\"A\"><OnLoad>x = 1 .. UIElement(\"A\").Nope</OnLoad></text></Tesk>"), "");
+}
+
+TEST(Lint, LooksAtNothingInTextsAndCommentsOfScripts)
+{
+    EXPECT_EQ(
+        Report("<Tesk><frame name=\"A\"><OnLoad>-- this:nothing()\nText = \"this:nothing()\"</OnLoad></frame></Tesk>"),
+        "");
+}
+
+TEST(Lint, BoundsCyclesOfTemplates)
+{
+    const std::vector<Finding> found =
+        Lint("<Tesk><Template name=\"A\" Template=\"B\"/><Template name=\"B\" Template=\"A\"/>"
+             "<text name=\"T\" Template=\"A\"><Font Template=\"A\"/></text></Tesk>");
+    EXPECT_FALSE(found.empty());
+}
+
+TEST(Lint, TakesWhatIsNoMarkup)
+{
+    EXPECT_EQ(Report(""), "test.xml:1:1: this is no markup: The file is empty (markup)\n");
+    EXPECT_EQ(Lint("PNG").at(0).Rule, "markup");
+    EXPECT_EQ(Lint("<html></html>").at(0).Rule, "markup");
+    EXPECT_EQ(Lint("<Tesk><frame name=\"A\">").size(), 1u);
+}
+
+TEST(Lint, RefusesFoldersAndFilesThatAreNotThere)
+{
+    host::Linter linter;
+    std::string why;
+    EXPECT_FALSE(linter.AddFile("/", why));
+    EXPECT_EQ(why, "this is a folder");
+    why.clear();
+    EXPECT_FALSE(linter.AddFile("/nowhere/at/all.xml", why));
+    EXPECT_EQ(why, "there is no such file");
+}
+
+TEST(Lint, GivesFindingsAsJson)
+{
+    EXPECT_EQ(FindingsAsJson({}), "{\n  \"findings\": []\n}\n");
+    EXPECT_NE(
+        FindingsAsJson({{"a\xff.xml", {2, 3}, "number", "wrong", "right"}}).find("\"line\": 2"), std::string::npos);
+}
+
+} // namespace
