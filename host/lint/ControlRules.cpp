@@ -1,9 +1,9 @@
 // Rules about single kinds: values without which they do not do what they are there for.
 
 #include "host/lint/LintContext.h"
+#include "host/lint/LintName.h"
 #include "host/lint/LintRule.h"
-#include "teskara/core/AsciiCase.h"
-#include "teskara/core/Numbers.h"
+#include "host/lint/NumberText.h"
 #include "teskara/markup/XMLHelper.h"
 
 #include <algorithm>
@@ -26,7 +26,7 @@ std::optional<std::string_view> TextOf(const LintContext& context, const LintEle
 
 i32 NumberOf(const LintContext& context, const LintElement& element, const char* tag)
 {
-    return ReadInteger(TextOf(context, element, tag).value_or(""));
+    return NumberText::Integer(TextOf(context, element, tag).value_or(""));
 }
 
 template <class Check> void ForEachOf(LintContext& context, std::string_view kind, Check check)
@@ -43,7 +43,7 @@ std::optional<i32> PixelsOf(const LintContext& context, const LintElement& eleme
     const std::string_view text = TextOf(context, element, tag).value_or("0");
     if (text.find_first_of("%.rR") != text.npos)
         return std::nullopt;
-    return ReadInteger(text);
+    return NumberText::Integer(text);
 }
 
 bool HasTooltipElement(const LintContext& context)
@@ -52,7 +52,7 @@ bool HasTooltipElement(const LintContext& context)
     for (std::size_t file = 0; file < files; ++file) {
         const std::vector<LintElement>& elements = context.Model().ElementsOf(file);
         const bool has = std::any_of(elements.begin(), elements.end(), [](const LintElement& element) {
-            return EqualsNoCase(XMLHelper::GetStringAttribute(element.Node, "name", ""), TooltipName);
+            return IsSameName(XMLHelper::GetStringAttribute(element.Node, "name", ""), TooltipName);
         });
         if (has)
             return true;

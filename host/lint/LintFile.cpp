@@ -1,7 +1,7 @@
 #include "host/lint/LintFile.h"
 
 #include "host/files/WholeFile.h"
-#include "teskara/core/AsciiCase.h"
+#include "host/lint/LintName.h"
 
 #include <filesystem>
 #include <utility>
@@ -62,7 +62,7 @@ SourcePlace LintFile::FaultPlace() const
 XMLNode* LintFile::RootElement(std::string_view tag) const
 {
     XMLNode* node = m_Fault || !m_Document.Root ? nullptr : m_Document.Root->FirstChild;
-    while (node && (node->Type != XMLElementNode || !EqualsNoCase(node->Name, tag)))
+    while (node && (node->Type != XMLElementNode || !IsSameName(node->Name, tag)))
         node = node->Next;
     return node;
 }

@@ -1,6 +1,6 @@
 #include "host/lint/LintModel.h"
 
-#include "teskara/core/AsciiCase.h"
+#include "host/lint/LintName.h"
 #include "teskara/markup/XMLAttribute.h"
 #include "teskara/markup/XMLHelper.h"
 
@@ -13,13 +13,6 @@ namespace {
 constexpr const char* TemplateShape = "template element";
 constexpr const char* ElementShape = "element";
 
-std::string Folded(std::string_view name)
-{
-    std::string folded(name);
-    FoldAscii(folded);
-    return folded;
-}
-
 bool IsElement(const XMLNode* node)
 {
     return node->Type == XMLElementNode;
@@ -27,7 +20,7 @@ bool IsElement(const XMLNode* node)
 
 bool HasTag(const XMLNode* node, const char* tag)
 {
-    return IsElement(node) && EqualsNoCase(node->Name, tag);
+    return IsElement(node) && IsSameName(node->Name, tag);
 }
 
 const char* AttributeOf(XMLNode* node, const char* name)
@@ -64,7 +57,7 @@ void LintModel::CollectSkinLines(XMLNode* skin)
             continue;
         const std::string base = AttributeOf(line, "Base");
         const std::string skinned = AttributeOf(line, "Skin");
-        m_Skinned.emplace(Folded(base), skinned.empty() ? AttributeOf(line, "SkinPrefix") + base : skinned);
+        m_Skinned.emplace(FoldedName(base), skinned.empty() ? AttributeOf(line, "SkinPrefix") + base : skinned);
     }
 }
 
@@ -170,7 +163,7 @@ void LintModel::ReadTemplate(XMLNode* node, const SchemaShape& shape)
 
 void LintModel::Use(std::string_view name, const SchemaShape& shape)
 {
-    std::string folded = Folded(name);
+    std::string folded = FoldedName(name);
     const auto [first, last] = m_Skinned.equal_range(folded);
     if (!m_Uses.emplace(std::move(folded), &shape).second)
         return;
@@ -209,7 +202,7 @@ const SchemaShape* LintModel::ShapeAround(XMLNode* node) const
 
 void LintModel::Collect(XMLNode* node, InFile& in) const
 {
-    const bool isFile = EqualsNoCase(node->Name, m_Schema.RootTag);
+    const bool isFile = IsSameName(node->Name, m_Schema.RootTag);
     for (XMLNode* child = node->FirstChild; child; child = child->Next) {
         if (!IsElement(child))
             continue;
@@ -251,7 +244,7 @@ std::vector<const SchemaShape*> LintModel::ShapesOf(const XMLNode* node) const
 
 bool LintModel::IsKind(const SchemaShape* shape, std::string_view kind) const
 {
-    while (shape && !EqualsNoCase(shape->Name, kind))
+    while (shape && !IsSameName(shape->Name, kind))
         shape = m_Schema.FindShape(shape->Base);
     return shape != nullptr;
 }

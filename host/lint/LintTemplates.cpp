@@ -1,6 +1,6 @@
 #include "host/lint/LintTemplates.h"
 
-#include "teskara/core/AsciiCase.h"
+#include "host/lint/LintName.h"
 #include "teskara/markup/XMLHelper.h"
 
 namespace host {
@@ -9,13 +9,6 @@ namespace {
 
 // More bases than anyone writes; a cycle ends here.
 constexpr int DeepestChain = 32;
-
-std::string Folded(std::string_view name)
-{
-    std::string folded(name);
-    FoldAscii(folded);
-    return folded;
-}
 
 } // namespace
 
@@ -36,15 +29,15 @@ void LintTemplates::Add(std::size_t file, XMLNode* markup)
 {
     for (XMLNode* node = markup ? markup->FirstChild : nullptr; node; node = node->Next) {
         const std::string_view name = XMLHelper::GetStringAttribute(node, "name", "");
-        if (node->Type == XMLElementNode && EqualsNoCase(node->Name, "Template") && !name.empty())
-            m_Templates[Folded(name)].push_back({file, node});
+        if (node->Type == XMLElementNode && IsSameName(node->Name, "Template") && !name.empty())
+            m_Templates[FoldedName(name)].push_back({file, node});
     }
 }
 
 const std::vector<LintTemplate>& LintTemplates::Named(std::string_view name) const
 {
     static const std::vector<LintTemplate> none;
-    const auto found = m_Templates.find(Folded(name));
+    const auto found = m_Templates.find(FoldedName(name));
     return found == m_Templates.end() ? none : found->second;
 }
 

@@ -1,6 +1,6 @@
 #include "host/lint/MarkupPlaces.h"
 
-#include "teskara/core/AsciiCase.h"
+#include "host/lint/LintName.h"
 #include "teskara/markup/XMLAttribute.h"
 #include "teskara/markup/XMLNode.h"
 
@@ -88,7 +88,7 @@ private:
         }
         const std::string_view name = TakeName();
         const XMLNode* node = m_Next;
-        if (!node || !EqualsNoCase(name, node->Name)
+        if (!node || !IsSameName(name, node->Name)
             || !TakeIf(isInstruction ? XMLInstructionNode : XMLElementNode, begin))
             return false;
         return WalkAttributes(*node);

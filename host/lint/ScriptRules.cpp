@@ -3,9 +3,9 @@
 #include "host/lint/LintContext.h"
 #include "host/lint/LintRule.h"
 #include "host/lint/NearestName.h"
+#include "host/lint/NumberText.h"
 #include "host/lint/ScriptScan.h"
 #include "host/script/SequenceParser.h"
-#include "teskara/core/Numbers.h"
 
 #include <algorithm>
 
@@ -59,7 +59,8 @@ CompileFault Compile(LuaState& lua, std::string_view prefix, std::string_view te
     if (!fault.Message.starts_with(ChunkPrefix))
         return fault;
     const std::size_t line = ChunkPrefix.size();
-    fault.Line = static_cast<std::size_t>(std::max(ReadInteger(std::string_view(fault.Message).substr(line)), 1) - 1);
+    fault.Line =
+        static_cast<std::size_t>(std::max(NumberText::Integer(std::string_view(fault.Message).substr(line)), 1) - 1);
     fault.Message.erase(0, std::min(fault.Message.find(": ", line) + 2, fault.Message.size()));
     return fault;
 }

@@ -1,9 +1,9 @@
 // Rules about tags, attributes and names: what is left out without a word.
 
 #include "host/lint/LintContext.h"
+#include "host/lint/LintName.h"
 #include "host/lint/LintRule.h"
 #include "host/lint/NearestName.h"
-#include "teskara/core/AsciiCase.h"
 #include "teskara/markup/XMLAttribute.h"
 #include "teskara/markup/XMLHelper.h"
 
@@ -86,7 +86,7 @@ std::string AsChild(const XMLAttribute& attribute)
 
 bool IsTag(const XMLNode* node, const char* tag)
 {
-    return node->Type == XMLElementNode && EqualsNoCase(node->Name, tag);
+    return node->Type == XMLElementNode && IsSameName(node->Name, tag);
 }
 
 // Reports what bears a name that another bore before it.
@@ -97,8 +97,7 @@ void CheckNames(LintContext& context, XMLNode* around, bool areTemplates)
         if (node->Type != XMLElementNode || *NameOf(node) == 0 || IsTag(node, "Skin")
             || IsTag(node, "Template") != areTemplates)
             continue;
-        std::string name = NameOf(node);
-        FoldAscii(name);
+        std::string name = FoldedName(NameOf(node));
         if (!names.emplace(name, node).second)
             context.Report(node,
                 areTemplates ? "the template " + Quoted(NameOf(node)) + " replaces the one before it"

@@ -1,9 +1,9 @@
 // Rules about templates and skins: what is looked up, and found too late or not at all.
 
 #include "host/lint/LintContext.h"
+#include "host/lint/LintName.h"
 #include "host/lint/LintRule.h"
 #include "host/lint/NearestName.h"
-#include "teskara/core/AsciiCase.h"
 #include "teskara/markup/XMLAttribute.h"
 #include "teskara/markup/XMLHelper.h"
 
@@ -21,7 +21,7 @@ const char* AttributeOf(XMLNode* node, const char* name)
 
 bool IsTag(const XMLNode* node, const char* tag)
 {
-    return node->Type == XMLElementNode && EqualsNoCase(node->Name, tag);
+    return node->Type == XMLElementNode && IsSameName(node->Name, tag);
 }
 
 template <class Check> void ForEachAtTop(const LintContext& context, const char* tag, Check check)

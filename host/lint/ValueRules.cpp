@@ -1,87 +1,20 @@
 // Rules about the texts of values: what the toolkit takes for a number, a toggle or a word, and what it does not.
 
 #include "host/lint/LintContext.h"
+#include "host/lint/LintName.h"
 #include "host/lint/LintRule.h"
 #include "host/lint/NearestName.h"
+#include "host/lint/NumberText.h"
 #include "teskara/core/AsciiCase.h"
-#include "teskara/core/Numbers.h"
 #include "teskara/markup/XMLHelper.h"
 
 #include <algorithm>
 
 namespace host {
 
+using namespace NumberText;
+
 namespace {
-
-constexpr std::string_view Blanks = " \t\r\n\v\f";
-constexpr std::string_view Digits = "0123456789";
-constexpr std::string_view HexDigits = "0123456789abcdefABCDEF";
-
-std::string_view Trim(std::string_view text)
-{
-    const std::size_t first = text.find_first_not_of(Blanks);
-    return first == text.npos ? std::string_view() : text.substr(first, text.find_last_not_of(Blanks) - first + 1);
-}
-
-std::string_view WithoutSign(std::string_view text)
-{
-    if (text.starts_with('-') || text.starts_with('+'))
-        text.remove_prefix(1);
-    return text;
-}
-
-std::size_t CountLeading(std::string_view text, std::string_view characters)
-{
-    return std::min(text.find_first_not_of(characters), text.size());
-}
-
-// How many bytes a number with a fraction and an exponent takes; 0 if there is none.
-std::size_t FloatLength(std::string_view text)
-{
-    const std::size_t sign = text.size() - WithoutSign(text).size();
-    std::size_t end = sign + CountLeading(text.substr(sign), Digits);
-    std::size_t digits = end - sign;
-    if (end < text.size() && text[end] == '.') {
-        const std::size_t fraction = CountLeading(text.substr(end + 1), Digits);
-        digits += fraction;
-        end += 1 + fraction;
-    }
-    if (digits == 0)
-        return 0;
-    if (end < text.size() && FoldAscii(text[end]) == 'e') {
-        const std::string_view power = text.substr(end + 1);
-        const std::size_t count = CountLeading(WithoutSign(power), Digits);
-        if (count > 0)
-            end += 1 + (power.size() - WithoutSign(power).size()) + count;
-    }
-    return end;
-}
-
-std::size_t IntegerLength(std::string_view text)
-{
-    const std::size_t sign = text.size() - WithoutSign(text).size();
-    const std::size_t digits = CountLeading(text.substr(sign), Digits);
-    return digits == 0 ? 0 : sign + digits;
-}
-
-std::size_t HexLength(std::string_view text)
-{
-    std::size_t begin = text.size() - WithoutSign(text).size();
-    if (text.substr(begin).starts_with("0x") || text.substr(begin).starts_with("0X"))
-        begin += 2;
-    return begin + CountLeading(text.substr(begin), HexDigits);
-}
-
-// Of a position, with the letter and the percent sign that belong to it.
-std::size_t PositionLength(std::string_view text)
-{
-    const std::size_t letter = text.starts_with('r') || text.starts_with('R') ? 1 : 0;
-    const std::string_view number = text.substr(letter);
-    const std::size_t length = FloatLength(number);
-    if (length == 0)
-        return 0;
-    return letter + length + (number.substr(length).starts_with('%') ? 1 : 0);
-}
 
 // The length of what is read in a text of that form; nothing if the form is no number's.
 std::optional<std::size_t> NumberLength(std::string_view form, std::string_view text)
@@ -111,8 +44,12 @@ template <class Check> void ForEachText(LintContext& context, Check check)
 
 bool IsHexNumber(std::string_view text)
 {
-    u32 number = 0;
-    return ReadHex(text, number);
+    return HexLength(Trim(text)) != 0;
+}
+
+bool BeginsWithBlank(std::string_view text)
+{
+    return text.data() != Trim(text).data();
 }
 
 bool IsPlainText(const SchemaValue& value)
@@ -135,7 +72,7 @@ void LintChecks::Toggle(LintContext& context)
         if (value.Value->Form != "toggle" || IntegerLength(Trim(text)) != 0)
             return;
         const bool isYes = std::any_of(
-            std::begin(yes), std::end(yes), [text](std::string_view word) { return EqualsNoCase(word, Trim(text)); });
+            std::begin(yes), std::end(yes), [text](std::string_view word) { return IsSameName(word, Trim(text)); });
         context.Report(value, Quoted(Trim(text)) + " is no number, so " + LintContext::NameOf(value) + " is off",
             isYes ? "1" : "0");
     });
@@ -178,7 +115,7 @@ void LintChecks::Word(LintContext& context)
     ForEachText(context, [&](const LintValue& value, std::string_view text) {
         const std::vector<std::string>& words = value.Value->Words;
         const bool isKnown = std::any_of(
-            words.begin(), words.end(), [text](const std::string& word) { return EqualsNoCase(word, Trim(text)); });
+            words.begin(), words.end(), [text](const std::string& word) { return IsSameName(word, Trim(text)); });
         if (value.Value->Form == "word" && !words.empty() && !isKnown)
             context.Report(value,
                 std::string(LintContext::NameOf(value)) + " does not know the word " + Quoted(Trim(text)),
@@ -222,8 +159,7 @@ void LintChecks::ValueBegin(LintContext& context)
         if (first->Type == XMLCommentNode)
             context.Report(value, "the comment is read as the value of " + std::string(value.Node->Name),
                 "the comment before the tag");
-        else if (first->Type == XMLTextNode && Blanks.find(text.front()) != Blanks.npos
-            && (IsPlainText(*value.Value) || isFar))
+        else if (first->Type == XMLTextNode && BeginsWithBlank(text) && (IsPlainText(*value.Value) || isFar))
             context.Report(value, "the blank before the value of " + std::string(value.Node->Name) + " belongs to it",
                 "the value directly behind the tag");
     }
