@@ -15,6 +15,13 @@ namespace fs = std::filesystem;
 // Far beyond any interface that a person writes.
 constexpr std::uintmax_t MostBytes = 64 * 1024 * 1024;
 
+// Many faults have no message of their own.
+std::string WhyRefused(const XMLDocument& document)
+{
+    const std::string_view message = document.ErrorText;
+    return std::string(message == "Unknown Error" ? "reading ends here" : message);
+}
+
 } // namespace
 
 LintFile::LintFile(std::string path, std::string text) : m_Path(std::move(path)), m_Source(std::move(text))
@@ -27,7 +34,7 @@ LintFile::LintFile(std::string path, std::string text) : m_Path(std::move(path))
     m_Document.AddEntity("filename", m_Path.c_str());
     m_Document.AddEntity("filepath", folder.c_str());
     if (!m_Document.ParseBuffer(markup.data(), markup.size()))
-        m_Fault = markup.empty() ? "The file is empty" : m_Document.ErrorText;
+        m_Fault = markup.empty() ? "The file is empty" : WhyRefused(m_Document);
     m_Places.emplace(m_Source.Text(), m_Document.Root);
 }
 

@@ -5,7 +5,6 @@
 #include "teskara/core/Limits.h"
 #include "teskara/markup/XMLHelper.h"
 
-
 namespace host {
 
 namespace {
