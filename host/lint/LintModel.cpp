@@ -78,7 +78,7 @@ void LintModel::ReadFile(std::size_t file)
     if (!markup)
         return;
 
-    m_Shapes[markup].push_back(m_Schema.FindShape("file"));
+    m_Shapes[markup].push_back(m_Schema.FindShape("interface"));
     for (XMLNode* node = markup->FirstChild; node; node = node->Next) {
         const SchemaShape* skin = m_Schema.FindShape("skin");
         if (HasTag(node, "Skin") && skin)

@@ -17,15 +17,27 @@ bool IsFont(const LintValue& value)
     return value.Value && !value.Attribute && (value.Value->Form == "font" || value.Value->Form == "fixed font");
 }
 
-// Bytes of a text that is shown with its sequences evaluated.
-constexpr std::size_t MostSequenceBytes = Limits::TextBuffer2048 - 1;
-constexpr std::size_t MostTooltipBytes = Limits::TextBuffer4096 - 1;
+// How many bytes of a text with sequences are shown: in general, and of values that have more room.
+constexpr std::size_t MostShownBytes = Limits::TextBuffer2048 - 1;
 
-std::size_t MostBytes(const LintValue& value)
+constexpr struct {
+    std::string_view Shape, Value;
+    std::size_t MostBytes;
+} RoomierTexts[] = {
+    {"element", "AutoTooltip", Limits::TextBuffer4096 - 1},
+    {"hudelement", "Text", Limits::TextBuffer8192 - 1},
+};
+
+// 0: as long as one likes.
+std::size_t MostBytes(const LintContext& context, const LintValue& value)
 {
-    if (value.Value->Form == "sequence")
-        return MostSequenceBytes;
-    return value.Value->Name == "AutoTooltip" ? MostTooltipBytes : 0;
+    if (value.Value->Form != "sequence")
+        return 0;
+    for (const auto& text : RoomierTexts) {
+        if (text.Value == value.Value->Name && context.Model().IsKind(value.Shape, text.Shape))
+            return text.MostBytes;
+    }
+    return MostShownBytes;
 }
 
 } // namespace
@@ -53,24 +65,12 @@ void LintChecks::FontColor(LintContext& context)
 void LintChecks::LongText(LintContext& context)
 {
     for (const LintValue& value : context.Values()) {
-        const std::size_t most = value.Value ? MostBytes(value) : 0;
+        const std::size_t most = value.Value ? MostBytes(context, value) : 0;
         const std::size_t length = LintContext::TextOf(value).size();
         if (most != 0 && length > most)
             context.Report(value,
                 "the text has " + std::to_string(length) + " bytes; what is behind " + std::to_string(most)
                     + " of them is cut off");
-    }
-    for (const LintElement& element : context.Elements()) {
-        if (!context.Model().IsKind(element.Shape, "textentry"))
-            continue;
-        const std::size_t length = std::string_view(XMLHelper::GetStringValue(element.Node, "Text", "")).size();
-        XMLNode* most = context.Model().FindValue(element, "MaxLength", context.File());
-        const u32 room = most ? XMLHelper::GetIntValue(most->Parent, "MaxLength", 0) : 0;
-        if (room > 0 && length >= room)
-            context.Report(element.Node,
-                "the entry's text has " + std::to_string(length) + " bytes, of which " + std::to_string(room - 1)
-                    + " fit",
-                "<MaxLength>" + std::to_string(length + 1) + "</MaxLength>");
     }
 }
 

@@ -80,11 +80,7 @@ using Types = std::vector<const SchemaType*>;
 class MemberCheck
 {
 public:
-    MemberCheck(LintContext& context, const LintValue& value) : m_Context(context), m_Value(value)
-    {
-        const SchemaShape* element = Known().FindShape("element");
-        m_ElementType = element ? Known().TypeOf(*element) : nullptr;
-    }
+    MemberCheck(LintContext& context, const LintValue& value) : m_Context(context), m_Value(value) { }
 
     // offset: of the use's text in the value.
     void Check(const ObjectUse& use, std::size_t offset)
@@ -156,9 +152,9 @@ private:
     {
         const SchemaType* result = name.Result.empty() ? nullptr : Known().FindType(name.Result);
         types.clear();
-        if (result && result != m_ElementType) // an element may be of any kind
+        if (result)
             types.push_back(result);
-        return result != nullptr;
+        return result || name.Result == AnyElement;
     }
 
     void Report(const Types& types, const ObjectUse::Step& step, std::size_t offset)
@@ -191,7 +187,6 @@ private:
 
     LintContext& m_Context;
     const LintValue& m_Value;
-    const SchemaType* m_ElementType;
 };
 
 // Those whose members are known.

@@ -54,7 +54,7 @@ bool BeginsWithBlank(std::string_view text)
 
 bool IsPlainText(const SchemaValue& value)
 {
-    return value.Form == "text" || value.Form == "sequence" || value.Form == "word" || value.Form == "file"
+    return value.Form == "string" || value.Form == "sequence" || value.Form == "word" || value.Form == "file"
         || value.Form == "variable" || value.Form == "template";
 }
 

@@ -133,7 +133,7 @@ private:
     {
         if (member.Result.empty())
             return "nothing";
-        const SchemaType* type = m_Schema.FindType(member.Result);
+        const SchemaType* type = m_Schema.FindType(member.Result == AnyElement ? "teskelement" : member.Result);
         return type ? LinkTo(*type) : member.Result;
     }
 

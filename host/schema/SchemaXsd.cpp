@@ -101,7 +101,7 @@ public:
         m_Text = "<?xml version=\"1.0\" encoding=\"utf-8\"?>\n"
                  "<!-- Made by teskara schema, which reads the toolkit's own tables. -->\n"
                  "<xs:schema xmlns:xs=\"http://www.w3.org/2001/XMLSchema\">\n";
-        m_Text += "  <xs:element name=\"" + m_Schema.RootTag + "\" type=\"file\"/>\n\n";
+        m_Text += "  <xs:element name=\"" + m_Schema.RootTag + "\" type=\"interface\"/>\n\n";
         for (const PlainForm& form : PlainForms)
             WritePlainForm(form);
         WriteAnything();

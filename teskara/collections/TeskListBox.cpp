@@ -47,7 +47,7 @@ constexpr MarkupPart BarPart = {"ScrollBar", "scrollbar", MarkupPlace::NamedChil
 constexpr MarkupPart ItemsPart = {"Items", "items"};
 constexpr MarkupPart ListParts[] = {BarPart, MaskAttribute, ItemsPart};
 
-constexpr MarkupPart ItemPart = {"Item", "item"};
+constexpr MarkupPart ItemPart = {"item", "item"};
 constexpr MarkupPart ItemsParts[] = {ItemPart};
 
 constexpr MarkupPart ItemValue = {"Value", "string", MarkupPlace::Attribute};

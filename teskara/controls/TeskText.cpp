@@ -25,11 +25,13 @@ constexpr int UnknownWidth = 12;
 constexpr std::size_t SplitSlack = 64;
 
 constexpr MarkupWord HorizontalWords[] = {
+    {"left", AlignLeft},
     {"center", AlignCenter},
     {"right", AlignRight},
 };
 
 constexpr MarkupWord VerticalWords[] = {
+    {"top", AlignTop},
     {"center", AlignVerticalCenter},
     {"bottom", AlignBottom},
 };
@@ -40,7 +42,7 @@ constexpr MarkupValue<TeskText> TextValues[] = {
     {"Wrap",              Markup::Toggle<&TeskText::Wrap>,                           false},
     {"Alignment",         Markup::Word<&TeskText::Alignment, HorizontalWords>,       AlignLeft},
     {"VerticalAlignment", Markup::Word<&TeskText::VerticalAlignment, VerticalWords>, AlignTop},
-    {"Text",              Markup::Text<&TeskText::Text>,                             ""},
+    {"Text",              Markup::ShownText<&TeskText::Text>,                        ""},
 };
 // clang-format on
 

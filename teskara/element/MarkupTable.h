@@ -157,10 +157,15 @@ constexpr MarkupForm<OwnerOf<Field>> Toggle = {
     }};
 
 template <auto Field>
-constexpr MarkupForm<OwnerOf<Field>> Text = {
-    "string", [](OwnerOf<Field>& control, const MarkupSource& source, TagName tag, MarkupDefault fallback) {
-        control.*Field = source.Text(tag, fallback.Text);
-    }};
+void ReadText(OwnerOf<Field>& control, const MarkupSource& source, TagName tag, MarkupDefault fallback)
+{
+    control.*Field = source.Text(tag, fallback.Text);
+}
+
+template <auto Field> constexpr MarkupForm<OwnerOf<Field>> Text = {"string", ReadText<Field>};
+
+// A text whose data sequences are evaluated each time it is shown.
+template <auto Field> constexpr MarkupForm<OwnerOf<Field>> ShownText = {"sequence", ReadText<Field>};
 
 // A text with data sequences, which the host parses here; an empty one has none.
 template <auto Field>

@@ -30,7 +30,7 @@ constexpr MarkupForm<TeskElement> VisibleElseAsItIs = {
     }};
 
 constexpr MarkupForm<TeskElement> TextUnlessEmpty = {
-    "string", [](TeskElement& element, const MarkupSource& source, TagName tag, MarkupDefault fallback) {
+    "sequence", [](TeskElement& element, const MarkupSource& source, TagName tag, MarkupDefault fallback) {
         const char* text = source.Text(tag, fallback.Text);
         if (*text)
             element.AutoTooltip = std::make_unique<utf8string>(text);

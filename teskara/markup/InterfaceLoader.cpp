@@ -44,7 +44,7 @@ constexpr MarkupPart NameParts[] = {
     {TemplateAttribute, "templates", MarkupPlace::Attribute},
 };
 
-const MarkupShape g_FileShape({.Name = "file", .Use = MarkupUse::Value, .Parts = {FileParts}, .Holds = "element"});
+const MarkupShape g_FileShape({.Name = "interface", .Use = MarkupUse::Value, .Parts = {FileParts}, .Holds = "element"});
 const MarkupShape g_TemplateShape(
     {.Name = TemplatePart.Form, .Use = MarkupUse::Value, .Parts = {NameParts}, .Holds = "value"});
 

@@ -56,10 +56,13 @@ struct SchemaShape {
     bool IsKind() const { return Use == SchemaUse::Element || Use == SchemaUse::Part || Use == SchemaUse::Made; }
 };
 
+// The result of members that give an element of any kind.
+inline constexpr char AnyElement[] = "element";
+
 // A member or a method of a script type.
 struct SchemaName {
     std::string Name;
-    std::string Result; // the type of a member's value; empty where there never is one, and for methods
+    std::string Result; // the type of a member's value, or AnyElement; empty where there never is one, and for methods
     int Needs = 0; // with fewer arguments nothing is answered
 };
 

@@ -148,9 +148,9 @@ TEST(Lint, RefusesFoldersAndFilesThatAreNotThere)
 
 TEST(Lint, GivesFindingsAsJson)
 {
-    EXPECT_EQ(FindingsAsJson({}), "{\n  \"findings\": []\n}\n");
-    EXPECT_NE(
-        FindingsAsJson({{"a\xff.xml", {2, 3}, "number", "wrong", "right"}}).find("\"line\": 2"), std::string::npos);
+    EXPECT_EQ(host::FindingsAsJson({}), "{\n  \"findings\": []\n}\n");
+    EXPECT_NE(host::FindingsAsJson({{"a\xff.xml", {2, 3}, "number", "wrong", "right"}}).find("\"line\": 2"),
+        std::string::npos);
 }
 
 } // namespace

@@ -76,7 +76,7 @@ protected:
         const std::string tag = XMLHelper::GetText(node);
         XMLNode* parent = XMLHelper::GetParent(node);
         if (!parent || tag == m_Schema.RootTag)
-            return tag == m_Schema.RootTag ? m_Schema.FindShape("file") : nullptr;
+            return tag == m_Schema.RootTag ? m_Schema.FindShape("interface") : nullptr;
 
         const SchemaShape* around = ShapeOf(parent);
         if (!around)

@@ -31,8 +31,9 @@ TEST(SchemaNotes, EveryKindAndEveryValueHasALine)
     for (const SchemaShape& shape : schema.Shapes) {
         EXPECT_FALSE(host::NoteOn(shape).empty()) << shape.Name;
         for (const SchemaValue& value : shape.Values) {
-            if (value.Place == SchemaPlace::Child)
+            if (value.Place == SchemaPlace::Child) {
                 EXPECT_FALSE(host::NoteOn(shape, value).empty()) << shape.Name << " " << value.Name;
+            }
         }
     }
 }
@@ -69,7 +70,7 @@ TEST(SchemaPages, EveryLinkLeadsToAPage)
 TEST(SchemaXsd, ValuesHaveTypes)
 {
     const std::string xsd = host::WriteSchemaXsd(Schema());
-    EXPECT_TRUE(Holds(xsd, "<xs:element name=\"Tesk\" type=\"file\"/>"));
+    EXPECT_TRUE(Holds(xsd, "<xs:element name=\"Tesk\" type=\"interface\"/>"));
     EXPECT_TRUE(Holds(xsd, "<xs:element name=\"BackgroundColor\" type=\"hex\">"));
     EXPECT_TRUE(Holds(xsd, "<xs:element name=\"ScrollBar\" type=\"scrollbar-or-template\">"));
     EXPECT_TRUE(Holds(xsd, "<xs:enumeration value=\"textreverse\"/>"));
