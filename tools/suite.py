@@ -72,10 +72,11 @@ def build(tally, preset):
 
 
 def check_the_house(tally):
-    say("checks: layers, sizes, formatting, skins, and that these checks can fail")
+    say("checks: layers, sizes, formatting, bans, skins, and that these checks can fail")
     check(tally, "layers", ["tools/check_layers.py"])
     check(tally, "sizes", ["tools/check_sizes.py"])
     check(tally, "formatting", ["tools/check_format.py"])
+    check(tally, "bans", ["tools/check_bans.py"])
     check(tally, "skins", ["tools/check_skins.py"])
     check(tally, "checks of the checks", ["tools/test_checks.py"])
 

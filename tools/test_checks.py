@@ -6,6 +6,7 @@ import unittest
 import xml.etree.ElementTree
 from pathlib import Path
 
+import check_bans
 import check_format
 import check_layers
 import check_sizes
@@ -96,6 +97,34 @@ class Checks(unittest.TestCase):
         self.assertEqual(lengths, [101, 101])
         self.assertEqual(len(found), 2)
         self.assertIn("static int Long(", found[0])
+
+    def test_what_is_banned_is_found(self):
+        for line, words in {
+            "double a = std::strtod(text, nullptr);": "strtod depends on the locale",
+            "int a = atoi(text);": "atoi is undefined",
+            "strcpy(to, text);": "strcpy copies without a bound",
+            "int a = (int)b;": "casts in the manner of C",
+            "auto a = (const char*)(b + c);": "casts in the manner of C",
+            "Take((TeskElement*)this);": "casts in the manner of C",
+            "std::snprintf(to, size, text.c_str());": "the format of snprintf",
+            "Host::PrintLine(name);": "the format of PrintLine",
+        }.items():
+            found = list(check_bans.findings(self.tree({"host/A.cpp": "void A()\n{\n    " + line + "\n}\n"})))
+            self.assertEqual(len(found), 1, (line, found))
+            self.assertIn("host/A.cpp:3: ", found[0])
+            self.assertIn(words, found[0])
+
+    def test_what_only_looks_banned_is_not_found(self):
+        for line in [
+            "// strcpy(to, from) is not for us",
+            "const char* a = \"atoi(text)\";",
+            "text.tolower(); int a = CountOf(b) + sizeof(int) * c;",
+            "bool Read(const char*) const; void Give(u32) override;",
+            "Host::PrintLine(\"%s is %d\", Name(\"a, b\"), 10'000);",
+            "constexpr const char* Usage = \"%s\"; Host::PrintLine(Usage, name);",
+            "void Say(const char* format, int b) { Host::PrintLine(format, b); }",
+        ]:
+            self.assertEqual(list(check_bans.findings(self.tree({"host/A.cpp": line + "\n"}))), [], line)
 
     def test_a_file_in_another_style_is_found(self):
         style = Path(__file__).parent.parent / ".clang-format"
