@@ -85,13 +85,15 @@ void InterfaceSession::SkipFrame()
     Toolkit::Render();
 }
 
-// Where a file is no markup, the place is told as well.
 bool InterfaceSession::Load(const std::string& subject, const std::string& file, const char* skin)
 {
-    const TrailStep step(m_Host.Output().Trail(), subject);
-    if (Toolkit::LoadInterface(file.c_str(), true, skin))
-        return true;
+    {
+        const TrailStep step(m_Host.Output().Trail(), subject);
+        if (Toolkit::LoadInterface(file.c_str(), true, skin))
+            return true;
+    }
 
+    // Where a file is no markup, the place is told as well, and with it which file it is.
     const auto path = m_Host.Paths().FindInterface(file);
     const auto fault = path ? FindMarkupFault(*path) : std::nullopt;
     if (fault && fault->Line != 0)

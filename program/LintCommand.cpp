@@ -15,6 +15,7 @@ struct LintOptions {
     std::string Skin;
     bool Json = false;
     bool Strict = false;
+    bool NoScripts = false;
     bool Rules = false;
 };
 
@@ -22,7 +23,7 @@ void PrintRules()
 {
     for (const host::LintRule& rule : host::LintRules())
         std::printf("%-20s %s%s\n", std::string(rule.Name).c_str(), std::string(rule.Text).c_str(),
-            rule.IsStrict ? " (--strict)" : "");
+            rule.When == host::LintWhen::Strict ? " (--strict)" : "");
 }
 
 // Files that cannot be read are told of, and the others looked at all the same.
@@ -46,7 +47,7 @@ int Lint(const LintOptions& options)
         std::fprintf(stderr, "teskara: %s: %s\n", file.c_str(), why.c_str());
         areAllRead = false;
     }
-    const std::vector<host::Finding> findings = linter.Look(options.Strict);
+    const std::vector<host::Finding> findings = linter.Look({.Strict = options.Strict, .Scripts = !options.NoScripts});
     const std::string report = options.Json ? FindingsAsJson(findings) : FindingsAsText(findings);
     std::fwrite(report.data(), 1, report.size(), stdout);
     if (!areAllRead)
@@ -63,6 +64,8 @@ void AddLintCommand(CLI::App& app, int& exitCode)
     lint->add_option("FILE", options->Files, "Interface files; those beside them may give templates");
     lint->add_flag("--json", options->Json, "Print the findings as JSON");
     lint->add_flag("--strict", options->Strict, "Look for what may well be meant, too");
+    lint->add_flag(
+        "--no-scripts", options->NoScripts, "Leave scripts and data sequences alone: they are not for the program");
     lint->add_flag("--rules", options->Rules, "List the rules; docs/lint/ has a page for each");
     lint->add_option("--skin", options->Skin, "A skin: its name in interfaces/skins, or its folder")->type_name("NAME");
     lint->footer("Exit status: 0 nothing was found, 1 something was, 2 a file could not be read or the line is wrong.");

@@ -190,6 +190,9 @@ def samples(tally, preset):
     files = sorted(file for folder in ("interfaces", "docs") for file in (ROOT / folder).rglob("*.xml"))
     check(tally, "lint of the samples",
           [f"build/{preset}/bin/teskara", "lint", "--strict", *(file.relative_to(ROOT) for file in files)])
+    # The scripts of the example are for its own host.
+    check(tally, "lint of the example",
+          [f"build/{preset}/bin/teskara", "lint", "--strict", "--no-scripts", "examples/minimal_host/hello.xml"])
 
 
 def installed_copy(tally):

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "teskara/core/Types.h"
+
 #include <span>
 #include <string_view>
 
@@ -7,11 +9,18 @@ namespace host {
 
 class LintContext;
 
+// When a rule looks.
+enum class LintWhen : u8 {
+    Always,
+    Strict, // on demand: what it finds may well be meant
+    Scripts, // unless scripts and data sequences are of another language than the reference host's
+};
+
 // One thing that is looked for. Its page is docs/lint/NAME.md.
 struct LintRule {
     std::string_view Name;
     std::string_view Text; // what it finds, in a line
-    bool IsStrict; // looked for on demand only: it may well be meant
+    LintWhen When;
     void (*Check)(LintContext& context);
 };
 

@@ -44,6 +44,19 @@ void CheckMarkup(LintContext& context, std::string_view rootTag)
             "<" + std::string(rootTag) + ">...</" + std::string(rootTag) + ">");
 }
 
+bool IsWanted(const LintRule& rule, const LintScope& scope)
+{
+    switch (rule.When) {
+    case LintWhen::Always:
+        break;
+    case LintWhen::Strict:
+        return scope.Strict;
+    case LintWhen::Scripts:
+        return scope.Scripts;
+    }
+    return true;
+}
+
 auto OrderOf(const Finding& finding)
 {
     return std::tie(finding.Place.Line, finding.Place.Column, finding.Rule, finding.Message);
@@ -117,7 +130,7 @@ void Linter::AddNeighbours(const fs::path& folder)
     }
 }
 
-std::vector<Finding> Linter::Look(bool strict)
+std::vector<Finding> Linter::Look(const LintScope& scope)
 {
     for (std::size_t index = 0, count = m_Entries.size(); index < count; ++index) {
         if (m_Entries[index].IsAsked && !m_Entries[index].Path.empty())
@@ -131,12 +144,12 @@ std::vector<Finding> Linter::Look(bool strict)
     std::vector<Finding> findings;
     for (std::size_t file = 0; file < files.size(); ++file) {
         if (m_Entries[file].IsAsked)
-            LookAt(file, model, strict, findings);
+            LookAt(file, model, scope, findings);
     }
     return findings;
 }
 
-void Linter::LookAt(std::size_t file, const LintModel& model, bool strict, std::vector<Finding>& findings)
+void Linter::LookAt(std::size_t file, const LintModel& model, const LintScope& scope, std::vector<Finding>& findings)
 {
     SearchPaths paths;
     paths.AddInterfaceFile(model.Files()[file]->Path());
@@ -145,7 +158,7 @@ void Linter::LookAt(std::size_t file, const LintModel& model, bool strict, std::
     LintContext context(model, file, paths, m_Lua, findings);
     CheckMarkup(context, m_Schema.RootTag);
     for (const LintRule& rule : LintRules()) {
-        if (rule.IsStrict && !strict)
+        if (!IsWanted(rule, scope))
             continue;
         context.Begin(rule.Name);
         rule.Check(context);

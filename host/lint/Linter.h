@@ -14,6 +14,12 @@ namespace host {
 
 class LintModel;
 
+// What is looked for besides what always is.
+struct LintScope {
+    bool Strict = false; // what may well be meant
+    bool Scripts = true; // what scripts and data sequences say
+};
+
 // Looks for what the toolkit is silent about, in interface files as they would be shown in a skin. Nothing is loaded, no
 // script is run. What lies in the folders of the files is read as well: they may use each other's templates.
 class Linter
@@ -28,8 +34,8 @@ public:
     // The same for a text. name: where the folder would be.
     void AddText(std::string name, std::string text);
 
-    // In the order of the files, and of their lines. strict: with the rules of what may well be meant.
-    std::vector<Finding> Look(bool strict);
+    // In the order of the files, and of their lines.
+    std::vector<Finding> Look(const LintScope& scope);
 
 private:
     struct Entry {
@@ -41,7 +47,7 @@ private:
     Entry* FindEntry(const std::filesystem::path& path);
     void AddUnasked(const std::filesystem::path& path);
     void AddNeighbours(const std::filesystem::path& folder);
-    void LookAt(std::size_t file, const LintModel& model, bool strict, std::vector<Finding>& findings);
+    void LookAt(std::size_t file, const LintModel& model, const LintScope& scope, std::vector<Finding>& findings);
 
     Schema m_Schema;
     LuaState m_Lua;

@@ -3,6 +3,7 @@
 #include "teskara/core/AsciiCase.h"
 
 #include <algorithm>
+#include <array>
 #include <cstddef>
 #include <numeric>
 
@@ -10,31 +11,68 @@ namespace host {
 
 namespace {
 
-// How many letters must be added, dropped or changed, in any case.
+constexpr std::size_t LongestWord = 64;
+
+bool IsSameLetter(char left, char right)
+{
+    return FoldAscii(left) == FoldAscii(right);
+}
+
+// How many letters must be added, dropped, changed or exchanged with the next one, in any case.
 std::size_t Distance(std::string_view from, std::string_view to)
 {
-    std::vector<std::size_t> row(to.size() + 1);
-    std::iota(row.begin(), row.end(), std::size_t{0});
-    for (std::size_t left = 0; left < from.size(); ++left) {
-        std::size_t diagonal = row[0]++;
-        for (std::size_t right = 0; right < to.size(); ++right) {
-            const std::size_t changed = diagonal + (FoldAscii(from[left]) != FoldAscii(to[right]));
-            diagonal = row[right + 1];
-            row[right + 1] = std::min({row[right] + 1, row[right + 1] + 1, changed});
+    std::array<std::array<std::size_t, LongestWord + 1>, 3> rows = {}; // the present one and the two before it
+    std::iota(rows[0].begin(), rows[0].end(), std::size_t{0});
+    for (std::size_t left = 1; left <= from.size(); ++left) {
+        auto& row = rows[left % 3];
+        const auto& last = rows[(left + 2) % 3];
+        const auto& oneBefore = rows[(left + 1) % 3];
+        row[0] = left;
+        for (std::size_t right = 1; right <= to.size(); ++right) {
+            const bool isSame = IsSameLetter(from[left - 1], to[right - 1]);
+            row[right] = std::min({row[right - 1] + 1, last[right] + 1, last[right - 1] + (isSame ? 0 : 1)});
+            const bool isExchanged = left > 1 && right > 1 && IsSameLetter(from[left - 1], to[right - 2])
+                && IsSameLetter(from[left - 2], to[right - 1]);
+            if (isExchanged)
+                row[right] = std::min(row[right], oneBefore[right - 2] + 1);
         }
     }
-    return row.back();
+    return rows[from.size() % 3][to.size()];
+}
+
+// Whether a name has all letters of a word in their order, as OnLeftClick has those of OnClick.
+bool HasLettersOf(std::string_view name, std::string_view word)
+{
+    std::size_t found = 0;
+    for (const char letter : name)
+        found += found < word.size() && IsSameLetter(letter, word[found]);
+    return found == word.size();
+}
+
+std::string ShortestAround(std::string_view word, const std::vector<std::string>& names)
+{
+    constexpr std::size_t shortestWord = 4; // fewer letters are in many names
+    std::string_view shortest;
+    for (const std::string& name : names) {
+        const bool isShorter = shortest.empty() || name.size() < shortest.size();
+        if (isShorter && name.size() < 2 * word.size() && HasLettersOf(name, word))
+            shortest = name;
+    }
+    return std::string(word.size() < shortestWord ? std::string_view() : shortest);
 }
 
 } // namespace
 
 std::string NearestName(std::string_view word, const std::vector<std::string>& names)
 {
-    constexpr std::size_t longest = 64;
+    if (word.size() > LongestWord)
+        return {};
+
     std::string nearest;
     std::size_t least = std::max<std::size_t>(1, word.size() / 3) + 1;
     for (const std::string& name : names) {
-        if (word.size() > longest || name.size() > longest)
+        const std::size_t added = std::max(word.size(), name.size()) - std::min(word.size(), name.size());
+        if (name.size() > LongestWord || added >= least)
             continue;
         const std::size_t distance = Distance(word, name);
         if (distance < least) {
@@ -42,7 +80,7 @@ std::string NearestName(std::string_view word, const std::vector<std::string>& n
             nearest = name;
         }
     }
-    return nearest;
+    return nearest.empty() ? ShortestAround(word, names) : nearest;
 }
 
 } // namespace host

@@ -16,7 +16,7 @@ std::vector<Finding> Lint(const std::string& text)
 {
     host::Linter linter;
     linter.AddText("test.xml", text);
-    return linter.Look(true);
+    return linter.Look({.Strict = true});
 }
 
 std::string Report(const std::string& text)
