@@ -118,7 +118,7 @@ private:
 
 // A platform whose clock and clipboard the fuzzer moves, and that says nothing. Keys from 32 to 255 give the character
 // of that number.
-class QuietPlatform final : public Platform
+class QuietPlatform : public Platform
 {
 public:
     u32 Ticks = 10000;

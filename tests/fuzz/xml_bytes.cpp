@@ -5,40 +5,31 @@
 #include "teskara/markup/ElementPosition.h"
 #include "teskara/markup/XMLDocument.h"
 #include "teskara/markup/XMLHelper.h"
+#include "tests/fuzz/ChaosHost.h"
+#include "tests/fuzz/ModelCheck.h"
 
 #include <cstdio>
-#include <cstdlib>
-#include <filesystem>
 #include <string>
 #include <string_view>
 
-#include <unistd.h>
-
 namespace {
 
-// A name for this process alone, so that several can search at a time.
-const std::string& TemporaryPath()
-{
-    static const std::string path =
-        (std::filesystem::temp_directory_path() / ("xml_bytes." + std::to_string(getpid()))).string();
-    return path;
-}
+constexpr char Folder[] = "folder";
+constexpr char Path[] = "folder/file";
 
-void Require(bool holds, const char* what)
+// The only file there is holds the input.
+class OneFile final : public QuietPlatform
 {
-    if (holds)
-        return;
-    std::fprintf(stderr, "%s\n", what);
-    std::abort();
-}
+public:
+    std::string_view Bytes;
 
-void WriteFile(std::string_view bytes)
-{
-    std::FILE* const file = std::fopen(TemporaryPath().c_str(), "wb");
-    Require(file != nullptr, "the temporary file cannot be written");
-    std::fwrite(bytes.data(), 1, bytes.size(), file);
-    std::fclose(file);
-}
+    // A stream over no bytes at all cannot be had.
+    std::FILE* OpenFile(const char16_t*) override
+    {
+        return Bytes.empty() ? std::fopen("/dev/null", "rb")
+                             : fmemopen(const_cast<char*>(Bytes.data()), Bytes.size(), "rb");
+    }
+};
 
 std::string Result(bool parsed, std::string_view error, const std::string& tree)
 {
@@ -48,7 +39,7 @@ std::string Result(bool parsed, std::string_view error, const std::string& tree)
 std::string ParseFile()
 {
     XMLDocument document;
-    const bool parsed = document.ParseFile(TemporaryPath().c_str());
+    const bool parsed = document.ParseFile(Path);
     return Result(parsed, document.ErrorText, DumpTree(document.Root));
 }
 
@@ -73,27 +64,27 @@ void ReadValues(XMLNode* root)
 
 extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t size)
 {
+    static OneFile& file = *new OneFile; // outlives the library's end
+    SetPlatform(&file);
     std::string_view bytes(reinterpret_cast<const char*>(data), size);
-    WriteFile(bytes);
+    file.Bytes = bytes;
     const std::string fromFile = ParseFile();
-    std::remove(TemporaryPath().c_str());
 
     // A file loses a byte-order mark; a buffer does not.
     if (size >= 3 && data[0] == 0xEF)
         bytes.remove_prefix(3);
-    const std::string folder = TemporaryPath().substr(0, TemporaryPath().rfind('/'));
 
     XMLDocument document;
-    document.AddEntity("filename", TemporaryPath().c_str());
-    document.AddEntity("filepath", folder.c_str());
+    document.AddEntity("filename", Path);
+    document.AddEntity("filepath", Folder);
     const std::string text(bytes);
     const bool parsed = document.ParseBuffer(text.c_str(), text.size());
     const std::string tree = DumpTree(document.Root);
     Require(fromFile == Result(parsed, document.ErrorText, tree), "file and buffer differ");
 
     XMLPlainParser plain(bytes);
-    plain.Entities["filename"] = TemporaryPath();
-    plain.Entities["filepath"] = folder;
+    plain.Entities["filename"] = Path;
+    plain.Entities["filepath"] = Folder;
     const bool plainParsed = plain.Parse();
     Require(fromFile == Result(plainParsed, plain.ErrorText, plain.Dump()), "the plain parser differs");
 

@@ -421,17 +421,19 @@ bool XMLPlainParser::Reference(std::string& to, bool& ended)
         // Only the last digits that can still be seen in the low byte matter, so that the library never saturates.
         std::size_t count = 0;
         const std::string_view allowed = isHex ? "0123456789abcdefABCDEF" : "0123456789";
-        std::string number = digits;
-        if (isHex && number.size() > 1 && number[0] == '0' && (number[1] == 'x' || number[1] == 'X'))
-            number.erase(0, 2);
-        if (!number.empty() && number[0] == '+')
+        std::string number = digits.substr(std::min(digits.find_first_not_of(" \t\n\v\f\r"), digits.size()));
+        const bool isNegative = number.starts_with('-');
+        if (isNegative || number.starts_with('+'))
             number.erase(0, 1);
+        if (isHex && (number.starts_with("0x") || number.starts_with("0X")))
+            number.erase(0, 2);
         while (count < number.size() && allowed.find(number[count]) != allowed.npos)
             ++count;
         number.resize(count);
         if (number.size() > 12)
             number.erase(0, number.size() - 12);
-        const char byte = static_cast<char>(std::strtoull(number.c_str(), nullptr, isHex ? 16 : 10) & 0xFF);
+        const unsigned long long value = std::strtoull(number.c_str(), nullptr, isHex ? 16 : 10);
+        const char byte = static_cast<char>((isNegative ? 0 - value : value) & 0xFF);
         result.assign(byte == 0 ? 0 : 1, byte);
     } else if (const auto found = Entities.find(token.Text); found != Entities.end()) {
         result = found->second;

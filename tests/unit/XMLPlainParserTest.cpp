@@ -111,3 +111,10 @@ TEST(XMLPlainParser, AgreesOnRandomPiecesAroundBufferEnds)
         ASSERT_EQ(Plain(text), Fast(text)) << round;
     }
 }
+
+TEST(XMLPlainParser, ReferencesTakeBlanksSignsAndPrefixesAsAnyNumberDoes)
+{
+    const std::string document = "<a>&#\f65;&#\v+65;&#x+0x41;&#x0x+41;</a>";
+    EXPECT_NE(Fast(document).find("3 'AAA'"), std::string::npos);
+    EXPECT_EQ(Plain(document), Fast(document));
+}
