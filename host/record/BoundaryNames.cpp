@@ -5,16 +5,18 @@
 namespace host {
 
 // A host that keeps no serial numbers means the object that was last seen at the address.
-BoundaryNames::ObjectName BoundaryNames::NameOf(const void* object, u64 serial, Address address)
+BoundaryNames::ObjectName BoundaryNames::NameOf(
+    const void* object, const MvTypeDefinition* type, u64 serial, Address address)
 {
     if (!object)
         return {};
 
     u32& number = m_Numbers[object];
-    const bool isKnown = number != 0 && address == Address::Lasting
-        && (serial == 0 || m_Objects[number - 1].Serial == 0 || m_Objects[number - 1].Serial == serial);
-    if (!isKnown) {
-        m_Objects.push_back({object, serial});
+    const auto isSame = [&](const SeenObject& seen) {
+        return (!type || seen.Type == type) && (serial == 0 || seen.Serial == 0 || seen.Serial == serial);
+    };
+    if (number == 0 || address == Address::Passing || !isSame(m_Objects[number - 1])) {
+        m_Objects.push_back({object, type, serial});
         number = static_cast<u32>(m_Objects.size());
     } else if (serial != 0) {
         m_Objects[number - 1].Serial = serial;
@@ -22,17 +24,17 @@ BoundaryNames::ObjectName BoundaryNames::NameOf(const void* object, u64 serial, 
     return {number, serial != 0};
 }
 
-bool BoundaryNames::FindObject(ObjectName name, MvValue& value) const
+// A serial number is told whenever there is one, so that an object that has gone is not taken for another.
+bool BoundaryNames::FindObject(u32 number, const MvTypeDefinition* type, MvValue& value) const
 {
     value = {};
-    if (name.Number == 0)
+    if (number == 0)
         return true;
-    if (name.Number > m_Objects.size() || !m_Objects[name.Number - 1].Address)
+    if (number > m_Objects.size() || !m_Objects[number - 1].Address || m_Objects[number - 1].Type != type)
         return false;
 
-    const SeenObject& object = m_Objects[name.Number - 1];
-    value.Object = const_cast<void*>(object.Address);
-    value.Words[1] = name.TellsSerial ? object.Serial : 0;
+    value.Object = const_cast<void*>(m_Objects[number - 1].Address);
+    value.Words[1] = m_Objects[number - 1].Serial;
     return true;
 }
 

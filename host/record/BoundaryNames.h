@@ -29,11 +29,12 @@ public:
     // An address that may come back without a word of the first one's end: each value that shows it is another object.
     enum class Address { Lasting, Passing };
 
-    ObjectName NameOf(const void* object, u64 serial, Address address);
-    u32 NumberOf(const void* object) { return NameOf(object, 0, Address::Lasting).Number; }
+    // One address under two types is two objects. type: null is any.
+    ObjectName NameOf(const void* object, const MvTypeDefinition* type, u64 serial, Address address);
+    u32 NumberOf(const void* object) { return NameOf(object, nullptr, 0, Address::Lasting).Number; }
 
-    // The object as a value. False: no object has the number.
-    bool FindObject(ObjectName name, MvValue& value) const;
+    // The object as a value. False: no object of that type has the number.
+    bool FindObject(u32 number, const MvTypeDefinition* type, MvValue& value) const;
 
     // It is gone, and its address may come back.
     void Forget(const void* object);
@@ -72,6 +73,7 @@ public:
 private:
     struct SeenObject {
         const void* Address = nullptr;
+        const MvTypeDefinition* Type = nullptr;
         u64 Serial = 0;
     };
 

@@ -60,23 +60,20 @@ void WriteObject(const void* const& object, ItemBytes& bytes, BoundaryNames& nam
     bytes.PutByte(0);
 }
 
-bool ReadObjectValue(MvValue& value, ItemView& bytes, const BoundaryNames& names)
+bool ReadObjectValue(MvValue& value, const MvTypeDefinition* type, ItemView& bytes, const BoundaryNames& names)
 {
     if (!TakeTag(bytes, Object))
         return false;
-    BoundaryNames::ObjectName name;
     const u64 number = bytes.TakeUnsigned();
-    name.Number = static_cast<u32>(number);
-    name.TellsSerial = bytes.TakeByte() != 0;
-    return number == name.Number && !bytes.IsBroken() && names.FindObject(name, value);
+    bytes.TakeByte();
+    const bool isWhole = number == static_cast<u32>(number) && !bytes.IsBroken();
+    return isWhole && names.FindObject(static_cast<u32>(number), type, value);
 }
 
-bool ReadObject(const void*& object, ItemView& bytes, BoundaryNames& names)
+// Objects without a type go to the host alone, and nobody gives them back.
+bool ReadObject(const void*&, ItemView&, BoundaryNames&)
 {
-    MvValue value;
-    const bool isFound = ReadObjectValue(value, bytes, names);
-    object = value.Object;
-    return isFound;
+    return false;
 }
 
 // The kinds of value of the host's own types; null for another one.
@@ -159,7 +156,7 @@ void PutValue(const _MvTypeVar& value, BoundaryNames::Address address, ItemBytes
     if (!value.Type)
         return;
     if (names.IsToolkitType(value.Type)) {
-        const auto name = names.NameOf(value.Value.Object, value.Value.Words[1], address);
+        const auto name = names.NameOf(value.Value.Object, value.Type, value.Value.Words[1], address);
         bytes.PutByte(Object);
         bytes.PutUnsigned(name.Number);
         bytes.PutByte(name.TellsSerial ? 1 : 0);
@@ -189,7 +186,8 @@ bool ReadValue(_MvTypeVar& value, ItemView& bytes, BoundaryNames& names)
     if (!value.Type)
         return true;
     const HostValueType* own = OwnType(value.Type);
-    return own ? ReadOwnValue(own->Kind(), value.Value, bytes, names) : ReadObjectValue(value.Value, bytes, names);
+    return own ? ReadOwnValue(own->Kind(), value.Value, bytes, names)
+               : ReadObjectValue(value.Value, value.Type, bytes, names);
 }
 
 bool ReadHeld(HeldValue& held, ItemView& bytes, BoundaryNames& names)
