@@ -137,6 +137,12 @@ bool ChaosHost::LocateFile(const char*, char* path)
     return !Refuses();
 }
 
+const char* ChaosHost::CompleteCommandLine(const char*, bool)
+{
+    CalledOut(CallOut::CompleteCommandLine, g_UIManager.GetFocusElement());
+    return nullptr;
+}
+
 void ChaosHost::SetOutputConsole(const char*)
 {
     CalledOut(CallOut::SetOutputConsole, g_UIManager.GetMouseOverElement());

@@ -34,6 +34,7 @@ enum class CallOut : u8 {
     PrintLine,
     ExecuteAtomForText,
     Query,
+    CompleteCommandLine,
     Count,
 };
 
@@ -58,7 +59,7 @@ public:
     MvTypeDefinition* FindType(const char*) override { return nullptr; }
     void InvalidateTransientObject(u32, void*) override { }
     u32 RegisterTransientClass(const char*) override { return 1; }
-    const char* CompleteCommandLine(const char*, bool) override { return nullptr; }
+    const char* CompleteCommandLine(const char*, bool) override;
     bool Calculate(const char*, double& result) override;
     void PrintLine(const char* format, ...) override;
     HostScriptInterface* GetScriptInterface() override { return nullptr; }

@@ -77,9 +77,7 @@ template <class Box> Box* MakeBox(const char* kind)
     if (!box)
         return nullptr;
 
-    if (!g_Script)
-        g_Script = std::make_unique<FuzzScript>();
-    box->pScript.Open(*g_Script, box->ID);
+    box->pScript.Open(*FuzzScriptOfBoxes(), box->ID);
     return box;
 }
 
@@ -117,6 +115,13 @@ void EndFuzzMenus()
 {
     g_First.reset();
     g_Second.reset();
+}
+
+HostScript* FuzzScriptOfBoxes()
+{
+    if (!g_Script)
+        g_Script = std::make_unique<FuzzScript>();
+    return g_Script.get();
 }
 
 void EndFuzzScript()

@@ -6,6 +6,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <functional>
+#include <string_view>
 #include <utility>
 
 namespace {
@@ -51,10 +52,11 @@ private:
 };
 
 // The number that is the body of "atom auto(ARGUMENTS)\n{\nBODY\n}\n".
-u8 NumberIn(const std::string& source)
+u8 NumberIn(std::string_view source)
 {
     const std::size_t body = source.find("\n{\n");
-    return body == std::string::npos ? u8{0} : static_cast<u8>(std::strtoul(source.c_str() + body + 3, nullptr, 10));
+    return body == std::string_view::npos ? u8{0}
+                                          : static_cast<u8>(std::strtoul(source.data() + body + 3, nullptr, 10));
 }
 
 } // namespace
@@ -68,6 +70,8 @@ void EventHost::StartAnew()
     m_RefuseEach = 0;
     m_Width = 800;
     m_Height = 600;
+    Quiet.Ticks = 10000;
+    Quiet.Clipboard.clear();
 }
 
 void EventHost::Arm(u8 place, u8 act, u8 argument, u8 times)
@@ -98,7 +102,7 @@ HostScriptInterface* EventHost::GetScriptInterface()
 u32 EventHost::CompileAtom(const char* source, u32 length)
 {
     const u32 atom = ChaosHost::CompileAtom(source, length);
-    m_PlaceOfAtom[atom] = NumberIn(std::string(source, length));
+    m_PlaceOfAtom[atom] = NumberIn({source, length});
     return atom;
 }
 

@@ -7,12 +7,14 @@
 #include <map>
 #include <memory>
 #include <string>
+#include <unordered_map>
 
 // A chaotic host that is told beforehand what its scripts will do, event by event, and how often it refuses.
-class EventHost final : public ChaosHost
+class EventHost : public ChaosHost
 {
 public:
     std::string Part; // what LocateFile finds by that name; all other names lead to File
+    QuietPlatform Quiet;
 
     // How many places there are where the host may act.
     static constexpr u8 Places = 64;
@@ -22,7 +24,7 @@ public:
     static constexpr u8 FirstEvent = static_cast<u8>(CallOut::Count);
 
     // Forgets all of it for a new input.
-    void StartAnew();
+    virtual void StartAnew();
 
     // The next scripts of that place do an act, so many times.
     void Arm(u8 place, u8 act, u8 argument, u8 times);
@@ -53,7 +55,7 @@ private:
     void Reach(u8 place, TeskElement* self);
 
     std::array<Mine, Places> m_Mines;
-    std::map<u32, u8> m_PlaceOfAtom;
+    std::unordered_map<u32, u8> m_PlaceOfAtom;
     std::map<std::string, std::unique_ptr<MvTypeDefinition>> m_Types;
     u32 m_ActsLeft = 0;
     u32 m_RefusableCalls = 0;

@@ -4,8 +4,16 @@
 #include "teskara/element/EventNames.h"
 #include "teskara/element/TeskScreen.h"
 #include "tests/fuzz/EventHost.h"
+#include "tests/fuzz/HostileActs.h"
+#include "tests/fuzz/MemoryFile.h"
 
+#include <algorithm>
+#include <iterator>
 #include <set>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
 
 namespace {
 
@@ -25,27 +33,27 @@ constexpr char Values[] =
     "<ButtonWidth>20</ButtonWidth><ButtonTexture Filename='#fill'/><SelectionColor>80ffffff</SelectionColor>"
     "<Items><item Value='9'>row 1</item><item Value='10' Default='1'>c</item><item>${x}</item><item>b</item>"
     "<item>c</item><item>d</item><item>e</item><item Color='ff'>f</item></Items>"
-    "<Resizable MinWidth='9' MinHeight='9'/><CloseButton/><MinimizeButton/><TitleBar Template='all'><Width>60</Width>"
-    "<Height>20</Height><Children><text name='Title' Template='all'/><button name='Minimize' Template='all'>"
-    "<X>20</X><Width>20</Width><Height>20</Height></button><button name='Close' Template='all'><X>40</X>"
+    "<Resizable MinWidth='9' MinHeight='9'/><CloseButton/><MinimizeButton/><TitleBar Template='few'><Width>60</Width>"
+    "<Height>20</Height><Children><text name='Title' Template='few'/><button name='Minimize' Template='few'>"
+    "<X>20</X><Width>20</Width><Height>20</Height></button><button name='Close' Template='few'><X>40</X>"
     "<Width>20</Width><Height>20</Height></button></Children></TitleBar>"
-    "<Client Template='all'><Y>20</Y><Width>100%</Width><Height>r20</Height></Client>"
+    "<Client Template='few'><Y>20</Y><Width>100%</Width><Height>r20</Height></Client>"
     "<VerticalScrollBar><X>60</X><Width>12</Width><Height>100%</Height><Slider><Width>12</Width><Height>100%</Height>"
     "<Vertical/><OnChange>0</OnChange></Slider></VerticalScrollBar>"
     "<TabHeight>16</TabHeight><TabBorder>1</TabBorder><TabTexture Filename='#fill'/>"
     "<TabSelectedTexture Filename='#camera'/><FrameTexture Filename='#fill'/><FrameBorder>1</FrameBorder>"
-    "<LeftTexture Filename='#fill'/><RightButton Template='all'/><Tabs><Tab Name='a'>"
-    "<frame name='in' Template='all'><Width>30</Width><Height>30</Height></frame>"
-    "<slider name='s' Template='all'><Width>100%</Width><Height>20</Height></slider></Tab><Tab Name='c'/>"
-    "<Tab Name='in'><listbox name='l' Template='all'><Width>50</Width><Height>r10</Height></listbox></Tab></Tabs>"
+    "<LeftTexture Filename='#fill'/><RightButton Template='few'/><Tabs><Tab Name='a'>"
+    "<frame name='in' Template='few'><Width>30</Width><Height>30</Height></frame>"
+    "<slider name='s' Template='few'><Width>100%</Width><Height>20</Height></slider></Tab><Tab Name='c'/>"
+    "<Tab Name='in'><button name='l' Template='few'><Width>50</Width><Height>r10</Height></button></Tab></Tabs>"
     "<MapSizeX>100</MapSizeX><MapSizeY>80</MapSizeY><ShowLabels/><BlipTemplate>all</BlipTemplate>"
     "<ItemHeight>10</ItemHeight><IndentPerDepth>8</IndentPerDepth><ImageSize>8</ImageSize>"
     "<ImageTexture Filename='#fill'/><ImageTextureCollapsed Filename='#camera'/>"
     "<Template>all</Template><StorePosition>1</StorePosition><FadeDuration>40</FadeDuration><FadeAlpha>0.5</FadeAlpha>";
 
-// What an element reads from its own markup alone.
-constexpr char OwnValues[] =
-    "<Row><Cell RowSpan='2'><Width>30</Width><Children><slider name='s' Template='all'><Width>100%</Width></slider>"
+// What a table reads from its own markup alone.
+constexpr char TableRows[] =
+    "<Row><Cell RowSpan='2'><Width>30</Width><Children><slider name='s' Template='few'><Width>100%</Width></slider>"
     "</Children></Cell><Cell ColSpan='2'/></Row><Row><Cell><Height>50%</Height></Cell><Cell ColSpan='2'/></Row>";
 
 std::string Tag(const char* name, const std::string& value)
@@ -59,13 +67,27 @@ std::string Place(int x, int y, int width, int height)
         + Tag("Height", std::to_string(height));
 }
 
+bool IsOfFew(std::string_view event)
+{
+    constexpr std::string_view few[] = {
+        "OnUnload", "OnLeftClick", "OnLeftDown", "OnMouseEnter", "OnRender", "OnChange"};
+    return std::ranges::find(few, event) != std::end(few);
+}
+
+// The templates of the elements of a scene, with a script for every event or for few, and that of what they are made of.
 std::string TemplateMarkup()
 {
     std::string events;
+    std::string few;
     int number = EventHost::FirstEvent;
-    for (const char* event : EventNames())
-        events += Tag(event, std::to_string(number++));
-    return std::string("<Template name='all'>") + Values + events + "</Template>";
+    for (const char* event : EventNames()) {
+        const std::string script = Tag(event, std::to_string(number++));
+        events += script;
+        if (IsOfFew(event))
+            few += script;
+    }
+    return "<Template name='all'>" + events + Values + "</Template><Template name='some'>" + few + Values
+        + "</Template><Template name='few'>" + few + "</Template>";
 }
 
 // Bits of the seed make some of the elements hidden, thin, textured, fading, upright or always on top.
@@ -93,16 +115,30 @@ std::string Variation(u8 bits)
     return text;
 }
 
-std::string ElementMarkup(const std::string& kind, const std::string& name, const std::string& inside)
+std::string SmallElement(const std::string& kind, const std::string& name, const std::string& inside)
 {
-    return "<" + kind + " name='" + name + "' Template='all'>" + inside + "</" + kind + ">";
+    return "<" + kind + " name='" + name + "' Template='few'>" + inside + "</" + kind + ">";
+}
+
+// What all scenes share. It is loaded once: reading it takes more time than an input has.
+std::string LookMarkup()
+{
+    return "<Tesk><Skin name='a'><SkinTemplate Base='frame' Skin='all'/></Skin>" + TemplateMarkup() + "</Tesk>";
+}
+
+// A small file, for scripts to load.
+std::string PartMarkup()
+{
+    const std::string text = SmallElement("text", "words", Place(0, 0, 20, 20));
+    return "<Tesk>" + SmallElement("frame", "part", Place(20, 20, 60, 60) + "<Children>" + text + "</Children>")
+        + SmallElement("button", "frame", Place(100, 20, 60, 60)) + "</Tesk>";
 }
 
 // The kinds of which elements can be made, in the order of their names.
-std::set<std::string> StandingKinds()
+std::vector<std::string> StandingKinds()
 {
     std::set<std::string> kinds;
-    XMLNode* values = g_UIManager.AddTemplate("all", TemplateMarkup().c_str());
+    XMLNode* values = g_UIManager.FindTemplate("all");
     for (const auto& [name, factory] : g_UIManager.Factories) {
         const std::string kind(name.Text());
         g_UIManager.LoadElement(g_UIManager.Screen, kind.c_str(), "trial", values, nullptr);
@@ -112,35 +148,64 @@ std::set<std::string> StandingKinds()
         kinds.insert(kind);
         g_UIManager.Screen->DeleteChild(element);
     }
+    return {kinds.begin(), kinds.end()};
+}
+
+// The template and the skin are as they were; if an earlier input touched them they are loaded again.
+void RestoreLook(EventHost& host)
+{
+    static const MemoryFile file;
+    static const std::string look = LookMarkup();
+    static bool isLoaded = false;
+    if (!HaveTemplatesChanged() && isLoaded)
+        return;
+
+    file.Write(look.data(), look.size());
+    host.File = file.Path();
     g_UIManager.ClearTemplates();
-    return kinds;
+    g_UIManager.LoadInterfaceXML("f", true, nullptr);
+    isLoaded = true;
+}
+
+// Up to three elements side by side, or each in the one before.
+std::string SceneMarkup(Decisions& bytes)
+{
+    static const std::vector<std::string> kinds = StandingKinds();
+    const u8 count = bytes.Next();
+    const char* look = (count & 0x40u) != 0 ? "' Template='some'>" : "' Template='all'>";
+    std::string markup;
+    std::string ends;
+    for (int number = 0; number <= count % 3; ++number) {
+        const u8 choice = bytes.Next();
+        const std::string& kind = kinds[(choice & 0x3fu) % kinds.size()];
+        const bool isInside = number > 0 && choice >= 0x80;
+        if (!isInside)
+            markup += std::exchange(ends, "");
+        markup += "<" + kind + " name='" + kind + look + Variation(bytes.Next())
+            + (isInside ? Place(10, 10, 150, 120) : Place(number % 2 * 250 + 5, number / 2 * 200 + 5, 200, 160));
+        if (kind == "table")
+            markup += TableRows;
+        markup += "<Children>";
+        if ((choice & 0x40) != 0)
+            markup += SmallElement("frame", "in", Place(10, 10, 30, 30));
+        ends.insert(0, "</Children></" + kind + ">");
+    }
+    return "<Tesk>" + markup + ends + (count >= 0x80 ? "<tooltip name='Auto Tooltip'/>" : "") + "</Tesk>";
 }
 
 } // namespace
 
-std::string EventSceneMarkup(u8 seed)
+void SetUpEventScene(EventHost& host, Decisions& bytes)
 {
-    static const std::set<std::string> kinds = StandingKinds();
-    std::string outer;
-    std::string inner;
-    int count = 0;
-    for (const std::string& kind : kinds) {
-        const u8 bits = static_cast<u8>(seed * (2 * count + 1));
-        const std::string place = Place(count % 8 * 90 + 5, count / 8 * 90 + 5, 80, 80);
-        const std::string child = ElementMarkup("frame", "in", Place(10, 10, 30, 30) + Variation(bits));
-        outer += ElementMarkup(kind, kind, place + OwnValues + Variation(bits) + "<Children>" + child + "</Children>");
-        if ((bits >> 4) % 4 == 0)
-            inner += ElementMarkup(kind, kind, place + Variation(static_cast<u8>(bits / 3)));
-        ++count;
+    static const MemoryFile scene;
+    static const MemoryFile part;
+    RestoreLook(host);
+    if (host.Part.empty()) {
+        const std::string markup = PartMarkup();
+        part.Write(markup.data(), markup.size());
+        host.Part = part.Path();
     }
-    return "<Tesk><Skin name='a'><SkinTemplate Base='frame' Skin='all'/></Skin>" + TemplateMarkup() + outer
-        + ElementMarkup("frame", "box", Place(0, 200, 800, 400) + "<Children>" + inner + "</Children>")
-        + "<tooltip name='Auto Tooltip'/></Tesk>";
-}
-
-std::string EventPartMarkup()
-{
-    const std::string text = ElementMarkup("text", "words", Place(0, 0, 20, 20));
-    return "<Tesk>" + ElementMarkup("frame", "part", Place(20, 20, 60, 60) + "<Children>" + text + "</Children>")
-        + ElementMarkup("button", "frame", Place(100, 20, 60, 60)) + "</Tesk>";
+    const std::string markup = SceneMarkup(bytes);
+    scene.Write(markup.data(), markup.size());
+    host.File = scene.Path();
 }

@@ -1,11 +1,8 @@
 #pragma once
 
-#include "teskara/core/Types.h"
+class Decisions;
+class EventHost;
 
-#include <string>
-
-// A file with elements of every kind that has a factory, side by side and one in another. The seed varies it.
-std::string EventSceneMarkup(u8 seed);
-
-// A small file, for scripts to load.
-std::string EventPartMarkup();
+// Gives the host the files of an input: as "part" a small one, under every other name the scene that the bytes describe,
+// of elements of any kind that has a factory. Loads what their markup names, unless it is there already.
+void SetUpEventScene(EventHost& host, Decisions& bytes);

@@ -13,6 +13,7 @@
 #include <iterator>
 #include <stdexcept>
 #include <string>
+#include <utility>
 
 namespace {
 
@@ -20,6 +21,8 @@ constexpr char Skin[] = "a";
 constexpr char Scene[] = "f";
 constexpr char Part[] = "part";
 constexpr char Template[] = "all";
+
+bool g_TemplatesChanged = false;
 
 void DeleteElement(TeskElement* element)
 {
@@ -159,7 +162,20 @@ void MoveAnotherDown(TeskElement&, u8 argument)
 
 void ReplaceTemplate(TeskElement&, u8)
 {
+    g_TemplatesChanged = true;
     g_UIManager.AddTemplate(Template, "<Template><Width>7</Width></Template>");
+}
+
+void RemoveTemplates(TeskElement&, u8)
+{
+    g_TemplatesChanged = true;
+    g_UIManager.ClearTemplates();
+}
+
+void RemoveSkin(TeskElement&, u8)
+{
+    g_TemplatesChanged = true;
+    g_UIManager.RemoveSkin(Skin);
 }
 
 void Load(TeskElement&, u8 argument)
@@ -238,9 +254,9 @@ constexpr HostileAct Acts[] = {
     {"move to bottom",     [](TeskElement& self, u8) { self.MoveZBottom(); }},
     {"move up",            [](TeskElement& self, u8) { self.MoveZUp(); }},
     {"move another down",  MoveAnotherDown},
-    {"remove templates",   [](TeskElement&, u8) { g_UIManager.ClearTemplates(); }},
+    {"remove templates",   RemoveTemplates},
     {"replace template",   ReplaceTemplate},
-    {"remove skin",        [](TeskElement&, u8) { g_UIManager.RemoveSkin(Skin); }},
+    {"remove skin",        RemoveSkin},
     {"load",               Load},
     {"load into self",     [](TeskElement& self, u8) { g_UIManager.LoadInterfaceXML(&self, Part, false, nullptr); }},
     {"unload",             Unload},
@@ -280,6 +296,11 @@ static_assert(std::size(Acts) <= HostileActMask + 1u);
 std::span<const HostileAct> AllHostileActs()
 {
     return Acts;
+}
+
+bool HaveTemplatesChanged()
+{
+    return std::exchange(g_TemplatesChanged, false);
 }
 
 void Perform(u8 act, TeskElement& self, u8 argument)

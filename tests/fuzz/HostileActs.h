@@ -19,6 +19,9 @@ std::span<const HostileAct> AllHostileActs();
 constexpr u8 HostileActMask = 0x3f;
 void Perform(u8 act, TeskElement& self, u8 argument);
 
+// Whether acts replaced or removed templates or skins since this was asked last.
+bool HaveTemplatesChanged();
+
 // The element of that number in the order of the tree, counted round and round from the screen; null without a screen.
 TeskElement* FindByPlace(u8 number);
 

@@ -14,6 +14,9 @@
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
 
+// Of targets that must do something before the first input.
+extern "C" [[gnu::weak]] int LLVMFuzzerInitialize(int* count, char*** arguments);
+
 namespace {
 
 using Bytes = std::vector<std::uint8_t>;
@@ -98,6 +101,8 @@ bool RunFile(const char* name, unsigned long variations)
 
 int main(int count, char** arguments)
 {
+    if (LLVMFuzzerInitialize)
+        LLVMFuzzerInitialize(&count, &arguments);
     int next = 1;
     unsigned long variations = 0;
     if (count > 2 && std::strcmp(arguments[1], "--vary") == 0) {

@@ -1,11 +1,9 @@
 #include "tests/fuzz/TabSteps.h"
 
-#include "host/probe/TreeChecker.h"
 #include "teskara/collections/TeskTabControl.h"
 #include "teskara/controls/TeskButton.h"
 #include "teskara/controls/TeskFrame.h"
 #include "teskara/core/CUIManager.h"
-#include "tests/fuzz/ChaosHost.h"
 #include "tests/fuzz/ModelCheck.h"
 #include "tests/fuzz/TabModel.h"
 
@@ -14,7 +12,7 @@
 
 namespace {
 
-constexpr std::size_t MostSteps = 500;
+constexpr char Values[] = "<Template><Width>200</Width><Height>100</Height><TabHeight>16</TabHeight></Template>";
 
 struct Scene {
     TeskTabControl& Control;
@@ -195,18 +193,28 @@ void Compare(const Scene& scene)
     CompareFrames(control);
 }
 
-} // namespace
-
-void RunTabSteps(const char* name, Decisions& bytes)
+void RunOn(bool isDraggable, Decisions& bytes)
 {
-    auto* control = dynamic_cast<TeskTabControl*>(g_UIManager.FindElement(name));
-    Require(control, "the scene was not loaded");
-    Scene scene = {*control, {}};
-    scene.Model.Width = control->Width;
-    scene.Model.Draggable = control->Draggable;
-    for (std::size_t step = 0; step < MostSteps && !bytes.IsUsedUp(); ++step) {
+    auto& control = MakeOnScreen<TeskTabControl>("tabcontrol", "tabs", KeptTemplate("tabs", Values));
+    control.Draggable = isDraggable;
+    g_UIManager.Render();
+    Scene scene = {control, {}};
+    scene.Model.Width = control.Width;
+    scene.Model.Draggable = isDraggable;
+    for (std::size_t step = 0; step < MostModelSteps && !bytes.IsUsedUp(); ++step) {
         Steps[bytes.Next() % std::size(Steps)].Run(scene, bytes);
         Compare(scene);
     }
-    Require(!FindTreeFault(), "the tree is broken");
+}
+
+} // namespace
+
+void RunFixedTabSteps(Decisions& bytes)
+{
+    RunOn(false, bytes);
+}
+
+void RunDraggableTabSteps(Decisions& bytes)
+{
+    RunOn(true, bytes);
 }

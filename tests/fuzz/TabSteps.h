@@ -2,11 +2,6 @@
 
 class Decisions;
 
-// The elements of the scenes: a control whose tabs can be dragged and one whose tabs cannot.
-constexpr char TabControlsMarkup[] =
-    "<Template name='strip'><Width>200</Width><Height>100</Height><TabHeight>16</TabHeight></Template>"
-    "<tabcontrol name='fixed' Template='strip'/>"
-    "<tabcontrol name='draggable' Template='strip'><Draggable/></tabcontrol>";
-
-// Does what the bytes say to one of the two, and to its model. Both must agree after every step.
-void RunTabSteps(const char* name, Decisions& bytes);
+// What scripts and the mouse do to a tab control, whose tabs can be dragged or not, and to a model of it.
+void RunFixedTabSteps(Decisions& bytes);
+void RunDraggableTabSteps(Decisions& bytes);

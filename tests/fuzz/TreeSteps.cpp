@@ -1,10 +1,8 @@
 #include "tests/fuzz/TreeSteps.h"
 
-#include "host/probe/TreeChecker.h"
 #include "teskara/collections/TeskTree.h"
 #include "teskara/controls/TeskScrollBar.h"
 #include "teskara/core/CUIManager.h"
-#include "tests/fuzz/ChaosHost.h"
 #include "tests/fuzz/ModelCheck.h"
 #include "tests/fuzz/TreeModel.h"
 
@@ -13,7 +11,12 @@
 
 namespace {
 
-constexpr std::size_t MostSteps = 500;
+// Four rows and a bit show.
+constexpr char Values[] =
+    "<Template><Width>100</Width><Height>56</Height><Font><Size>8</Size></Font><ItemHeight>10</ItemHeight>"
+    "<ImageSize>8</ImageSize><IndentPerDepth>6</IndentPerDepth><TextMargin>2</TextMargin><ImageTexture Filename='#a'/>"
+    "<ScrollBar><X>r10</X><Width>10</Width><Height>50</Height><Slider><Width>10</Width><Height>50</Height><Vertical/>"
+    "</Slider></ScrollBar></Template>";
 
 struct Scene {
     TeskTree& Tree;
@@ -205,15 +208,15 @@ void Compare(Scene& scene)
 
 } // namespace
 
-void RunTreeSteps(const char* name, Decisions& bytes)
+void RunTreeSteps(Decisions& bytes)
 {
-    auto* tree = dynamic_cast<TeskTree*>(g_UIManager.FindElement(name));
-    Require(tree && tree->Root && tree->ScrollBar, "the scene was not loaded");
-    Scene scene = {*tree, {tree->Root->Handle, tree->Height}};
+    auto& tree = MakeOnScreen<TeskTree>("tree", "tree", KeptTemplate("tree", Values));
+    Require(tree.Root && tree.ScrollBar, "a tree was made without its parts");
+    g_UIManager.Render();
+    Scene scene = {tree, {tree.Root->Handle, tree.Height}};
     scene.Model.Draw(); // as the frame before
-    for (std::size_t step = 0; step < MostSteps && !bytes.IsUsedUp(); ++step) {
+    for (std::size_t step = 0; step < MostModelSteps && !bytes.IsUsedUp(); ++step) {
         Steps[bytes.Next() % std::size(Steps)].Run(scene, bytes);
         Compare(scene);
     }
-    Require(!FindTreeFault(), "the tree is broken");
 }

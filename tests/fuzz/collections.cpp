@@ -1,233 +1,46 @@
-// A sequence of what scripts and the mouse do to a list, which stands alone or in a combo box, to a tab control or
-// to a tree. A plain model does the same, and both must agree after every step. Each step is a byte and what the step
-// reads after it; the first byte of all chooses the scene.
+// A sequence of what scripts, hosts and the mouse do to an element that holds a collection, or to a container of values.
+// A plain model does the same, and both must agree after every step. The first byte of all chooses what is tested; each
+// step is a byte and what the step reads after it.
 
 #include "host/probe/TreeChecker.h"
-#include "teskara/collections/TeskComboBox.h"
-#include "teskara/collections/TeskListBox.h"
-#include "teskara/controls/TeskScrollBar.h"
-#include "teskara/core/CUIManager.h"
 #include "tests/fuzz/EventHost.h"
-#include "tests/fuzz/ListModel.h"
-#include "tests/fuzz/MemoryFile.h"
+#include "tests/fuzz/IndexSteps.h"
+#include "tests/fuzz/ListSteps.h"
+#include "tests/fuzz/MapSteps.h"
 #include "tests/fuzz/ModelCheck.h"
 #include "tests/fuzz/TabSteps.h"
+#include "tests/fuzz/TableSteps.h"
 #include "tests/fuzz/TreeSteps.h"
 
 #include <iterator>
-#include <string>
 
 namespace {
 
-constexpr std::size_t MostSteps = 500;
-constexpr i32 RowHeight = 10;
-
-constexpr char ListsMarkup[] =
-    "<Template name='bar'><Slider><Width>16</Width><Height>100%</Height><Vertical/></Slider></Template>"
-    "<Template name='list'><Width>100</Width><Height>40</Height><Font><Size>9</Size></Font><ScrollBar>bar</ScrollBar>"
-    "</Template><listbox name='single' Template='list'/>"
-    "<listbox name='several' Template='list'><SelectMultiple/></listbox>"
-    "<combobox name='combo'><Width>100</Width><Height>20</Height><FullHeight>60</FullHeight>"
-    "<ListBox Template='list'/></combobox>";
-
-EventHost& Started()
-{
-    return StartedHost<EventHost>();
-}
-
-// The list under test, the box around it or null, and what they should be.
-struct Scene {
-    TeskListBox& List;
-    TeskComboBox* Combo;
-    ListModel Model;
+// Inputs name scenes by their places here, so new ones go to the end.
+constexpr ModelScene Scenes[] = {
+    {"single list", RunSingleListSteps},
+    {"multiple list", RunMultipleListSteps},
+    {"combo", RunComboSteps},
+    {"fixed tabs", RunFixedTabSteps},
+    {"draggable tabs", RunDraggableTabSteps},
+    {"tree", RunTreeSteps},
+    {"table", RunTableSteps},
+    {"index", RunIndexSteps},
+    {"map", RunMapSteps},
 };
-
-struct Step {
-    const char* Name;
-    void (*Run)(Scene& scene, Decisions& bytes);
-};
-
-// Few different texts, so that many are equal; some are long, and some differ only behind their beginnings.
-std::string TextFrom(u8 byte)
-{
-    return std::string(byte % 12, static_cast<char>('a' + byte / 12 % 3)) + std::string(byte / 64, 'b');
-}
-
-void Add(Scene& scene, Decisions& bytes)
-{
-    const std::string text = TextFrom(bytes.Next());
-    const std::string value = TextFrom(bytes.Next());
-    scene.Model.Add(text, value);
-    Require(scene.List.AddItem(text.c_str(), value.c_str(), 0) != 0, "a row was not added");
-}
-
-template <void (TeskListBox::*Real)(u32), void (ListModel::*Plain)(u32)> void OnRow(Scene& scene, Decisions& bytes)
-{
-    const u32 id = bytes.Next() % 32u;
-    (scene.List.*Real)(id);
-    (scene.Model.*Plain)(id);
-}
-
-template <void (TeskListBox::*Real)(), void (ListModel::*Plain)()> void OnAll(Scene& scene, Decisions&)
-{
-    (scene.List.*Real)();
-    (scene.Model.*Plain)();
-}
-
-void SetText(Scene& scene, Decisions& bytes)
-{
-    const u32 id = bytes.Next() % 32u;
-    const u8 byte = bytes.Next();
-    const std::string text = TextFrom(byte);
-    scene.List.SetItemText(id, byte % 16 == 15 ? nullptr : text.c_str());
-    scene.Model.SetText(id, byte % 16 == 15 ? std::nullopt : std::optional(text));
-}
-
-void SetSortType(Scene& scene, Decisions& bytes)
-{
-    scene.List.SortType = scene.Model.SortType = bytes.Next() % 8u;
-}
-
-// A point on one of the rows that show, left of the scroll bar.
-_Point2i PointOn(const Scene& scene, u32 row)
-{
-    return {scene.List.AbsoluteX + 5, scene.List.AbsoluteY + static_cast<i32>(row) * RowHeight + 5};
-}
-
-void Press(Scene& scene, Decisions& bytes)
-{
-    const u8 byte = bytes.Next();
-    const u32 row = byte % 4u;
-    g_UIManager.CtrlDown = byte >= 128;
-    _Point2i point = PointOn(scene, row);
-    scene.Model.Press(scene.List.TopOrder + row, g_UIManager.CtrlDown);
-    Require(scene.List.OnLMouseDown(point), "a press was refused");
-}
-
-void Drag(Scene& scene, Decisions& bytes)
-{
-    const u32 row = bytes.Next() % 4u;
-    _Point2i point = PointOn(scene, row);
-    scene.Model.DragTo(scene.List.TopOrder + row);
-    scene.List.OnMouseMove(point);
-}
-
-void Release(Scene& scene, Decisions&)
-{
-    _Point2i point = PointOn(scene, 0);
-    scene.Model.Release();
-    scene.List.OnLMouseUp(point);
-}
-
-void ClickCombo(Scene& scene, Decisions&)
-{
-    _Point2i point = {5, 5};
-    if (scene.Combo)
-        scene.Combo->OnLMouseUp(point);
-}
-
-// clang-format off
-constexpr Step Steps[] = {
-    {"add",             Add},
-    {"remove",          OnRow<&TeskListBox::RemoveItem, &ListModel::Remove>},
-    {"select",          OnRow<&TeskListBox::SelectItem, &ListModel::Select>},
-    {"deselect",        OnRow<&TeskListBox::DeselectItem, &ListModel::Deselect>},
-    {"toggle",          OnRow<&TeskListBox::ItemToggleSelect, &ListModel::Toggle>},
-    {"clear selection", OnAll<&TeskListBox::ClearSelection, &ListModel::ClearSelection>},
-    {"clear",           OnAll<&TeskListBox::ClearItems, &ListModel::Clear>},
-    {"sort",            OnAll<&TeskListBox::ApplySort, &ListModel::Sort>},
-    {"set text",        SetText},
-    {"set sort type",   SetSortType},
-    {"press",           Press},
-    {"drag",            Drag},
-    {"release",         Release},
-    {"click combo",     ClickCombo},
-    {"wheel",           [](Scene& scene, Decisions& bytes) { scene.List.OnMouseWheel((bytes.Next() - 128) * 40); }},
-    {"frame",           [](Scene&, Decisions&) { g_UIManager.Render(); }},
-};
-// clang-format on
-
-void Compare(Scene& scene)
-{
-    const ListModel& model = scene.Model;
-    Require(model.Rows.size() == scene.List.GetItemCount(), "the numbers of rows differ");
-    for (u32 row = 0; row < model.Rows.size(); ++row) {
-        const ListBoxItem* item = scene.List.RetrieveOrdered(row);
-        Require(item && item->ID == model.Rows[row].ID && item->Order == row, "the orders differ");
-        Require(item->Text == model.Rows[row].Text && item->GetValue() == model.Rows[row].Value, "the texts differ");
-        Require(scene.List.RetrieveItem(item->ID) == item, "a row is not found by its id");
-    }
-
-    u32 place = 0;
-    for (const u32 id : model.Selected)
-        Require(scene.List.SelectedItems.At(place++) == id, "the selections differ");
-    Require(scene.List.SelectedItems.Count() == place, "too much is selected");
-    Require(scene.List.DragItem == model.DragItem && scene.List.Dragged == model.Dragged, "the drags differ");
-    Require(!scene.Combo || scene.Combo->Selection == model.Shown, "the box shows another row");
-}
-
-void RunSteps(Scene& scene, Decisions& bytes)
-{
-    for (std::size_t step = 0; step < MostSteps && !bytes.IsUsedUp(); ++step) {
-        Steps[bytes.Next() % std::size(Steps)].Run(scene, bytes);
-        if (step % 4 != 3) // some sorts must wait for the next one
-            Compare(scene);
-    }
-    Compare(scene);
-    Require(!FindTreeFault(), "the tree is broken");
-}
-
-void RunListSteps(const char* name, Decisions& bytes)
-{
-    TeskElement* element = g_UIManager.FindElement(name);
-    auto* combo = dynamic_cast<TeskComboBox*>(element);
-    auto* list = combo ? combo->List : dynamic_cast<TeskListBox*>(element);
-    Require(list, "the scene was not loaded");
-    list->ScrollBar->X = 84; // beside the rows, from the first frame on
-    g_UIManager.Render();
-    Scene scene = {*list, combo, {}};
-    scene.Model.SelectMultiple = list->SelectMultiple;
-    RunSteps(scene, bytes);
-}
-
-struct SceneRow {
-    const char* Name; // of the element
-    void (*Run)(const char* name, Decisions& bytes);
-};
-
-// clang-format off
-constexpr SceneRow Scenes[] = {
-    {"single",    RunListSteps},
-    {"several",   RunListSteps},
-    {"combo",     RunListSteps},
-    {"fixed",     RunTabSteps},
-    {"draggable", RunTabSteps},
-    {"tree",      RunTreeSteps},
-};
-// clang-format on
 
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const u8* data, std::size_t size)
 {
-    static const MemoryFile file;
-    EventHost& host = Started();
+    auto& host = StartedHost<EventHost>();
     Decisions bytes;
     bytes.Take(data, size);
     host.StartAnew();
-    const std::string markup = std::string("<Tesk>") + ListsMarkup + TabControlsMarkup + TreeMarkup + "</Tesk>";
-    file.Write(markup.data(), markup.size());
-    host.File = file.Path();
-    g_UIManager.LoadInterfaceXML("f", true, nullptr);
-    g_UIManager.Render();
+    Scenes[bytes.Next() % std::size(Scenes)].Run(bytes);
+    Require(!FindTreeFault(), "the tree is broken");
 
-    const SceneRow& scene = Scenes[bytes.Next() % std::size(Scenes)];
-    scene.Run(scene.Name, bytes);
-
-    g_UIManager.CtrlDown = false;
-    g_UIManager.MouseCaptureElementID = 0;
     g_UIManager.Reset();
-    g_UIManager.ClearTemplates();
     Require(host.Books.Imbalance().empty(), "the host is owed something");
     return 0;
 }

@@ -1,201 +1,22 @@
-// A sequence of what a host does: input, frames, the passing of time, and mischief that its scripts will do. Each step
-// is a byte and what the step reads after it; the first byte of all varies the scene. The tree is checked after every
-// step.
+// A sequence of what a host does, on elements that the first bytes choose; the host's scripts do what the steps tell them
+// beforehand, to whatever element.
 
-#include "host/probe/TreeChecker.h"
-#include "teskara/core/CUIManager.h"
-#include "teskara/element/TeskScreen.h"
-#include "tests/fuzz/DialogActs.h"
 #include "tests/fuzz/EventHost.h"
-#include "tests/fuzz/EventScene.h"
-#include "tests/fuzz/HostileActs.h"
-#include "tests/fuzz/MemoryFile.h"
+#include "tests/fuzz/EventSteps.h"
 
-#include <cstdio>
-#include <cstdlib>
-#include <iterator>
-#include <string>
-
-namespace {
-
-constexpr std::size_t MostSteps = 300;
-
-QuietPlatform g_Platform;
-
-EventHost& StartedHost()
+extern "C" int LLVMFuzzerInitialize(int*, char***)
 {
-    static EventHost* host = [] {
-        SetPlatform(&g_Platform);
-        auto* started = new EventHost; // outlives the library's end
-        F1(started)->Initialize();
-        return started;
-    }();
-    return *host;
+    auto* host = new EventHost; // which outlives the library's end
+    StartOn(*host, host->Quiet);
+    return 0;
 }
-
-void Require(const std::string& fault)
-{
-    if (fault.empty())
-        return;
-
-    std::fprintf(stderr, "%s\n", fault.c_str());
-    std::abort();
-}
-
-struct Step {
-    const char* Name;
-    void (*Run)(Decisions& bytes);
-};
-
-void Move(Decisions& bytes)
-{
-    _Point2i point = PointFrom(bytes.Next());
-    g_UIManager.OnMouseMove(point);
-}
-
-void MoveFine(Decisions& bytes)
-{
-    _Point2i point = g_UIManager.MousePosition;
-    const u8 distance = bytes.Next();
-    point.x = static_cast<i32>(static_cast<u32>(point.x) + (distance & 15u) - 8);
-    point.y = static_cast<i32>(static_cast<u32>(point.y) + (distance >> 4) - 8);
-    g_UIManager.OnMouseMove(point);
-}
-
-void DoubleClick(Decisions&)
-{
-    for (int press = 0; press < 2; ++press) {
-        g_UIManager.OnLMouseDown();
-        g_UIManager.OnLMouseUp();
-    }
-}
-
-u32 KeyFrom(u8 byte)
-{
-    constexpr u32 ends[] = {16, 17, 18, 255, 256, 0x7fffffff, 0x80000000, 0xffffffff};
-    return byte >= 0xf8 ? ends[byte & 7u] : byte;
-}
-
-void Resize(Decisions& bytes)
-{
-    const int width = NumberFrom(bytes.Next());
-    StartedHost().SetDisplaySize(width, NumberFrom(bytes.Next()));
-}
-
-void Arm(Decisions& bytes, u8 times)
-{
-    const u8 place = bytes.Next();
-    const u8 act = bytes.Next();
-    StartedHost().Arm(place, act, bytes.Next(), times);
-}
-
-// An act of the host itself, between two events.
-void Act(Decisions& bytes)
-try {
-    TeskElement* element = FindByPlace(bytes.Next());
-    const u8 act = bytes.Next();
-    const u8 argument = bytes.Next();
-    if (element)
-        Perform(act, *element, argument);
-} catch (...) {
-    return;
-}
-
-// What was deleted comes back. A scene that is there stays, since loading is what takes the time of an input.
-void LoadAgain(Decisions&)
-{
-    if (g_UIManager.Screen && !g_UIManager.Screen->FirstChild)
-        g_UIManager.LoadInterfaceXML("f", true, nullptr);
-}
-
-// clang-format off
-constexpr Step Steps[] = {
-    {"frame",         [](Decisions&) { g_UIManager.Render(); }},
-    {"move",          Move},
-    {"move fine",     MoveFine},
-    {"left down",     [](Decisions&) { g_UIManager.OnLMouseDown(); }},
-    {"left up",       [](Decisions&) { g_UIManager.OnLMouseUp(); }},
-    {"right down",    [](Decisions&) { g_UIManager.OnRMouseDown(); }},
-    {"right up",      [](Decisions&) { g_UIManager.OnRMouseUp(); }},
-    {"double click",  DoubleClick},
-    {"wheel",         [](Decisions& bytes) { g_UIManager.OnMouseWheel(NumberFrom(bytes.Next())); }},
-    {"key down",      [](Decisions& bytes) { g_UIManager.OnKeyDown(KeyFrom(bytes.Next())); }},
-    {"key up",        [](Decisions& bytes) { g_UIManager.OnKeyUp(KeyFrom(bytes.Next())); }},
-    {"time",          [](Decisions& bytes) { g_Platform.Ticks += bytes.Next() * 16u; }},
-    {"long time",     [](Decisions& bytes) { g_Platform.Ticks += u32{bytes.Next()} << 24; }},
-    {"resize",        Resize},
-    {"arm once",      [](Decisions& bytes) { Arm(bytes, 1); }},
-    {"arm for long",  [](Decisions& bytes) { Arm(bytes, 20); }},
-    {"refuse each",   [](Decisions& bytes) { StartedHost().RefuseEach(bytes.Next()); }},
-    {"forget mouse",  [](Decisions&) { g_UIManager.ResetMouseState(); }},
-    {"act",           Act},
-    {"focus",         [](Decisions& bytes) { g_UIManager.SetFocusElement(FindByPlace(bytes.Next())); }},
-    {"load again",    LoadAgain},
-    {"open a menu",   [](Decisions& bytes) { OpenFuzzMenu(bytes.Next()); }},
-    {"show a box",    [](Decisions& bytes) { ShowFuzzBox(bytes.Next()); }},
-};
-// clang-format on
-
-constexpr u8 StepMask = 0x1f;
-static_assert(std::size(Steps) <= StepMask + 1u);
-
-// What an earlier input left behind must not show in this one.
-void StartAnew(EventHost& host)
-{
-    host.StartAnew();
-    g_Platform.Ticks = 10000;
-    g_UIManager.ResetMouseState();
-    g_UIManager.KeyStates.clear();
-    std::fill(std::begin(g_UIManager.KeyState), std::end(g_UIManager.KeyState), u8{0});
-    g_UIManager.ShiftDown = g_UIManager.AltDown = g_UIManager.CtrlDown = false;
-    g_UIManager.LeftPressElementID = g_UIManager.RightPressElementID = g_UIManager.MouseCaptureElementID = 0;
-    g_UIManager.LastLeftClickElementID = g_UIManager.LastRightClickElementID = g_UIManager.TooltipElementID = 0;
-    g_UIManager.MousePosition = {-1, -1};
-    g_UIManager.Render();
-}
-
-void RunSteps(Decisions& bytes)
-{
-    for (std::size_t step = 0; step < MostSteps && !bytes.IsUsedUp(); ++step) {
-        const u8 number = bytes.Next() & StepMask;
-        if (number < std::size(Steps))
-            Steps[number].Run(bytes);
-        Require(FindTreeFault().value_or(""));
-    }
-}
-
-// Nothing may be left but the screen, and the host has everything back.
-void Finish(EventHost& host)
-{
-    host.StartAnew();
-    EndFuzzMenus();
-    EndFuzzScript();
-    g_UIManager.Reset();
-    g_UIManager.ClearTemplates();
-    Require(FindTreeFault().value_or(""));
-    Require(g_UIManager.ElementsByID.size() == 1 ? "" : "there is more than the screen after a reset");
-    Require(host.Books.Imbalance());
-}
-
-} // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const u8* data, std::size_t size)
 {
-    static const MemoryFile scene;
-    static const MemoryFile part;
-    EventHost& host = StartedHost();
     Decisions bytes;
     bytes.Take(data, size);
-    StartAnew(host);
-
-    const std::string markup = EventSceneMarkup(bytes.Next());
-    scene.Write(markup.data(), markup.size());
-    host.File = scene.Path();
-    const std::string partMarkup = EventPartMarkup();
-    part.Write(partMarkup.data(), partMarkup.size());
-    host.Part = part.Path();
-    g_UIManager.LoadInterfaceXML("f", true, nullptr);
-    RunSteps(bytes);
-    Finish(host);
+    BeginEvents(bytes);
+    RunEventSteps(bytes);
+    EndEvents();
     return 0;
 }

@@ -4,6 +4,7 @@
 #include "host/probe/TreeChecker.h"
 #include "teskara/core/CUIManager.h"
 #include "tests/fuzz/ChaosHost.h"
+#include "tests/fuzz/FreshState.h"
 #include "tests/fuzz/MemoryFile.h"
 
 #include <algorithm>
@@ -14,16 +15,16 @@
 
 namespace {
 
+QuietPlatform g_Platform;
+
 ChaosHost& StartedHost()
 {
-    static QuietPlatform platform;
     static ChaosHost* host = [] {
-        SetPlatform(&platform);
+        SetPlatform(&g_Platform);
         auto* started = new ChaosHost; // outlives the library's end
         F1(started)->Initialize();
         return started;
     }();
-    platform.Ticks += 16;
     return *host;
 }
 
@@ -47,14 +48,13 @@ void DriveInput(Decisions& choices)
         _Point2i point = {choices.Next() * 4, choices.Next() * 4};
         g_UIManager.OnMouseMove(point);
         g_UIManager.OnLMouseDown();
-        CheckTree();
         g_UIManager.OnLMouseUp();
         g_UIManager.OnRMouseDown();
         g_UIManager.OnKeyDown(choices.Next());
         g_UIManager.OnRMouseUp();
         g_UIManager.OnMouseWheel(choices.Next() - 128);
+        g_Platform.Ticks += 100;
         g_UIManager.Render();
-        CheckTree();
     }
 }
 
@@ -71,15 +71,16 @@ extern "C" int LLVMFuzzerTestOneInput(const u8* data, std::size_t size)
     host.File = file.Path();
     file.Write(data + 1 + decisions, size - 1 - decisions);
     host.Choices.Take(data + 1, decisions);
+    g_Platform.Ticks = 10000;
 
     g_UIManager.LoadInterfaceXML("f", true, nullptr);
     CheckTree();
     g_UIManager.Render();
     DriveInput(host.Choices);
+    CheckTree();
 
     host.Choices.Take(nullptr, 0);
-    g_UIManager.Reset();
-    g_UIManager.ClearTemplates();
+    ForgetEverything();
     CheckTree();
     Require(host.Books.Imbalance());
     return 0;

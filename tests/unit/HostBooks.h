@@ -2,9 +2,11 @@
 
 #include "teskara/core/Types.h"
 
+#include <functional>
 #include <map>
-#include <set>
 #include <string>
+#include <string_view>
+#include <unordered_set>
 
 // What a host has lent to the toolkit by number: fonts, textures, atoms, sequences. Each must come back once, and be
 // used only until then.
@@ -14,25 +16,25 @@ public:
     // Returns the number; 0 means that nothing was lent.
     u32 Lend(const char* sort, u32 number)
     {
-        if (number != 0 && !m_Lent[sort].insert(number).second)
+        if (number != 0 && !Numbers(sort).insert(number).second)
             Blame("lent twice: ", sort, number);
         return number;
     }
 
     void TakeBack(const char* sort, u32 number)
     {
-        if (m_Lent[sort].erase(number) == 0)
+        if (Numbers(sort).erase(number) == 0)
             Blame("given back without being lent: ", sort, number);
     }
 
     void Use(const char* sort, u32 number)
     {
-        if (!m_Lent[sort].contains(number))
+        if (!Numbers(sort).contains(number))
             Blame("used without being lent: ", sort, number);
     }
 
     // How many of a sort are lent at present.
-    std::size_t Lent(const char* sort) { return m_Lent[sort].size(); }
+    std::size_t Lent(const char* sort) { return Numbers(sort).size(); }
 
     // What is still lent, and everything that was ever wrong; empty if the books balance.
     std::string Imbalance() const
@@ -48,11 +50,17 @@ public:
     const std::string& Faults() const { return m_Faults; }
 
 private:
+    std::unordered_set<u32>& Numbers(std::string_view sort)
+    {
+        const auto found = m_Lent.find(sort);
+        return found != m_Lent.end() ? found->second : m_Lent[std::string(sort)];
+    }
+
     void Blame(const char* what, const char* sort, u32 number)
     {
         m_Faults += what + std::string(sort) + " " + std::to_string(number) + "\n";
     }
 
-    std::map<std::string, std::set<u32>> m_Lent;
+    std::map<std::string, std::unordered_set<u32>, std::less<>> m_Lent;
     std::string m_Faults;
 };
