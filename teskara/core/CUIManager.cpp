@@ -2,6 +2,7 @@
 
 #include "teskara/core/BoundedText.h"
 #include "teskara/core/HostCalls.h"
+#include "teskara/core/OwnThread.h"
 #include "teskara/core/platform/Platform.h"
 #include "teskara/element/TeskElement.h"
 #include "teskara/element/TeskScreen.h"
@@ -44,6 +45,7 @@ try {
     if (!Host::g_Host || m_InShutdown || m_TearingDown)
         return;
 
+    OwnThread::Remember();
     RegisterScriptTypes();
     RegisterTopLevelObjects();
     RegisterCommands();
@@ -120,6 +122,7 @@ try {
 // Scripts may replace the screen between any two steps.
 void CUIManager::Render()
 try {
+    OwnThread::Expect("Render");
     if (m_InRender || !Screen)
         return;
 

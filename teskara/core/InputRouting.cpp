@@ -3,6 +3,7 @@
 // was not taken.
 
 #include "teskara/core/CUIManager.h"
+#include "teskara/core/OwnThread.h"
 #include "teskara/core/platform/Platform.h"
 #include "teskara/element/ElementWatch.h"
 #include "teskara/element/TeskElement.h"
@@ -93,6 +94,7 @@ template <class Offer> bool CUIManager::OfferDown(TeskElement* candidate, Offer&
 
 bool CUIManager::OnMouseMove(_Point2i& position)
 try {
+    OwnThread::Expect("OnMouseMove");
     if (position.x == MousePosition.x && position.y == MousePosition.y)
         return false;
 
@@ -110,6 +112,7 @@ try {
 
 bool CUIManager::OnMouseWheel(int offset)
 try {
+    OwnThread::Expect("OnMouseWheel");
     LastInputTick = CurrentPlatform().GetTickCount();
     return OfferDown(GetMouseOverElement(), [offset](TeskElement& element) { return element.OnMouseWheel(offset); });
 } catch (...) {
@@ -118,6 +121,7 @@ try {
 
 bool CUIManager::OnLMouseDown()
 try {
+    OwnThread::Expect("OnLMouseDown");
     return PressButton(LeftButton());
 } catch (...) {
     return false;
@@ -125,6 +129,7 @@ try {
 
 bool CUIManager::OnLMouseUp()
 try {
+    OwnThread::Expect("OnLMouseUp");
     return ReleaseButton(LeftButton());
 } catch (...) {
     return false;
@@ -132,6 +137,7 @@ try {
 
 bool CUIManager::OnRMouseDown()
 try {
+    OwnThread::Expect("OnRMouseDown");
     return PressButton(RightButton());
 } catch (...) {
     return false;
@@ -139,6 +145,7 @@ try {
 
 bool CUIManager::OnRMouseUp()
 try {
+    OwnThread::Expect("OnRMouseUp");
     return ReleaseButton(RightButton());
 } catch (...) {
     return false;
@@ -264,6 +271,7 @@ void CUIManager::AddKeyFlag(u32 key, u8 flag)
 
 bool CUIManager::OnKeyDown(unsigned int key)
 try {
+    OwnThread::Expect("OnKeyDown");
     LastInputTick = CurrentPlatform().GetTickCount();
     SetModifier(key, true);
     AddKeyFlag(key, KeyHeld);
@@ -280,6 +288,7 @@ try {
 
 bool CUIManager::OnKeyUp(unsigned int key)
 try {
+    OwnThread::Expect("OnKeyUp");
     LastInputTick = CurrentPlatform().GetTickCount();
     SetModifier(key, false);
     const u32 old = GetKeyFlags(key);

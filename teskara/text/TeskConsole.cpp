@@ -6,6 +6,7 @@
 #include "teskara/core/AsciiCase.h"
 #include "teskara/core/Limits.h"
 #include "teskara/core/Numbers.h"
+#include "teskara/core/OwnThread.h"
 #include "teskara/element/MarkupTable.h"
 #include "teskara/script/TypeGlobals.h"
 #include "teskara/text/LineWrap.h"
@@ -88,6 +89,7 @@ MvTypeDefinition* TeskConsole::GetMvType()
 
 void TeskConsole::Print(const char* text)
 {
+    OwnThread::Expect("Print");
     if (Font)
         SplitFixed(text, WrapSub<u32>(Width, ScrollBarWidth()) / Font->GetCharWidthA());
 }

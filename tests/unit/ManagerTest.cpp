@@ -2,11 +2,17 @@
 #include "teskara/element/TeskElement.h"
 #include "teskara/element/TeskElementFactory.h"
 #include "teskara/element/TeskScreen.h"
+#include "teskara/text/TeskConsole.h"
 #include "tests/unit/FreshProcess.h"
 #include "tests/unit/ScriptHost.h"
 #include "tests/unit/ToolkitTest.h"
 
+#include <algorithm>
+#include <chrono>
+#include <cstdio>
+#include <functional>
 #include <string>
+#include <thread>
 
 class ManagerTest : public ToolkitTest
 {
@@ -304,42 +310,127 @@ TEST(ManagerDeathTest, AfterTheShutdownNothingIsReleased)
 
 TEST_F(ManagerTest, LoadsNestTo32Levels)
 {
-    int loads = 0;
-    int refused = 0;
-    Host.Scripts["again"] = [&](TeskElement& self) {
-        ++loads;
-        if (!g_UIManager.LoadInterfaceXML(&self, "test.xml", false, nullptr))
-            ++refused;
-    };
     Host.Located["test.xml"] = "/tmp/teskara-unit-nested.xml";
     std::FILE* file = std::fopen("/tmp/teskara-unit-nested.xml", "wb");
     ASSERT_NE(nullptr, file);
     std::fputs("<Tesk><frame name=\"A\"><OnLoad>again</OnLoad></frame></Tesk>", file);
     std::fclose(file);
-    EXPECT_TRUE(g_UIManager.LoadInterfaceXML("test.xml", false, nullptr));
+    for (const int wanted : {31, 32, 33}) {
+        g_UIManager.Reset();
+        int loads = 0;
+        int refused = 0;
+        Host.Scripts["again"] = [&](TeskElement& self) {
+            if (++loads < wanted && !g_UIManager.LoadInterfaceXML(&self, "test.xml", false, nullptr))
+                ++refused;
+        };
+        EXPECT_TRUE(g_UIManager.LoadInterfaceXML("test.xml", false, nullptr));
+        EXPECT_EQ(std::min(wanted, 32), loads);
+        EXPECT_EQ(wanted > 32 ? 1 : 0, refused);
+        int levels = 0;
+        for (const TeskElement* deepest = g_UIManager.Screen; deepest->FirstChild; deepest = deepest->FirstChild)
+            ++levels;
+        EXPECT_EQ(loads, levels);
+    }
     std::remove("/tmp/teskara-unit-nested.xml");
-    EXPECT_EQ(32, loads);
-    EXPECT_EQ(1, refused);
-    TeskElement* deepest = g_UIManager.Screen;
-    int levels = 0;
-    for (; deepest->FirstChild; deepest = deepest->FirstChild)
-        ++levels;
-    EXPECT_EQ(32, levels);
 }
 
 TEST_F(ManagerTest, ScriptsNestTo64Levels)
 {
     Load(R"(<frame name="A"><OnLeftClick>again</OnLeftClick></frame>)");
-    int runs = 0;
-    Host.Scripts["again"] = [&](TeskElement& self) {
-        ++runs;
+    for (const int wanted : {63, 64, 65, 64}) {
+        int calls = 1;
+        int runs = 0;
+        Host.Scripts["again"] = [&](TeskElement& self) {
+            ++runs;
+            _Point2i point{};
+            if (calls++ < wanted)
+                self.OnLMouseUp(point);
+        };
         _Point2i point{};
-        self.OnLMouseUp(point);
-    };
-    _Point2i point{};
-    Element("A").OnLMouseUp(point);
-    EXPECT_EQ(64, runs);
-    runs = 0;
-    Element("A").OnLMouseUp(point);
-    EXPECT_EQ(64, runs) << "the count is back at its start";
+        Element("A").OnLMouseUp(point);
+        EXPECT_EQ(std::min(wanted, 64), runs) << "the count begins anew";
+    }
 }
+
+TEST_F(ManagerTest, EachFormOfALoadMayLoseItsParent)
+{
+    constexpr char Path[] = "/tmp/teskara-unit-forms.xml";
+    Host.Located["test.xml"] = Path;
+    std::FILE* file = std::fopen(Path, "wb");
+    ASSERT_NE(nullptr, file);
+    std::fputs(
+        "<Tesk><frame name='A'><OnLoad>end</OnLoad></frame><frame name='B'><OnLoad>end</OnLoad></frame></Tesk>", file);
+    std::fclose(file);
+
+    const std::function<bool(TeskElement*, bool)> forms[] = {
+        [](TeskElement*, bool replace) { return g_UIManager.LoadInterfaceXML("test.xml", replace, nullptr); },
+        [](TeskElement*, bool replace) { return g_UIManager.LoadInterfaceXML("test.xml", "A", "N", replace, nullptr); },
+        [](TeskElement* parent, bool replace) {
+            return g_UIManager.LoadInterfaceXML(parent, "test.xml", replace, nullptr);
+        },
+        [](TeskElement* parent, bool replace) {
+            return g_UIManager.LoadInterfaceXML(parent, "test.xml", "A", "N", replace, nullptr);
+        },
+    };
+    for (const auto& load : forms) {
+        for (const bool replace : {false, true}) {
+            int ends = 0;
+            Host.Scripts["end"] = [&](TeskElement& self) {
+                ++ends;
+                if (TeskElement* parent = self.Parent; parent && parent->Parent)
+                    parent->Parent->DeleteChild(parent);
+                else
+                    g_UIManager.Reset();
+            };
+            TeskElement* parent = g_UIManager.LoadElement(g_UIManager.Screen, "frame", "P");
+            EXPECT_TRUE(load(parent, replace));
+            EXPECT_EQ(1, ends) << "nothing more is loaded";
+            EXPECT_EQ(1u, g_UIManager.ElementsByID.size());
+        }
+    }
+    std::remove(Path);
+}
+
+TEST_F(ManagerTest, AHundredThousandNamesAreFoundInTime)
+{
+    constexpr u32 Count = 100000;
+    constexpr double Patience = 20; // seconds, under whatever checks; it takes a fraction of one
+    const auto start = std::chrono::steady_clock::now();
+    // Names that differ in few places only, and in all of them by the same steps.
+    for (u32 number = 0; number < Count; ++number)
+        g_UIManager.SetElementMetadata(1, (std::string(40, 'x') + std::to_string(number * 64)).c_str(), "v");
+    for (u32 number = 0; number < Count; ++number)
+        EXPECT_STREQ(
+            "v", g_UIManager.GetElementMetadata(1, (std::string(40, 'X') + std::to_string(number * 64)).c_str()));
+    g_UIManager.ElementMetadata.clear();
+    EXPECT_GT(Patience, std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count());
+}
+
+#ifndef NDEBUG
+TEST_F(ManagerTest, ACallOnAnotherThreadIsTold)
+{
+    Load("<console name='C'><Width>100</Width><Height>50</Height><Font/><ScrollBar/></console>");
+    auto& console = As<TeskConsole>("C");
+    const auto callAll = [&] {
+        _Point2i point = {5, 5};
+        g_UIManager.Render();
+        g_UIManager.OnMouseMove(point);
+        g_UIManager.OnMouseWheel(1);
+        g_UIManager.OnLMouseDown();
+        g_UIManager.OnLMouseUp();
+        g_UIManager.OnRMouseDown();
+        g_UIManager.OnRMouseUp();
+        g_UIManager.OnKeyDown(65);
+        g_UIManager.OnKeyUp(65);
+        console.Print("line");
+    };
+    callAll();
+    EXPECT_EQ("", System.DebugOutput);
+    std::thread(callAll).join();
+    std::string expected;
+    for (const char* operation : {"Render", "OnMouseMove", "OnMouseWheel", "OnLMouseDown", "OnLMouseUp", "OnRMouseDown",
+             "OnRMouseUp", "OnKeyDown", "OnKeyUp", "Print"})
+        expected += std::string("Teskara: ") + operation + " was called on another thread than Initialize\n";
+    EXPECT_EQ(expected, System.DebugOutput);
+}
+#endif
