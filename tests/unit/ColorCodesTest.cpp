@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <string>
 
 namespace {
@@ -107,17 +108,22 @@ TEST(ColorCodes, XGoesBackToTheColorBefore)
 
 TEST(ColorCodes, ColorsBeyondTheStackAreUsedButNotRemembered)
 {
-    ColorCodes::Stack colors;
-    u32 color = FontColor;
-    for (int count = 0; count < 129; ++count)
-        colors.Apply("r", color);
-    colors.Apply("g", color);
-    EXPECT_EQ(0xff00ff00u, color);
-    for (int count = 0; count < 127; ++count)
+    constexpr int places = 128;
+    for (const int count : {places - 1, places, places + 1, 100000}) {
+        ColorCodes::Stack colors;
+        u32 color = FontColor;
+        for (int push = 0; push < count; ++push)
+            colors.Apply("r", color);
+        colors.Apply("g", color);
+        EXPECT_EQ(0xff00ff00u, color);
+        for (int pop = 1; pop < std::min(count + 1, places); ++pop)
+            colors.Apply("x", color);
+        EXPECT_EQ(0xffff0000u, color) << count;
         colors.Apply("x", color);
-    EXPECT_EQ(0xffff0000u, color);
-    colors.Apply("x", color);
-    EXPECT_EQ(FontColor, color);
+        EXPECT_EQ(FontColor, color) << count;
+        colors.Apply("x", color);
+        EXPECT_EQ(FontColor, color) << count;
+    }
 }
 
 TEST(ColorCodes, LengthAndTextWithoutCodes)

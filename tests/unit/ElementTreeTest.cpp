@@ -1,11 +1,14 @@
 #include "teskara/core/CUIManager.h"
+#include "teskara/core/Limits.h"
 #include "teskara/element/TeskElement.h"
 #include "teskara/element/TeskElementFactory.h"
 #include "teskara/element/TeskScreen.h"
 #include "tests/unit/ToolkitTest.h"
 
+#include <algorithm>
 #include <climits>
 #include <memory>
+#include <vector>
 
 namespace {
 
@@ -36,6 +39,25 @@ public:
     }
 
     std::string Heard;
+};
+
+// Answers each notification by another one, up to the number that is wanted.
+class EchoingElement : public TeskElement
+{
+public:
+    using TeskElement::TeskElement;
+
+    void OnNotify(TeskElement* source, unsigned int code, unsigned long long value) override
+    {
+        if (code != 1)
+            return; // of what ends
+
+        if (++Heard < Wanted)
+            source->NotifyParent(code, value);
+    }
+
+    u32 Wanted = 1;
+    u32 Heard = 0;
 };
 
 } // namespace
@@ -156,12 +178,16 @@ TEST_F(ElementTreeTest, AFullNameIsCutTo4095Bytes)
 {
     const std::string name(3000, 'n');
     TeskElement& parent = Make(name.c_str());
-    TeskElement& child = Make(name.c_str(), &parent);
-    EXPECT_EQ(name, child.Name);
-    EXPECT_EQ((name + "@" + name).substr(0, 4095), child.FullName);
-    EXPECT_EQ(&child, g_UIManager.FindElement(child.FullName.c_str()));
-    parent.DeleteChild(&child);
-    EXPECT_EQ(nullptr, g_UIManager.FindElement((name + "@" + name).substr(0, 4095).c_str()));
+    for (const std::size_t length : {4094u, 4095u, 4096u, 6001u}) {
+        const std::string own(length - name.size() - 1, 'c');
+        TeskElement& child = Make(own.c_str(), &parent);
+        const std::string full = (own + "@" + name).substr(0, 4095);
+        EXPECT_EQ(own, child.Name);
+        EXPECT_EQ(full, child.FullName);
+        EXPECT_EQ(&child, g_UIManager.FindElement(full.c_str()));
+        parent.DeleteChild(&child);
+        EXPECT_EQ(nullptr, g_UIManager.FindElement(full.c_str()));
+    }
 }
 
 TEST_F(ElementTreeTest, MissingTextsAreEmptyOnes)
@@ -200,6 +226,33 @@ TEST_F(ElementTreeTest, TheSpreadOfAPositionReachesAllBelowAndWraps)
 }
 
 // The code of a kind may go with its factory, and with it every element that was left.
+TEST_F(ElementTreeTest, NotificationsNestTo256Levels)
+{
+    for (const u32 wanted : {Limits::NestedNotifications - 1, Limits::NestedNotifications,
+             Limits::NestedNotifications + 1, Limits::NestedNotifications}) {
+        EchoingElement parent("echo", g_UIManager.Screen, "P");
+        TeskElement child("echo", &parent, "C");
+        parent.Wanted = wanted;
+        child.NotifyParent(1, 0);
+        EXPECT_EQ(std::min(wanted, Limits::NestedNotifications), parent.Heard) << "the count begins anew";
+    }
+}
+
+TEST_F(ElementTreeTest, ANotificationThatIsPassedUpIsNoNewOne)
+{
+    std::vector<std::unique_ptr<TeskElement>> chain;
+    TeskElement* last = g_UIManager.Screen;
+    for (u32 level = 0; level < Limits::NestedNotifications + 2; ++level) {
+        chain.push_back(level ? std::make_unique<TeskElement>("echo", last, "C")
+                              : std::make_unique<EchoingElement>("echo", last, "P"));
+        last = chain.back().get();
+    }
+    last->NotifyParent(1, 0);
+    EXPECT_EQ(1u, static_cast<EchoingElement&>(*chain.front()).Heard);
+    while (!chain.empty())
+        chain.pop_back();
+}
+
 TEST_F(ElementTreeTest, AKindThatEndsMakesNoNewElements)
 {
     auto factory = std::make_unique<TeskFactory<ClientElement>>("testclient");

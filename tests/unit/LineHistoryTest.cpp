@@ -107,8 +107,12 @@ TEST(LineHistory, AHugeCapacityTakesMemoryOnlyForItsLinesAndHasABound)
     LineHistory history = With(4294967295u, {"a"});
     EXPECT_EQ("a", TextOf(history.Last()));
     history.Reset(4294967295u);
-    for (std::size_t line = 0; line <= Limits::RingLines; ++line)
+    for (std::size_t line = 1; line < Limits::RingLines; ++line)
         history.Add("x");
+    EXPECT_EQ(Limits::RingLines - 1, history.Count());
+    history.Add("x");
+    EXPECT_EQ(Limits::RingLines, history.Count());
+    history.Add("x");
     EXPECT_EQ(Limits::RingLines, history.Count());
     EXPECT_EQ(1u, history.Write);
 }

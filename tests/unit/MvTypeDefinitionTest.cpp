@@ -570,10 +570,12 @@ TEST(MvTypeDefinition, JoinedArgumentsAreCutAt4095Bytes)
     TextKeeper type("type");
     MvValue value;
     std::string first(4000, 'a');
-    std::string second(4000, 'b');
-    char* argv[] = {first.data(), second.data(), first.data()};
-    type.FromArguments(value, 3, argv);
-    EXPECT_EQ(first + " " + std::string(94, 'b'), type.Text);
+    for (const std::size_t length : {93u, 94u, 95u, 4000u}) {
+        std::string second(length, 'b');
+        char* argv[] = {first.data(), second.data(), first.data()};
+        type.FromArguments(value, 3, argv);
+        EXPECT_EQ((first + " " + second + " " + first).substr(0, 4095), type.Text);
+    }
 }
 
 TEST(MvTypeDefinition, AVariableStartsWithAWordOfZero)

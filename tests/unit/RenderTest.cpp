@@ -1,7 +1,10 @@
 #include "teskara/core/CUIManager.h"
+#include "teskara/core/Limits.h"
 #include "teskara/element/TeskElement.h"
 #include "teskara/element/TeskScreen.h"
 #include "tests/unit/ToolkitTest.h"
+
+#include <algorithm>
 
 namespace {
 
@@ -132,6 +135,21 @@ TEST_F(RenderTest, ChildrenThatKeepMakingOthersDoNotHoldUpTheFrame)
     };
     Frame();
     EXPECT_EQ(4 + 64, made);
+}
+
+TEST_F(RenderTest, AWalkOverChildrenThatMoveHasSoManySteps)
+{
+    constexpr std::size_t limit = 2 * Limits::ChildWalkFactor + Limits::ChildWalkSteps;
+    Load("<frame name='A'><OnRender>down</OnRender></frame><frame name='B'><OnRender>down</OnRender></frame>");
+    for (const std::size_t wanted : {limit - 1, limit, limit + 1}) {
+        std::size_t steps = 0;
+        Host.Scripts["down"] = [&](TeskElement& self) {
+            if (++steps < wanted)
+                self.MoveZBottom();
+        };
+        g_UIManager.Render();
+        EXPECT_EQ(std::min(wanted, limit), steps);
+    }
 }
 
 TEST_F(RenderTest, ManyChildrenThatDoNothingAreAllDrawn)

@@ -1,4 +1,5 @@
 #include "teskara/core/CUIManager.h"
+#include "teskara/core/Limits.h"
 #include "teskara/element/TeskElement.h"
 #include "teskara/markup/TeskSkin.h"
 #include "teskara/markup/XMLAttribute.h"
@@ -6,6 +7,7 @@
 #include "teskara/markup/XMLNode.h"
 #include "tests/unit/ToolkitTest.h"
 
+#include <algorithm>
 #include <chrono>
 #include <cstring>
 #include <string>
@@ -177,6 +179,22 @@ TEST_F(TemplatesTest, ManyOfOneTagAreReplacedFromTheFirstOn)
     EXPECT_LT(SecondsSince(start), Patience);
     EXPECT_EQ(20001u, Count("B"));
     EXPECT_STREQ("Other", g_UIManager.FindTemplate("B")->FirstChild->Name);
+}
+
+TEST_F(TemplatesTest, AChainHasSoManyEntries)
+{
+    // Each names a base that comes later, so that all stay as they are.
+    std::string markup;
+    for (u32 index = Limits::TemplateChainEntries; index > 0; --index) {
+        const std::string number = std::to_string(index);
+        markup += "<Template name=\"T" + number + "\" Template=\"T" + std::to_string(index - 1) + "\">x</Template>";
+    }
+    Load(markup + "<Template name=\"T0\">x</Template>");
+    for (const u32 entries :
+        {Limits::TemplateChainEntries - 1, Limits::TemplateChainEntries, Limits::TemplateChainEntries + 1}) {
+        Load("<Template name=\"C\" Template=\"T" + std::to_string(entries - 2) + "\">x</Template>");
+        EXPECT_EQ(std::min(entries, Limits::TemplateChainEntries), Count("C"));
+    }
 }
 
 TEST_F(TemplatesTest, CirclesOfLargeTemplatesEndBeforeMemoryDoes)

@@ -2,6 +2,8 @@
 #include "teskara/element/TeskScreen.h"
 #include "tests/unit/ConsoleTest.h"
 
+#include <algorithm>
+
 class TeskConsoleTest : public ConsoleTest
 {
 };
@@ -212,10 +214,12 @@ TEST_F(TeskConsoleTest, PrintfCutsWhatIsLongerThanItsBuffer)
     TeskConsole& console = Place(100);
     console.Printf("%s and %d", "text", 12);
     EXPECT_EQ((Strings{"text and 12"}), Lines(console));
-    console.Clear();
-    console.Printf("%s", std::string(5000, 'x').c_str());
-    ASSERT_EQ(41u, Lines(console).size());
-    EXPECT_EQ(95u, Lines(console).back().size());
+    for (const std::size_t length : {4094u, 4095u, 4096u, 5000u}) {
+        console.Clear();
+        console.Printf("%s", std::string(length, 'x').c_str());
+        ASSERT_EQ(41u, Lines(console).size());
+        EXPECT_EQ(std::min<std::size_t>(length, 4095) - 4000, Lines(console).back().size());
+    }
 }
 
 TEST_F(TeskConsoleTest, ClearingLeavesTheViewAndTheScrollBar)

@@ -1,5 +1,6 @@
 #include "teskara/controls/TeskVariableSlider.h"
 
+#include "teskara/core/Limits.h"
 #include "tests/unit/PressTest.h"
 
 namespace {
@@ -204,15 +205,21 @@ TEST_F(TeskVariableSliderTest, WithoutAVariableItIsASlider)
 
 TEST_F(TeskVariableSliderTest, ALongNameIsCutToTheBuffer)
 {
-    const std::string name(5000, 'v');
-    auto& slider = Make<TeskVariableSlider>("variableslider", "<Range>5</Range><Data>" + name + "</Data>");
-    std::string parsed;
-    Host.Expand = [&](const std::string& text) { return parsed = text; };
-    Draw();
-    EXPECT_EQ(name, slider.VariableName);
-    slider.Initialized = true;
-    slider.SetValue(3);
-    EXPECT_EQ("${" + name.substr(0, 2045), parsed);
+    for (const std::size_t length : {2043u, 2044u, 2045u, 2046u, 5000u}) {
+        const std::string name(length, 'v');
+        Host.Recorded = RecordSequences;
+        Host.TakeCalls();
+        auto& slider = Make<TeskVariableSlider>("variableslider", "<Range>5</Range><Data>" + name + "</Data>");
+        EXPECT_EQ(name, slider.VariableName);
+        const std::string reading = ("${" + name + "}").substr(0, 2047);
+        EXPECT_NE(std::string::npos, Host.TakeCalls().find('"' + reading + '"')) << length;
+
+        std::string written;
+        Host.Expand = [&](const std::string& text) { return written = text; };
+        slider.Initialized = true;
+        slider.SetValue(3);
+        EXPECT_EQ(("${" + name + ":Set[0.000000]}").substr(0, 2047), written) << length;
+    }
 }
 
 TEST_F(TeskVariableSliderTest, ReadingMayDeleteIt)
@@ -261,6 +268,6 @@ TEST_F(TeskVariableSliderTest, AWritingThatSetsTheSliderAgainEndsSometime)
     };
     slider.Initialized = true;
     slider.SetValue(50);
-    EXPECT_LT(writings, 100);
+    EXPECT_EQ(static_cast<int>(Limits::NestedTextUpdates), writings);
     EXPECT_LE(slider.Value, 2u);
 }
