@@ -1,3 +1,4 @@
+#include "host/probe/TreeChecker.h"
 #include "teskara/core/CUIManager.h"
 #include "teskara/element/TeskScreen.h"
 #include "teskara/markup/TeskSkin.h"
@@ -34,6 +35,7 @@ TEST(AddChildDeathTest, WhatCannotBeMadeFails)
         {{"frame", "A", "<unclosed"}, 0},
         {{"frame", "A", "<a></b>"}, 0},
         {{"frame", "A", ""}, 0},
+        {{"frame", "A", "only text"}, 0},
         {{"frame", "", "<a/>"}, 0},
         {{"nonsense", "A", "<a/>"}, 1},
         {{"frame", "Taken", "<a/>"}, 1},
@@ -133,5 +135,24 @@ TEST(AddChildDeathTest, ChildrenThatAddChildrenEndSomewhere)
         EXPECT_TRUE(ScriptObject(parent).Do("AddChild", {"frame", "A", "<x><OnLoad>add</OnLoad></x>"}));
         EXPECT_GT(made, 1);
         EXPECT_LE(made, 200);
+    });
+}
+
+// What stands first in the markup is read, whatever it is.
+TEST(AddChildDeathTest, AnyNodeIsReadAsAnElement)
+{
+    WithToolkit([](ScriptHost&) {
+        TeskElement& parent = MakeElement("frame", "P");
+        for (const char* markup : {"<!-- a comment -->", "<!-- a comment --><x/>", "<?instruction a='b'?>",
+                 "<!DOCTYPE x SYSTEM \"y\">", " ", "<x/>"}) {
+            for (const char* kind : {"frame", "text", "listbox", "window", "tree"}) {
+                ScriptObject(parent).Do("AddChild", {kind, "A", markup});
+                ScriptObject(parent).Do("SetTexture", {markup});
+                EXPECT_EQ(std::nullopt, FindTreeFault()) << markup;
+                if (TeskElement* child = parent.FindChild("A"))
+                    parent.DeleteChild(child);
+            }
+        }
+        EXPECT_TRUE(ScriptObject(parent).Do("AddChild", {"frame", "A", "<!-- a comment -->"}));
     });
 }

@@ -289,3 +289,31 @@ TEST(CommandsDeathTest, AScriptMayEndByTheTextOfItsBox)
         EXPECT_EQ(nullptr, box->pScript.Get());
     });
 }
+
+TEST(CommandsDeathTest, EveryPartOfEveryFormIsAnsweredByALine)
+{
+    const std::vector<std::vector<const char*>> forms = {
+        {"-load", "-parent", "Nobody", "-skin", "Dark", "file.xml", "Old", "New", "more"},
+        {"-load", "-parent", "Screen", "-skin", "Dark", "file.xml", "Old", "New", "more"},
+        {"-reload", "-skin", "Dark", "file.xml", "Old", "New"},
+        {"-reload", "-skin", "-skin", "-parent", "-skin"},
+        {"-unload", "file.xml", "more"},
+        {"-kill", "Nobody", "more"},
+        {"-show", "Nobody"},
+        {"-hide", "Nobody"},
+        {"-toggle", "Nobody"},
+    };
+    WithToolkit([&](ScriptHost& host) {
+        g_UIManager.NewSkin("Dark");
+        for (const std::vector<const char*>& form : forms) {
+            for (std::size_t end = 0; end <= form.size(); ++end) {
+                for (const char* command : {"UI", "UIElement"}) {
+                    host.Lines.clear();
+                    host.Run(command, {form.begin(), form.begin() + static_cast<long>(end)});
+                    EXPECT_FALSE(host.Lines.empty()) << command << " " << form.front() << " " << end;
+                    EXPECT_EQ(nullptr, g_UIManager.CurrentSkin);
+                }
+            }
+        }
+    });
+}

@@ -4,6 +4,7 @@
 #include "teskara/element/TeskTexture.h"
 #include "tests/unit/ToolkitTest.h"
 
+#include <cstring>
 #include <limits>
 #include <memory>
 #include <vector>
@@ -68,6 +69,60 @@ TEST_F(DrawingTest, OpacityScalesTheTopByteAndIsTruncated)
         Panel->AbsoluteAlpha = row.Alpha;
         EXPECT_EQ(row.Adjusted, Panel->AdjustColor(row.Color)) << row.Alpha;
     }
+}
+
+TEST_F(DrawingTest, WithoutAScreenNothingIsSentAndAllCountsAsDrawn)
+{
+    Load("<frame name='Late'><OnUnload>draw</OnUnload></frame>");
+    int drawn = 0;
+    Host.Scripts["draw"] = [&](TeskElement& self) {
+        EXPECT_EQ(nullptr, g_UIManager.Screen);
+        drawn += self.FillRect({0, 0, 10, 10}, 0xff000000);
+        drawn += self.FillRectBordered({0, 0, 10, 10}, 0xff000000, 1, 0xffffffff);
+    };
+    g_UIManager.Reset();
+    EXPECT_EQ(2, drawn);
+    EXPECT_EQ("", Calls());
+}
+
+// What lies in memory where a record comes to stand must not leave the process.
+TEST_F(DrawingTest, WhatARecordDoesNotSayIsZero)
+{
+    class RawHost : public TestHost
+    {
+    public:
+        bool DrawTexturedRect(const TeskDrawRecord& record) override { return Keep(record); }
+        bool DrawTexturedRects(u32, const TeskDrawRecord* records) override { return Keep(*records); }
+        bool DrawLine(const TeskDrawRecord& record, u32) override { return Keep(record); }
+
+        std::vector<TeskDrawRecord> Records;
+
+    private:
+        bool Keep(const TeskDrawRecord& record)
+        {
+            std::memcpy(&Records.emplace_back(), &record, sizeof(record));
+            return true;
+        }
+    };
+
+    RawHost host;
+    F1(&host);
+    Panel->TexturedRect({1, 2, 3, 4}, Texture.get());
+    const TeskTexturedRect rect = {Texture.get(), {1, 2, 3, 4}, 0, {}, 0, 0, 0};
+    Panel->TexturedRects(1, &rect);
+    Panel->DrawLine({1, 2, 3, 4}, 5, 0xff123456);
+    ASSERT_EQ(3u, host.Records.size());
+    for (const TeskDrawRecord& record : host.Records) {
+        TeskDrawRecord expected;
+        std::memset(static_cast<void*>(&expected), 0, sizeof(expected));
+        expected.Destination = {1, 2, 3, 4};
+        expected.TextureID = record.TextureID;
+        expected.ColorMask = record.ColorMask;
+        expected.Alpha = record.Alpha;
+        expected.Flags = record.Flags;
+        EXPECT_EQ(0, std::memcmp(&expected, &record, sizeof(record)));
+    }
+    F1(&Host);
 }
 
 TEST_F(DrawingTest, ARectangleOffTheScreenIsNotSentButCountsAsDrawn)

@@ -198,3 +198,51 @@ TEST_F(ElementLifeTest, OneWithoutAParentIsRemovedAsWell)
     EXPECT_EQ("made a\nread a\ndestroyed a\nended a\n", TakeDiary());
     EXPECT_EQ(nullptr, g_UIManager.FindElement("A"));
 }
+
+TEST_F(ElementLifeTest, TheEndOfAKindTakesElementsInsideOneAnotherOnce)
+{
+    const std::string inner = Markup("C", "<Children>" + Markup("D") + "</Children>");
+    Load(Markup("A", "<Children>" + Markup("B", "<Children>" + inner + "</Children>") + "</Children>"));
+    Factory.reset();
+    const std::string diary = TakeDiary();
+    for (const char* end : {"ended a\n", "ended b\n", "ended c\n", "ended d\n", "unload a\n", "unload d\n"}) {
+        EXPECT_NE(std::string::npos, diary.find(end)) << end;
+        EXPECT_EQ(diary.find(end), diary.rfind(end)) << end;
+    }
+    EXPECT_EQ(1u, g_UIManager.ElementsByID.size());
+}
+
+TEST_F(ElementLifeTest, TheEndOfAKindLeavesWhatCannotBeDeletedInsideOfIt)
+{
+    auto lasting = std::make_unique<TeskFactory<Diarist>>("lasting");
+    Load("<diarist name='A'><Children><lasting name='B'><Children><diarist name='C'/></Children></lasting></Children>"
+         "</diarist>");
+    auto entry = g_UIManager.Factories.extract(utf8stringnocase("lasting"));
+    Factory.reset();
+    TeskElement* left = g_UIManager.FindElement("B@A");
+    ASSERT_NE(nullptr, left);
+    EXPECT_EQ(nullptr, left->Parent);
+    EXPECT_EQ(nullptr, left->FirstChild);
+    EXPECT_EQ(2u, g_UIManager.ElementsByID.size());
+    g_UIManager.Factories.insert(std::move(entry));
+    lasting.reset();
+    EXPECT_EQ(1u, g_UIManager.ElementsByID.size());
+}
+
+TEST_F(ElementLifeTest, AKindThatMakesNothingIsReported)
+{
+    class EmptyFactory : public DiaristFactory
+    {
+    public:
+        using DiaristFactory::DiaristFactory;
+        TeskElement* Create(TeskElement*, const char*) override { return nullptr; }
+        TeskElement* Create(TeskElement*, const char*, XMLNode*, const char*) override { return nullptr; }
+    };
+
+    const EmptyFactory factory("empty");
+    Load("<empty name='A'/><diarist name='B'/>");
+    EXPECT_EQ("PrintLine \"CreateUIElement failed on 'A' under 'screen'\"\n", Host.TakeCalls());
+    EXPECT_EQ(nullptr, g_UIManager.FindElement("A"));
+    EXPECT_NE(nullptr, g_UIManager.FindElement("B"));
+    EXPECT_EQ(nullptr, g_UIManager.LoadElement(g_UIManager.Screen, "empty", "C"));
+}

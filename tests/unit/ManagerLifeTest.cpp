@@ -1,6 +1,8 @@
 #include "teskara/core/CUIManager.h"
+#include "teskara/element/TeskElementFactory.h"
 #include "teskara/element/TeskScreen.h"
 #include "teskara/markup/TeskSkin.h"
+#include "tests/unit/Allocations.h"
 #include "tests/unit/FreshProcess.h"
 #include "tests/unit/ScriptHost.h"
 
@@ -254,4 +256,47 @@ TEST(ManagerLifeDeathTest, EverythingHeldIsGivenBackWhenTheToolkitEnds)
         EXPECT_TRUE(host.Types.empty());
         EXPECT_EQ(nullptr, g_UIManager.Screen);
     });
+}
+
+TEST(ManagerLifeDeathTest, AKindOfAnotherVersionIsRefusedBeforeThereIsAHost)
+{
+    InFreshProcess([] {
+        const TeskFactory<TeskElement> factory("stranger", TeskaraVersion + 1);
+        EXPECT_EQ(nullptr, g_UIManager.FindFactory("stranger"));
+        const TeskFactory<TeskElement> known("known");
+        EXPECT_EQ(&known, g_UIManager.FindFactory("known"));
+    });
+}
+
+// Every so often, because each start takes a process of its own.
+TEST(ManagerLifeDeathTest, AStartMayRunOutOfMemoryAnywhere)
+{
+    for (const auto failing : {Allocations::Failing::Once, Allocations::Failing::FromThenOn}) {
+        bool wasReached = true;
+        for (std::size_t failure = 0; wasReached; failure += failure / 2 + 1) {
+            const std::size_t needed = 100000;
+            ASSERT_LT(failure, needed);
+            int status = 0;
+            std::fflush(nullptr);
+            const pid_t child = fork();
+            if (child == 0) {
+                ScriptHost host;
+                F1(&host);
+                const std::size_t before = Allocations::Count();
+                Allocations::FailAfter(failure, failing);
+                g_UIManager.Initialize();
+                const bool reached = Allocations::Count() - before > failure;
+                DoEverythingWithNothing();
+                Allocations::Allow();
+                DoEverythingWithNothing();
+                g_UIManager.Shutdown();
+                const bool isEmpty = g_UIManager.ElementsByID.empty() && host.Types.empty() && host.Commands.empty();
+                std::fflush(nullptr);
+                std::exit(!isEmpty || testing::Test::HasFailure() ? 2 : reached);
+            }
+            ASSERT_EQ(child, waitpid(child, &status, 0));
+            ASSERT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) < 2) << "at allocation " << failure;
+            wasReached = WEXITSTATUS(status) == 1;
+        }
+    }
 }

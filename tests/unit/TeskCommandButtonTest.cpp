@@ -2,6 +2,8 @@
 
 #include "tests/unit/PressTest.h"
 
+#include <stdexcept>
+
 namespace {
 
 class TeskCommandButtonTest : public PressTest
@@ -135,4 +137,14 @@ TEST_F(TeskCommandButtonTest, ACommandMayChangeTheCommandOfItsButton)
     };
     EXPECT_TRUE(Release(button));
     EXPECT_EQ(Turned, Host.TakeCalls());
+}
+
+TEST_F(TeskCommandButtonTest, ACommandThatFailsByAnExceptionGivesTheOutputBack)
+{
+    TeskCommandButton& button = MakeButton("<Command>go</Command><Console>out</Console>");
+    Host.Console = "main";
+    Host.Commands["go"] = [] { throw std::runtime_error("the command failed"); };
+    Press(button);
+    EXPECT_NO_THROW(Release(button));
+    EXPECT_EQ("main", Host.Console);
 }

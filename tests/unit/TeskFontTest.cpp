@@ -144,6 +144,7 @@ TEST_F(TeskFontTest, From4097BytesOnTheWholeTextIsMeasured)
 {
     const auto font = MakeFont();
     const std::string text(5000, 'a');
+    EXPECT_EQ(4095u * 6, font->GetTextWidth(text.c_str(), 4095));
     EXPECT_EQ(4096u * 6, font->GetTextWidth(text.c_str(), 4096));
     EXPECT_EQ(5000u * 6, font->GetTextWidth(text.c_str(), 4097));
 }
@@ -303,4 +304,32 @@ TEST_F(TeskFontTest, AnOwnerThatAnswersAChangeByAChangeIsNotToldForEver)
     font->SetHeight(13);
     EXPECT_EQ(256, owner.Count);
     EXPECT_EQ(static_cast<u8>(13 + 256), font->Size);
+}
+
+TEST_F(TeskFontTest, ASpaceWithoutAWidthCountsAsTwelveInAFixedFont)
+{
+    for (const float width :
+        {0.0f, -5.0f, std::numeric_limits<float>::quiet_NaN(), -std::numeric_limits<float>::max()}) {
+        Host.Widths[' '] = width;
+        g_UIManager.Reset();
+        Load("<frame name='Owner'/>");
+        const std::unique_ptr<TeskFont> font(TeskFont::New(&Element("Owner"), "Mono", 12, true, false));
+        EXPECT_EQ(0u, font->GetCharByOffset("abcd", 11)) << width;
+        EXPECT_EQ(1u, font->GetCharByOffset("abcd", 12)) << width;
+        EXPECT_EQ(4u, font->GetCharByOffset("abcd", std::numeric_limits<u64>::max())) << width;
+        EXPECT_EQ(0u, font->GetCharByOffset("", std::numeric_limits<u64>::max())) << width;
+    }
+}
+
+TEST_F(TeskFontTest, BytesWithoutAWidthDoNotHoldUpASearchForAnOffset)
+{
+    for (const float width : {0.0f, -5.0f, std::numeric_limits<float>::infinity()}) {
+        Host.Widths['i'] = width;
+        const auto font = MakeFont();
+        EXPECT_EQ(3u, font->GetCharByOffset("iii", 5)) << width;
+    }
+    Host.Widths['i'] = std::numeric_limits<float>::quiet_NaN(); // as if it were not measured
+    EXPECT_EQ(1u, MakeFont()->GetCharByOffset("iii", 12));
+    Host.Widths['i'] = 2e9f;
+    EXPECT_EQ(0u, MakeFont()->GetCharByOffset("iii", 5));
 }

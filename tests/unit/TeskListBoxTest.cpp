@@ -1,5 +1,8 @@
 #include "tests/unit/ListTest.h"
 
+#include <chrono>
+#include <string>
+
 class TeskListBoxTest : public ListTest
 {
 };
@@ -267,4 +270,23 @@ TEST_F(TeskListBoxTest, WithoutMarkupEverythingWorksOnNothing)
     EXPECT_EQ(9u, list.GetItemCount());
     _Point2i point = {0, 4};
     EXPECT_EQ(6u, list.GetItemFromPoint(point));
+}
+
+TEST_F(TeskListBoxTest, AHundredThousandRowsComeAndGoInTime)
+{
+    constexpr u32 Count = 100000;
+    constexpr double Patience = 20; // seconds, under whatever checks; it takes a fraction of one
+    g_UIManager.LoadElement(g_UIManager.Screen, "listbox", "L");
+    auto& list = As<TeskListBox>("L");
+    const auto start = std::chrono::steady_clock::now();
+    for (u32 row = 0; row < Count; ++row)
+        list.AddItem(std::to_string(row * 7919 % Count).c_str(), "", 0);
+    EXPECT_EQ(Count, list.GetItemCount());
+    for (u32 id = 1; id <= Count; id += 2)
+        list.RemoveItem(id);
+    for (u32 row = 0; row < Count / 2; ++row)
+        EXPECT_EQ(2 * row + 1, list.AddItem("again", "", 0));
+    list.ClearItems();
+    EXPECT_EQ(0u, list.GetItemCount());
+    EXPECT_GT(Patience, std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count());
 }

@@ -301,3 +301,46 @@ TEST_F(TeskTextureTest, ASkinIsInForceWhileAnArgumentIsRead)
     EXPECT_EQ(nullptr, g_UIManager.CurrentSkin);
     g_UIManager.RemoveSkin("dark");
 }
+
+TEST_F(TeskTextureTest, OnlyABackslashPartsTheFolderOfTheInterfaceFile)
+{
+    std::strcpy(g_UIManager.CurrentFile, "/ui/main.xml");
+    System.Files = {u"/ui/a.tga", u"found.tga"};
+    Host.FoundResources["a.tga"] = "found.tga";
+    EXPECT_EQ("found.tga", TextureOf("<Texture Filename='a.tga'/>")->Filename);
+    *g_UIManager.CurrentFile = 0;
+}
+
+TEST_F(TeskTextureTest, OnlyTheNamesThatAreSoughtTouchTheDisk)
+{
+    class WatchedPlatform : public TestPlatform
+    {
+    public:
+        std::FILE* OpenFile(const char16_t*) override
+        {
+            Asked += "open;";
+            return nullptr;
+        }
+        bool FileExists(const char16_t* path) override
+        {
+            for (; *path; ++path)
+                Asked += static_cast<char>(*path);
+            Asked += ";";
+            return true;
+        }
+        std::string Asked;
+    };
+
+    WatchedPlatform watched;
+    SetPlatform(&watched);
+    std::strcpy(g_UIManager.CurrentFile, "C:\\ui\\main.xml");
+    const OwnedTexture texture = TextureOf("<Texture Filename='../../secret.tga'/>");
+    EXPECT_EQ("C:\\ui\\../../secret.tga;", watched.Asked);
+    watched.Asked.clear();
+    EXPECT_TRUE(TextureOf("<Texture Filename='#camera'/>"));
+    EXPECT_TRUE(texture);
+    Frame();
+    EXPECT_EQ("", watched.Asked);
+    *g_UIManager.CurrentFile = 0;
+    SetPlatform(&System);
+}
