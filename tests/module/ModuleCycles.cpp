@@ -1,0 +1,65 @@
+// A program that knows the library by its path alone and loads and unloads it over and over. Says what went wrong, and
+// nothing if all is well.
+
+#include "teskara/core/CUIManager.h"
+
+#include <cstdio>
+#include <dlfcn.h>
+
+namespace {
+
+constexpr int Cycles = 1000;
+constexpr int FirstCycles = 100; // until then memory may still grow
+constexpr long Growth = 1024; // kilobytes that are no leak of each cycle
+
+using Entry = CUIManager* (*)(HostObject* host);
+
+// Kilobytes of memory in use.
+long Resident()
+{
+    long pages = 0;
+    std::FILE* file = std::fopen("/proc/self/statm", "r");
+    if (!file)
+        return 0;
+    if (std::fscanf(file, "%*d %ld", &pages) != 1)
+        pages = 0;
+    std::fclose(file);
+    return pages * 4;
+}
+
+const char* RunOnce(const char* path)
+{
+    void* module = dlopen(path, RTLD_NOW | RTLD_LOCAL);
+    if (!module)
+        return "it cannot be loaded";
+    const auto entry = reinterpret_cast<Entry>(dlsym(module, "F1"));
+    CUIManager* manager = entry ? entry(nullptr) : nullptr;
+    if (!manager || manager->GetVersion() != TeskaraVersion)
+        return "it has no entry";
+    if (manager->ShuttingDown || manager->Factories.empty() || manager->NextElementID != 1)
+        return "it is not as new";
+    manager->NextElementID = 2;
+    manager->Shutdown();
+    dlclose(module);
+    return dlopen(path, RTLD_NOW | RTLD_NOLOAD) ? "it stays loaded" : nullptr;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    long before = 0;
+    for (int cycle = 0; cycle < Cycles; ++cycle) {
+        if (const char* fault = argc > 1 ? RunOnce(argv[1]) : "no path") {
+            std::printf("%s, in cycle %d\n", fault, cycle);
+            return 1;
+        }
+        if (cycle == FirstCycles)
+            before = Resident();
+    }
+    if (Resident() > before + Growth) {
+        std::printf("memory grew from %ld to %ld kilobytes\n", before, Resident());
+        return 1;
+    }
+    return 0;
+}
