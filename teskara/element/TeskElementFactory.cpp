@@ -85,13 +85,19 @@ std::vector<u32> TeskElementFactory::Instances() const
     return ids;
 }
 
-// The element hears OnDestroy twice: here, and when its parent deletes it.
+// The element hears OnDestroy twice: here, and when it is deleted. One that outlived its parent is deleted all the same:
+// the code of its kind may be gone afterwards.
 void TeskElementFactory::EndInstance(TeskElement& element)
 {
     const ElementWatch watch(element);
     element.OnDestroy();
-    if (watch.Exists() && element.Parent)
+    if (!watch.Exists())
+        return;
+
+    if (element.Parent)
         element.Parent->DeleteChild(&element);
+    else
+        element.Delete();
 }
 
 bool TeskElementFactory::MayCreateUnder(TeskElement* parent)

@@ -112,6 +112,7 @@ TEST_F(HostBuffersTest, ATextIsNeverReadFromTheBufferForItsValue)
          "<frame name='F'><Y>50</Y><Width>50</Width><Height>50</Height><AutoTooltip>${hint}</AutoTooltip></frame>"
          "<variableslider name='S'><Range>5</Range><VariableRange>2</VariableRange><Data>name</Data></variableslider>");
     F1(&host);
+    g_UIManager.Render();
     As<TeskVariableSlider>("S").Initialized = true;
     As<TeskVariableSlider>("S").SetValue(3);
     _Point2i point = {10, 60};
