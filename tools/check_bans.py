@@ -23,7 +23,7 @@ BANNED = {
         "atoi atol atoll strtol strtoll strtoul strtoull stoi stol stoll stoul stoull",
     "copies without a bound, or leaves a text without an end; see core/BoundedText.h":
         "strcpy strcat sprintf vsprintf gets stpcpy strncpy strncat wcscpy wcscat alloca strdupa",
-    "keeps its result in memory of its own": "strtok asctime ctime gmtime localtime tmpnam rand srand strerror",
+    "keeps its result in memory of its own": "strtok asctime ctime gmtime localtime tmpnam rand srand",
 }
 REASONS = {name: reason for reason, names in BANNED.items() for name in names.split()}
 CALL = re.compile(r"(?<![\w.>])(?:std::|::)?(" + "|".join(REASONS) + r")\s*\(")
@@ -38,7 +38,7 @@ WORDS_BEHIND_PARAMETERS = re.compile(r"(?:const|noexcept|override|final|mutable)
 
 # Functions that take a format, and which of their arguments it is.
 FORMATTING = {"printf": 0, "fprintf": 1, "snprintf": 2, "vsnprintf": 2, "FormatBounded": 2, "PrintLine": 0, "Warn": 0,
-              "Print": 0, "Fail": 0, "FailInAttribute": 1, "Explain": 0}
+              "Print": 0, "FailInAttribute": 1, "Explain": 0}
 FORMAT_CALL = re.compile(r"(?<!\w)(" + "|".join(FORMATTING) + r")\s*\(")
 # What stands before a name that operations of other classes have too.
 SHARED_NAMES = {"Print": re.compile(r"(?:Output\(\)|m_Console)\.$")}
@@ -77,8 +77,8 @@ def arguments_from(source, at):
 
 
 def is_known_format(text, source):
-    """A literal; a constant of the file; a parameter that is a format for whoever calls."""
-    if text.startswith('""') or re.match(r"const char\s*\*|std::|const std::", text):
+    """A literal; a constant of the file or of the toolkit's messages; a parameter that is a format for whoever calls."""
+    if text.startswith('""') or re.fullmatch(r"Messages::\w+", text) or re.match(r"const char\s*\*|std::|const std::", text):
         return True
     if re.fullmatch(r"\w+", text):
         constant = rf"constexpr (?:const char\s*\*\s*(?:const )?{text}|char {text}\[)"

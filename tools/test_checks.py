@@ -122,6 +122,7 @@ class Checks(unittest.TestCase):
             "bool Read(const char*) const; void Give(u32) override;",
             "Host::PrintLine(\"%s is %d\", Name(\"a, b\"), 10'000);",
             "constexpr const char* Usage = \"%s\"; Host::PrintLine(Usage, name);",
+            "Host::PrintLine(Messages::NameTaken, name);",
             "void Say(const char* format, int b) { Host::PrintLine(format, b); }",
         ]:
             self.assertEqual(list(check_bans.findings(self.tree({"host/A.cpp": line + "\n"}))), [], line)
