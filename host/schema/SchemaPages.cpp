@@ -74,7 +74,9 @@ private:
 
     static std::string NameOf(const SchemaValue& value)
     {
-        return AsCode(value.Name) + (value.Owner.empty() ? "" : " of " + AsCode(value.Owner));
+        const bool isAmongTags = value.Place == SchemaPlace::TemplateAttribute;
+        return AsCode(value.Name) + (value.Owner.empty() ? "" : " of " + AsCode(value.Owner))
+            + (isAmongTags ? ", an attribute" : "");
     }
 
     // The rows of those values that keep(value) wants, under a heading.
