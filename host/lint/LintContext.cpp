@@ -42,11 +42,18 @@ const char* LintContext::NameOf(const LintValue& value)
 
 SourcePlace LintContext::PlaceIn(const LintValue& value, std::size_t offset) const
 {
-    const auto begin = value.Attribute ? std::nullopt : Source().OffsetOf(value.Node->FirstChild);
-    if (!begin)
+    if (value.Attribute || !value.Node->FirstChild)
         return Source().PlaceOf(value.Attribute, value.Node);
+    return PlaceInText(value.Node->FirstChild, offset);
+}
 
-    const std::string_view before = TextOf(value).substr(0, offset);
+SourcePlace LintContext::PlaceInText(const XMLNode* text, std::size_t offset) const
+{
+    const auto begin = Source().OffsetOf(text);
+    if (!begin)
+        return Source().PlaceOf(text);
+
+    const std::string_view before = std::string_view(text->Name).substr(0, offset);
     const bool isPlain = std::string_view(Source().Source().Text()).substr(*begin).starts_with(before);
     return Source().Source().PlaceOf(*begin + (isPlain ? offset : 0));
 }

@@ -40,6 +40,9 @@ public:
     void Report(const XMLNode* node, std::string message, std::string meant = {});
     void Report(const LintValue& value, std::string message, std::string meant = {});
 
+    // A literal section is a text that begins with this: it belongs to the text.
+    static constexpr std::string_view LiteralMark = "<![CDATA[";
+
     // The text that is read as the value; empty if there is none.
     static std::string_view TextOf(const LintValue& value);
 
@@ -48,6 +51,7 @@ public:
 
     // Where a byte of the value's text stands. A text with references in it counts from its start.
     SourcePlace PlaceIn(const LintValue& value, std::size_t offset) const;
+    SourcePlace PlaceInText(const XMLNode* text, std::size_t offset) const;
 
 private:
     const LintModel& m_Model;

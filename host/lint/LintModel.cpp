@@ -23,6 +23,14 @@ bool HasTag(const XMLNode* node, const char* tag)
     return IsElement(node) && IsSameName(node->Name, tag);
 }
 
+// Whether a value is read where it stands: some are only read from a template.
+bool IsReadIn(const XMLNode* node, const SchemaValue& value)
+{
+    const bool isForTemplates =
+        value.Place == SchemaPlace::TemplateChild || value.Place == SchemaPlace::TemplateAttribute;
+    return !isForTemplates || HasTag(node, "Template");
+}
+
 const char* AttributeOf(XMLNode* node, const char* name)
 {
     return XMLHelper::GetStringAttribute(node, name, "");
@@ -30,19 +38,17 @@ const char* AttributeOf(XMLNode* node, const char* name)
 
 } // namespace
 
-LintModel::LintModel(const Schema& schema, const std::vector<const LintFile*>& files)
-    : m_Schema(schema), m_Files(files), m_InFiles(files.size())
+LintModel::LintModel(const Schema& schema, const std::vector<const LintFile*>& files, const LintSkin& skin)
+    : m_Schema(schema), m_Files(files), m_Skin(skin), m_Templates(skin.Files), m_InFiles(files.size())
 {
-    for (std::size_t file = 0; file < m_Files.size(); ++file) {
-        XMLNode* markup = MarkupOf(file);
-        m_Templates.Add(file, markup);
-        for (XMLNode* node = markup ? markup->FirstChild : nullptr; node; node = node->Next)
-            if (HasTag(node, "Skin"))
-                CollectSkinLines(node);
-    }
+    for (std::size_t file = 0; file < m_Files.size(); ++file)
+        m_Templates.Add(file, MarkupOf(file));
+    for (std::size_t file = 0; file < m_Files.size(); ++file)
+        CollectSkins(file, skin.Name);
     ReadKindTemplates();
     for (std::size_t file = 0; file < m_Files.size(); ++file)
         ReadFile(file);
+    ReadUsed();
     ReadUnusedTemplates();
     for (std::size_t file = 0; file < m_Files.size(); ++file) {
         if (XMLNode* markup = MarkupOf(file))
@@ -50,14 +56,30 @@ LintModel::LintModel(const Schema& schema, const std::vector<const LintFile*>& f
     }
 }
 
-void LintModel::CollectSkinLines(XMLNode* skin)
+// A skin has the lines of its template, then its own, which win.
+void LintModel::CollectSkins(std::size_t file, const std::string& current)
 {
-    for (XMLNode* line = skin->FirstChild; line; line = line->Next) {
-        if (!HasTag(line, "SkinTemplate"))
+    XMLNode* markup = MarkupOf(file);
+    for (XMLNode* node = markup ? markup->FirstChild : nullptr; node; node = node->Next) {
+        if (!HasTag(node, "Skin"))
             continue;
-        const std::string base = AttributeOf(line, "Base");
-        const std::string skinned = AttributeOf(line, "Skin");
-        m_Skinned.emplace(FoldedName(base), skinned.empty() ? AttributeOf(line, "SkinPrefix") + base : skinned);
+        const bool isCurrent = !current.empty() && IsSameName(AttributeOf(node, "name"), current);
+        for (const LintTemplate& each : m_Templates.Named(AttributeOf(node, "Template")))
+            CollectSkinLines(each.Node, isCurrent);
+        CollectSkinLines(node, isCurrent);
+    }
+}
+
+void LintModel::CollectSkinLines(XMLNode* lines, bool isCurrent)
+{
+    for (XMLNode* line = lines->FirstChild; line; line = line->Next) {
+        const std::string base = HasTag(line, "SkinTemplate") ? AttributeOf(line, "Base") : "";
+        const std::string skinned = SkinnedNameOf(line);
+        if (base.empty() || skinned.empty())
+            continue;
+        m_Skinned.emplace(FoldedName(base), skinned);
+        if (isCurrent)
+            m_Templates.Redirect(base, skinned);
     }
 }
 
@@ -97,6 +119,7 @@ void LintModel::ReadUnusedTemplates()
             ReadAttributes(each.Node, *m_Schema.FindShape(TemplateShape), "");
             if (m_Shapes[each.Node].empty())
                 ReadLoosely(each.Node);
+            ReadUsed();
         }
     }
 }
@@ -107,7 +130,7 @@ void LintModel::ReadElement(XMLNode* node)
     if (shape && !shape->IsKind())
         shape = nullptr;
     m_Elements.emplace(node, LintElement{node, shape});
-    if (shape)
+    if (shape && shape->Use == SchemaUse::Element)
         ReadInside(node, *shape);
 }
 
@@ -122,9 +145,10 @@ void LintModel::ReadInside(XMLNode* node, const SchemaShape& shape)
     for (XMLNode* child = node->FirstChild; child; child = child->Next) {
         if (!IsElement(child))
             continue;
-        if (const SchemaValue* value = m_Schema.FindChild(shape, child->Name))
+        const SchemaValue* value = m_Schema.FindChild(shape, child->Name);
+        if (value && IsReadIn(node, *value))
             ReadValue(child, shape, *value);
-        else if (shape.Holds == ElementShape)
+        else if (!value && shape.Holds == ElementShape)
             ReadElement(child);
     }
 }
@@ -133,7 +157,7 @@ void LintModel::ReadAttributes(XMLNode* node, const SchemaShape& shape, std::str
 {
     for (const XMLAttribute* attribute = node->Attributes; attribute; attribute = attribute->Next) {
         const SchemaValue* value = m_Schema.FindAttribute(shape, attribute->Name, owner);
-        if (!value)
+        if (!value || !IsReadIn(node, *value))
             continue;
         m_Attributes[attribute] = value;
         if (owner.empty() && value->Form == "template" && *attribute->Value)
@@ -163,15 +187,22 @@ void LintModel::ReadTemplate(XMLNode* node, const SchemaShape& shape)
 
 void LintModel::Use(std::string_view name, const SchemaShape& shape)
 {
-    std::string folded = FoldedName(name);
-    const auto [first, last] = m_Skinned.equal_range(folded);
-    if (!m_Uses.emplace(std::move(folded), &shape).second)
-        return;
+    const auto [use, isNew] = m_Uses.emplace(FoldedName(name), &shape);
+    if (isNew)
+        m_Unread.push_back(*use);
+}
 
-    for (const LintTemplate& each : m_Templates.Named(name))
-        ReadTemplate(each.Node, shape);
-    for (auto line = first; line != last; ++line)
-        Use(line->second, shape);
+void LintModel::ReadUsed()
+{
+    while (!m_Unread.empty()) {
+        const auto [name, shape] = m_Unread.back();
+        m_Unread.pop_back();
+        for (const LintTemplate& each : m_Templates.Named(name))
+            ReadTemplate(each.Node, *shape);
+        const auto [first, last] = m_Skinned.equal_range(name);
+        for (auto line = first; line != last; ++line)
+            Use(line->second, *shape);
+    }
 }
 
 void LintModel::ReadLoosely(XMLNode* node)

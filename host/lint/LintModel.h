@@ -31,9 +31,10 @@ class LintModel
 {
 public:
     // All are borrowed.
-    LintModel(const Schema& schema, const std::vector<const LintFile*>& files);
+    LintModel(const Schema& schema, const std::vector<const LintFile*>& files, const LintSkin& skin = {});
 
     const Schema& Known() const { return m_Schema; }
+    const LintSkin& Skin() const { return m_Skin; }
     const LintTemplates& Templates() const { return m_Templates; }
     const std::vector<const LintFile*>& Files() const { return m_Files; }
 
@@ -69,13 +70,16 @@ private:
     void ReadTemplate(XMLNode* node, const SchemaShape& shape);
     void ReadLoosely(XMLNode* node);
     void Use(std::string_view name, const SchemaShape& shape);
-    void CollectSkinLines(XMLNode* skin);
+    void ReadUsed();
+    void CollectSkins(std::size_t file, const std::string& current);
+    void CollectSkinLines(XMLNode* lines, bool isCurrent);
     void Collect(XMLNode* node, InFile& in) const;
     void CollectAttributes(XMLNode* node, InFile& in) const;
     const SchemaShape* ShapeAround(XMLNode* node) const;
 
     const Schema& m_Schema;
     std::vector<const LintFile*> m_Files;
+    LintSkin m_Skin;
     LintTemplates m_Templates;
     std::multimap<std::string, std::string> m_Skinned; // the names that skins put in place of one, in small letters
     std::unordered_map<const XMLNode*, std::vector<const SchemaShape*>> m_Shapes; // as which the inside was read
@@ -83,6 +87,7 @@ private:
     std::unordered_map<const XMLNode*, LintValue> m_Values;
     std::unordered_map<const XMLAttribute*, const SchemaValue*> m_Attributes;
     std::set<std::pair<std::string, const SchemaShape*>> m_Uses;
+    std::vector<std::pair<std::string, const SchemaShape*>> m_Unread; // those whose templates are to be read yet
     std::vector<InFile> m_InFiles;
 };
 

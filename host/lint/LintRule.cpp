@@ -20,6 +20,7 @@ constexpr LintRule Rules[] = {
     {"unknown-attribute",   "an attribute that nobody reads",                        LintWhen::Always,  LintChecks::UnknownAttribute},
     {"attribute-for-child", "a setting written as an attribute instead of a child",  LintWhen::Always,  LintChecks::AttributeForChild},
     {"child-for-attribute", "a setting written as a child instead of an attribute",  LintWhen::Always,  LintChecks::ChildForAttribute},
+    {"stray-text",          "a text that stands where nobody reads one",             LintWhen::Always,  LintChecks::StrayText},
     {"no-name",             "an element, template or skin without a name",           LintWhen::Always,  LintChecks::NoName},
     {"same-name",           "two of the same name beside each other",                LintWhen::Always,  LintChecks::SameName},
     {"template-list",       "a list of templates without the last comma",            LintWhen::Always,  LintChecks::TemplateList},

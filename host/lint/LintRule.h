@@ -50,6 +50,7 @@ void UnknownTag(LintContext& context);
 void UnknownAttribute(LintContext& context);
 void AttributeForChild(LintContext& context);
 void ChildForAttribute(LintContext& context);
+void StrayText(LintContext& context);
 void NoName(LintContext& context);
 void SameName(LintContext& context);
 

@@ -7,8 +7,8 @@ namespace host {
 
 namespace {
 
-// More bases than anyone writes; a cycle ends here.
-constexpr int DeepestChain = 32;
+// More bases than anyone writes.
+constexpr std::size_t MostInChain = 256;
 
 } // namespace
 
@@ -16,13 +16,23 @@ std::vector<std::string_view> TemplateNamesIn(std::string_view text)
 {
     std::vector<std::string_view> names;
     std::size_t comma = text.find(',');
-    if (comma == text.npos && !text.empty())
+    if (comma == text.npos)
         names.push_back(text);
     for (; comma != text.npos; comma = text.find(',')) {
         names.push_back(text.substr(0, comma));
         text.remove_prefix(comma + 1);
     }
+    std::erase_if(names, [](std::string_view name) { return name.empty(); });
     return names;
+}
+
+std::string SkinnedNameOf(XMLNode* line)
+{
+    const std::string skinned = XMLHelper::GetStringAttribute(line, "Skin", "");
+    const std::string prefix = XMLHelper::GetStringAttribute(line, "SkinPrefix", "");
+    if (!skinned.empty() || prefix.empty())
+        return skinned;
+    return prefix + XMLHelper::GetStringAttribute(line, "Base", "");
 }
 
 void LintTemplates::Add(std::size_t file, XMLNode* markup)
@@ -34,6 +44,11 @@ void LintTemplates::Add(std::size_t file, XMLNode* markup)
     }
 }
 
+void LintTemplates::Redirect(std::string_view base, std::string_view skinned)
+{
+    m_Skinned[FoldedName(base)] = skinned;
+}
+
 const std::vector<LintTemplate>& LintTemplates::Named(std::string_view name) const
 {
     static const std::vector<LintTemplate> none;
@@ -43,12 +58,15 @@ const std::vector<LintTemplate>& LintTemplates::Named(std::string_view name) con
 
 XMLNode* LintTemplates::Find(std::string_view name, std::size_t file) const
 {
-    const std::vector<LintTemplate>& named = Named(name);
-    for (auto each = named.rbegin(); each != named.rend(); ++each) {
-        if (each->File == file)
-            return each->Node;
+    const auto skinned = m_Skinned.find(FoldedName(name));
+    const std::vector<LintTemplate>& named = Named(skinned == m_Skinned.end() ? name : skinned->second);
+    const LintTemplate* found = named.empty() ? nullptr : &named.front();
+    for (const LintTemplate& each : named) {
+        const bool isNearer = each.File == file || (each.File < m_SkinFiles && found->File != file);
+        if (isNearer) // what is read later takes the place of what was there
+            found = &each;
     }
-    return named.empty() ? nullptr : named.front().Node;
+    return found ? found->Node : nullptr;
 }
 
 XMLNode* LintTemplates::FindValue(XMLNode* node, const char* tag, std::string_view fallback, std::size_t file) const
@@ -60,20 +78,31 @@ XMLNode* LintTemplates::FindValue(XMLNode* node, const char* tag, std::string_vi
 XMLNode* LintTemplates::FindInherited(XMLNode* node, const char* tag, std::string_view fallback, std::size_t file) const
 {
     XMLNode* templateNode = Find(XMLHelper::GetStringAttribute(node, "Template", ""), file);
-    return FindInChain(templateNode ? templateNode : Find(fallback, file), tag, file, 0);
+    Seen seen;
+    return FindInChain(templateNode ? templateNode : Find(fallback, file), file, seen,
+        [tag](XMLNode* each) { return XMLHelper::GetChild(each, tag); });
 }
 
-XMLNode* LintTemplates::FindInChain(XMLNode* templateNode, const char* tag, std::size_t file, int depth) const
+bool LintTemplates::HasAttribute(XMLNode* templateNode, const char* name, std::size_t file) const
 {
-    if (!templateNode || depth == DeepestChain)
+    Seen seen;
+    return FindInChain(templateNode, file, seen, [name](XMLNode* each) {
+        return *XMLHelper::GetStringAttribute(each, name, "") != 0 ? each : nullptr;
+    }) != nullptr;
+}
+
+template <class Answer>
+XMLNode* LintTemplates::FindInChain(XMLNode* templateNode, std::size_t file, Seen& seen, const Answer& answer) const
+{
+    if (!templateNode || seen.size() == MostInChain || !seen.insert(templateNode).second)
         return nullptr;
-    if (XMLNode* value = XMLHelper::GetChild(templateNode, tag))
-        return value;
+    if (XMLNode* found = answer(templateNode))
+        return found;
 
     // The first of a list wins.
     for (const std::string_view base : TemplateNamesIn(XMLHelper::GetStringAttribute(templateNode, "Template", ""))) {
-        if (XMLNode* value = FindInChain(Find(base, file), tag, file, depth + 1))
-            return value;
+        if (XMLNode* found = FindInChain(Find(base, file), file, seen, answer))
+            return found;
     }
     return nullptr;
 }

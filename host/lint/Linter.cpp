@@ -67,11 +67,12 @@ auto OrderOf(const Finding& finding)
 Linter::Linter(const std::string& skin)
 {
     const fs::path skins = SearchPaths().InterfacesFolder() / "skins";
-    const std::string name = skin.empty() ? DefaultSkin : skin;
-    m_SkinFolder = name.find('/') == name.npos ? skins / name : fs::path(name);
-    AddUnasked(m_SkinFolder / "skin.xml");
+    m_Skin.Name = skin.empty() ? DefaultSkin : skin;
+    m_Skin.Folder = m_Skin.Name.find('/') == std::string::npos ? skins / m_Skin.Name : fs::path(m_Skin.Name);
+    AddUnasked(m_Skin.Folder / "skin.xml");
     AddUnasked(skins / "templates.xml");
-    AddUnasked(m_SkinFolder / "templates.xml");
+    AddUnasked(m_Skin.Folder / "templates.xml");
+    m_Skin.Files = m_Entries.size();
 }
 
 Linter::Entry* Linter::FindEntry(const fs::path& path)
@@ -140,7 +141,7 @@ std::vector<Finding> Linter::Look(const LintScope& scope)
     std::vector<const LintFile*> files;
     for (const Entry& entry : m_Entries)
         files.push_back(entry.File.get());
-    const LintModel model(m_Schema, files);
+    const LintModel model(m_Schema, files, m_Skin);
     std::vector<Finding> findings;
     for (std::size_t file = 0; file < files.size(); ++file) {
         if (m_Entries[file].IsAsked)
@@ -153,7 +154,7 @@ void Linter::LookAt(std::size_t file, const LintModel& model, const LintScope& s
 {
     SearchPaths paths;
     paths.AddInterfaceFile(model.Files()[file]->Path());
-    paths.SetSkinFolder(m_SkinFolder);
+    paths.SetSkinFolder(m_Skin.Folder);
     const std::size_t before = findings.size();
     LintContext context(model, file, paths, m_Lua, findings);
     CheckMarkup(context, m_Schema.RootTag);

@@ -2,6 +2,7 @@
 
 #include "host/lint/Finding.h"
 #include "host/lint/LintFile.h"
+#include "host/lint/LintTemplates.h"
 #include "host/script/LuaState.h"
 #include "teskara/script/Schema.h"
 
@@ -51,7 +52,7 @@ private:
 
     Schema m_Schema;
     LuaState m_Lua;
-    std::filesystem::path m_SkinFolder;
+    LintSkin m_Skin;
     std::vector<Entry> m_Entries; // those of the skin first
     std::vector<std::filesystem::path> m_Folders; // whose files have been read
 };

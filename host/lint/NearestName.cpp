@@ -49,13 +49,21 @@ bool HasLettersOf(std::string_view name, std::string_view word)
     return found == word.size();
 }
 
+// Whether two words have most of the shorter one's letters at their beginning, as Childs and Children.
+bool BeginsLike(std::string_view name, std::string_view word)
+{
+    const auto end = std::mismatch(name.begin(), name.end(), word.begin(), word.end(), IsSameLetter).second;
+    return static_cast<std::size_t>(end - word.begin()) * 3 >= word.size() * 2;
+}
+
 std::string ShortestAround(std::string_view word, const std::vector<std::string>& names)
 {
     constexpr std::size_t shortestWord = 4; // fewer letters are in many names
     std::string_view shortest;
     for (const std::string& name : names) {
         const bool isShorter = shortest.empty() || name.size() < shortest.size();
-        if (isShorter && name.size() < 2 * word.size() && HasLettersOf(name, word))
+        const bool isLong = name.size() > 2 * word.size();
+        if (isShorter && !isLong && (HasLettersOf(name, word) || BeginsLike(name, word)))
             shortest = name;
     }
     return std::string(word.size() < shortestWord ? std::string_view() : shortest);

@@ -80,6 +80,34 @@ std::size_t PositionLength(std::string_view text)
     return letter + length + (number.substr(length).starts_with('%') ? 1 : 0);
 }
 
+std::size_t HexDigitsIn(std::string_view text)
+{
+    text.remove_prefix(SignLength(text));
+    if (text.starts_with("0x") || text.starts_with("0X"))
+        text.remove_prefix(2);
+    return CountLeading(text, HexDigits);
+}
+
+bool IsIn32Bits(std::string_view text)
+{
+    const bool isNegative = text.starts_with('-');
+    text.remove_prefix(SignLength(text));
+    u32 number = 0;
+    const std::errc error = std::from_chars(text.data(), text.data() + text.size(), number).ec;
+    constexpr u32 least = 0x80000000; // without its sign
+    return error == std::errc() && (!isNegative || number <= least);
+}
+
+std::string ShareText(std::string_view percent)
+{
+    constexpr int digits = 6;
+    double number = 0;
+    std::from_chars(percent.data(), percent.data() + percent.size(), number);
+    char text[32];
+    const char* end = std::to_chars(text, text + sizeof text, number / 100, std::chars_format::general, digits).ptr;
+    return std::string(text, static_cast<std::size_t>(end - text));
+}
+
 i32 Integer(std::string_view text)
 {
     text = Trim(text);

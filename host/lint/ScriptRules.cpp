@@ -8,6 +8,7 @@
 #include "host/script/SequenceParser.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace host {
 
@@ -16,6 +17,7 @@ namespace {
 constexpr const char* ChunkName = "=script";
 constexpr std::string_view ChunkPrefix = "script:";
 constexpr std::string_view Opening = "${";
+constexpr std::string_view DataTag = "Data"; // of controls that follow a value
 constexpr std::string_view This = "this";
 constexpr std::string_view ElementObject = "UIElement";
 constexpr std::string_view TextObject = "UserInput"; // a text, not an object with members
@@ -87,13 +89,17 @@ public:
     {
         Types types = TypesOf(use.Object);
         for (const ObjectUse::Step& step : use.Steps) {
-            const SchemaName* name = Find(types, step.Name);
-            if (!name) {
-                Report(types, step, offset);
-                return;
-            }
-            if (!Follow(*name, types))
-                return;
+            const bool isLast = &step == &use.Steps.back();
+            const Found found = Find(types, step.Name);
+            if (!found.Member && !found.Method)
+                ReportUnknown(types, step, offset);
+            else if (step.IsMethod && !found.Method)
+                Report(step, offset, Quoted(step.Name) + " is a member, not a method", "." + std::string(step.Name));
+            else if (isLast && use.IsAssigned)
+                ReportAssigned(types, step, offset);
+            else if (!step.IsMethod && found.Member && Follow(*found.Member, types))
+                continue;
+            return;
         }
     }
 
@@ -122,29 +128,30 @@ private:
         return found == names.end() ? nullptr : &*found;
     }
 
-    const SchemaName* FindIn(const SchemaType* type, std::string_view name) const
+    // What a name is to a type, or to one of several.
+    struct Found {
+        const SchemaName* Member = nullptr;
+        const SchemaName* Method = nullptr;
+    };
+
+    void FindIn(const SchemaType* type, std::string_view name, Found& found) const
     {
         for (; type; type = Known().FindType(type->Base)) {
-            if (const SchemaName* member = FindIn(type->Members, name))
-                return member;
-            if (const SchemaName* method = FindIn(type->Methods, name))
-                return method;
+            found.Member = found.Member ? found.Member : FindIn(type->Members, name);
+            found.Method = found.Method ? found.Method : FindIn(type->Methods, name);
         }
-        return nullptr;
     }
 
-    const SchemaName* Find(const Types& types, std::string_view name) const
+    Found Find(const Types& types, std::string_view name) const
     {
-        for (const SchemaType* type : types) {
-            if (const SchemaName* found = FindIn(type, name))
-                return found;
-        }
+        Found found;
+        for (const SchemaType* type : types)
+            FindIn(type, name, found);
         for (const SchemaType& type : Known().Types) {
-            const SchemaName* found = types.empty() ? FindIn(&type, name) : nullptr;
-            if (found)
-                return found;
+            if (types.empty())
+                FindIn(&type, name, found);
         }
-        return nullptr;
+        return found;
     }
 
     // To what a member gives. False: nothing is known of that.
@@ -157,12 +164,23 @@ private:
         return result || name.Result == AnyElement;
     }
 
-    void Report(const Types& types, const ObjectUse::Step& step, std::size_t offset)
+    void Report(const ObjectUse::Step& step, std::size_t offset, std::string message, std::string meant)
     {
-        const std::string subject = types.empty() ? "no type has" : "a " + types.front()->Name + " has no";
-        m_Context.Report(m_Context.PlaceIn(m_Value, offset + step.Offset),
-            subject + (types.empty() ? " a" : "") + " member or method " + Quoted(step.Name),
-            NearestName(step.Name, NamesOf(types)));
+        m_Context.Report(m_Context.PlaceIn(m_Value, offset + step.Offset), std::move(message), std::move(meant));
+    }
+
+    void ReportUnknown(const Types& types, const ObjectUse::Step& step, std::size_t offset)
+    {
+        const std::string subject = types.empty() ? "no type has a" : "a " + types.front()->Name + " has no";
+        Report(
+            step, offset, subject + " member or method " + Quoted(step.Name), NearestName(step.Name, NamesOf(types)));
+    }
+
+    void ReportAssigned(const Types& types, const ObjectUse::Step& step, std::size_t offset)
+    {
+        const std::string setter = "Set" + std::string(step.Name);
+        Report(step, offset, "a script cannot assign to " + Quoted(step.Name),
+            Find(types, setter).Method ? ":" + setter + "(...)" : "");
     }
 
     std::vector<std::string> NamesOf(const Types& types) const
@@ -200,13 +218,14 @@ std::vector<std::string_view> ObjectsOf(const LintContext& context)
     return objects;
 }
 
-// The parts of a text that are to be evaluated, with where they begin, as check(offset, part).
+// The parts of a text that are to be evaluated, with where they begin, as check(offset, part). One that has no end is
+// empty, and the last: where others would begin nobody knows.
 template <class Check> void ForEachPart(std::string_view text, Check check)
 {
-    for (std::size_t at = text.find(Opening); at != text.npos; at = text.find(Opening, at)) {
-        const std::size_t end = SequenceParser::FindEnd(text, at);
+    std::size_t end = 0;
+    for (std::size_t at = text.find(Opening); at != text.npos && end != text.npos; at = text.find(Opening, end)) {
+        end = SequenceParser::FindEnd(text, at);
         check(at, end == text.npos ? std::string_view() : text.substr(at, end - at));
-        at = end == text.npos ? at + Opening.size() : end;
     }
 }
 
@@ -240,11 +259,36 @@ void CheckPart(LintContext& context, const LintValue& value, std::size_t offset,
     }
 }
 
+bool IsNumber(std::string_view text)
+{
+    text = NumberText::Trim(text);
+    return NumberText::FloatLength(text) == text.size();
+}
+
+// A control that follows its value has nothing to follow in a text without a part that is evaluated.
+void CheckData(LintContext& context, const LintValue& value, std::string_view text)
+{
+    const bool isFixed = text.find(Opening) == text.npos && !text.empty() && !IsNumber(text);
+    if (value.Value->Name == DataTag && isFixed)
+        context.Report(value, Quoted(text) + " is a text that never changes", "${" + std::string(text) + "}");
+}
+
+// The name of a variable stands alone.
+void CheckVariable(LintContext& context, const LintValue& value, std::string_view text)
+{
+    const bool isWrapped = text.starts_with(Opening) && text.ends_with('}');
+    if (text.find(Opening) != text.npos)
+        context.Report(value, Quoted(text) + " is no name of a variable",
+            isWrapped ? std::string(text.substr(Opening.size(), text.size() - Opening.size() - 1)) : "");
+}
+
 } // namespace
 
 void LintChecks::ScriptError(LintContext& context)
 {
     ForEachText(context, "script", [&](const LintValue& value, std::string_view text) {
+        if (text.starts_with(LintContext::LiteralMark)) // of which another rule tells
+            return;
         const CompileFault fault = Compile(context.Lua(), LocalsOf(value.Value->Arguments), text);
         if (!fault.Message.empty())
             context.Report(context.PlaceIn(value, OffsetOfLine(text, fault.Line)),
@@ -256,7 +300,10 @@ void LintChecks::SequenceText(LintContext& context)
 {
     ForEachText(context, "sequence", [&](const LintValue& value, std::string_view text) {
         ForEachPart(text, [&](std::size_t offset, std::string_view part) { CheckPart(context, value, offset, part); });
+        CheckData(context, value, text);
     });
+    ForEachText(context, "variable",
+        [&](const LintValue& value, std::string_view text) { CheckVariable(context, value, text); });
 }
 
 void LintChecks::UnknownMember(LintContext& context)

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <string>
+#include <unordered_map>
 #include <utility>
 
 namespace host {
@@ -25,6 +26,7 @@ public:
 
     std::vector<ObjectUse> Read()
     {
+        PairBrackets();
         while (m_At < m_Text.size())
             ReadToken();
         return std::move(m_Uses);
@@ -76,6 +78,8 @@ private:
             use.Steps.push_back({name, offset, isMethod});
             SkipArguments();
         }
+        const std::string_view rest = m_Text.substr(std::min(m_At, m_Text.size()));
+        use.IsAssigned = !use.Steps.empty() && rest.starts_with('=') && !rest.starts_with("==");
         m_At = behindObject;
         m_Uses.push_back(std::move(use));
     }
@@ -84,23 +88,28 @@ private:
     {
         SkipBlanks();
         while (m_At < m_Text.size() && (m_Text[m_At] == '(' || m_Text[m_At] == '[')) {
-            SkipBracketed();
+            const auto end = m_Ends.find(m_At);
+            m_At = end == m_Ends.end() ? m_Text.size() : end->second;
             SkipBlanks();
         }
     }
 
-    void SkipBracketed()
+    // Finds out once where each bracket ends: there may be brackets in brackets, with a use in each.
+    void PairBrackets()
     {
-        int depth = 0;
+        std::vector<std::size_t> open;
         while (m_At < m_Text.size()) {
             if (SkipUncounted())
                 continue;
             const char character = m_Text[m_At++];
-            depth += character == '(' || character == '[' || character == '{';
-            depth -= character == ')' || character == ']' || character == '}';
-            if (depth <= 0)
-                return;
+            if (character == '(' || character == '[' || character == '{') {
+                open.push_back(m_At - 1);
+            } else if ((character == ')' || character == ']' || character == '}') && !open.empty()) {
+                m_Ends[open.back()] = m_At;
+                open.pop_back();
+            }
         }
+        m_At = 0;
     }
 
     // A comment or a text.
@@ -126,8 +135,8 @@ private:
     bool SkipLong()
     {
         const std::string_view rest = m_Text.substr(m_At);
-        const std::size_t level = rest.empty() ? rest.npos : rest.find_first_not_of('=', 1);
-        if (level == rest.npos || rest.front() != '[' || rest[level] != '[')
+        const std::size_t level = rest.starts_with('[') ? rest.find_first_not_of('=', 1) : rest.npos;
+        if (level == rest.npos || rest[level] != '[')
             return false;
         const std::string end = "]" + std::string(level - 1, '=') + "]";
         m_At = std::min(m_Text.find(end, m_At + level), m_Text.size() - end.size()) + end.size();
@@ -148,6 +157,7 @@ private:
     const std::vector<std::string_view>& m_Objects;
     std::size_t m_At = 0;
     bool m_IsMember = false;
+    std::unordered_map<std::size_t, std::size_t> m_Ends; // behind the bracket that ends what one begins
     std::vector<ObjectUse> m_Uses;
 };
 

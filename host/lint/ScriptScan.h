@@ -17,6 +17,7 @@ struct ObjectUse {
 
     std::string_view Object;
     std::vector<Step> Steps;
+    bool IsAssigned = false; // a value is given to what the last step names
 };
 
 // The uses of objects of some names in a script; what stands in texts and comments is none.

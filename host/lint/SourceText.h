@@ -23,8 +23,11 @@ public:
     std::size_t OffsetOfUnits(u64 units) const;
 
 private:
+    std::size_t CharactersBefore(std::size_t offset) const;
+
     std::string m_Text;
     std::vector<std::size_t> m_Lines; // where each begins
+    std::vector<std::size_t> m_Characters; // how many stand before each block of the text
 };
 
 } // namespace host

@@ -4,6 +4,7 @@
 #include "host/lint/LintName.h"
 #include "host/lint/LintRule.h"
 #include "host/lint/NearestName.h"
+#include "host/lint/NumberText.h"
 #include "teskara/markup/XMLAttribute.h"
 #include "teskara/markup/XMLHelper.h"
 
@@ -13,9 +14,11 @@ namespace host {
 
 namespace {
 
+constexpr const char* NameAttribute = "name";
+
 const char* NameOf(XMLNode* node)
 {
-    return XMLHelper::GetStringAttribute(node, "name", "");
+    return XMLHelper::GetStringAttribute(node, NameAttribute, "");
 }
 
 // As messages name what a tag stands in.
@@ -38,12 +41,20 @@ std::vector<std::string> KindNames(const Schema& schema)
 
 enum class Part { Tags, Attributes };
 
-// What may stand where a node stands that nobody reads, in all the kinds that it could be of.
-std::vector<std::string> NamesAround(const LintContext& context, const LintValue& value, Part part)
+// What may stand in a node, in all the kinds that it could be of.
+std::vector<std::string> NamesIn(const LintContext& context, const XMLNode* node, Part part)
 {
     std::vector<std::string> names;
-    const XMLNode* around = part == Part::Tags ? value.Node->Parent : value.Node;
-    std::vector<const SchemaShape*> shapes = context.Model().ShapesOf(around);
+    for (const SchemaShape* shape : context.Model().ShapesOf(node->Parent)) {
+        for (const SchemaValue* each : context.Known().ValuesOf(*shape)) {
+            if (part == Part::Attributes && IsSameName(each->Owner, node->Name))
+                names.push_back(each->Name);
+        }
+    }
+    if (!names.empty())
+        return names;
+
+    std::vector<const SchemaShape*> shapes = context.Model().ShapesOf(node);
     if (shapes.empty()) {
         for (const SchemaShape& shape : context.Known().Shapes)
             shapes.push_back(&shape);
@@ -55,6 +66,18 @@ std::vector<std::string> NamesAround(const LintContext& context, const LintValue
         }
     }
     return names;
+}
+
+// An attribute of that name that one of the values in a node has, as Resizable has MinWidth.
+const SchemaValue* FindOwned(const LintContext& context, const XMLNode* around, std::string_view name)
+{
+    for (const SchemaShape* shape : context.Model().ShapesOf(around)) {
+        for (const SchemaValue* value : context.Known().ValuesOf(*shape)) {
+            if (value->IsAttribute() && !value->Owner.empty() && IsSameName(value->Name, name))
+                return value;
+        }
+    }
+    return nullptr;
 }
 
 const SchemaValue* FindAmong(const LintContext& context, const XMLNode* around, std::string_view name, Part part)
@@ -78,15 +101,70 @@ bool HoldsText(const LintValue& value)
     return value.Node->FirstChild && value.Node->FirstChild->Type == XMLTextNode && !value.Node->FirstChild->Next;
 }
 
-std::string AsChild(const XMLAttribute& attribute)
+std::string AsChild(const std::string& name, std::string_view text)
 {
-    const std::string name = attribute.Name;
-    return "<" + name + ">" + attribute.Value + "</" + name + ">";
+    return "<" + name + ">" + std::string(text) + "</" + name + ">";
+}
+
+std::string AsAttribute(const std::string& name, std::string_view text)
+{
+    return name + "=\"" + std::string(text) + "\"";
+}
+
+std::string AsOwned(const SchemaValue& value, std::string_view text)
+{
+    return "<" + value.Owner + " " + AsAttribute(value.Name, text) + ">";
+}
+
+// What was probably meant by an attribute that nobody reads: another one, or a child element.
+std::string MeantBy(const LintContext& context, const LintValue& value)
+{
+    const XMLAttribute& attribute = *value.Attribute;
+    if (const SchemaValue* owned = FindOwned(context, value.Node, attribute.Name))
+        return AsOwned(*owned, attribute.Value);
+    const std::string nearest = NearestName(attribute.Name, NamesIn(context, value.Node, Part::Attributes));
+    const std::string child =
+        nearest.empty() ? NearestName(attribute.Name, NamesIn(context, value.Node, Part::Tags)) : "";
+    return child.empty() ? nearest : AsChild(child, attribute.Value);
+}
+
+// The attribute that was to be the name of an element without one; null if there is none.
+const XMLAttribute* MisspeltName(const XMLNode* node)
+{
+    for (const XMLAttribute* attribute = node->Attributes; attribute; attribute = attribute->Next) {
+        if (*attribute->Value && !NearestName(attribute->Name, {NameAttribute}).empty())
+            return attribute;
+    }
+    return nullptr;
+}
+
+bool IsMisspeltName(const LintValue& value)
+{
+    return *NameOf(value.Node) == 0 && MisspeltName(value.Node) == value.Attribute;
+}
+
+std::string MeantName(const XMLNode* node)
+{
+    const XMLAttribute* attribute = MisspeltName(node);
+    return AsAttribute(NameAttribute, attribute ? attribute->Value : "...");
 }
 
 bool IsTag(const XMLNode* node, const char* tag)
 {
     return node->Type == XMLElementNode && IsSameName(node->Name, tag);
+}
+
+// Reports texts that stand beside the tags of what has only tags in it. shape: what it is; null if it is no kind.
+void CheckTexts(LintContext& context, const XMLNode* node, const SchemaShape* shape)
+{
+    const SchemaValue* text = shape ? context.Known().FindChild(*shape, "Text") : nullptr;
+    for (const XMLNode* child = node ? node->FirstChild : nullptr; child; child = child->Next) {
+        const std::string_view words = child->Type == XMLTextNode ? NumberText::Trim(child->Name) : "";
+        if (!words.empty())
+            context.Report(context.PlaceInText(child, static_cast<std::size_t>(words.data() - child->Name)),
+                "nobody reads the text " + Quoted(words) + " in " + Quoted(node->Name),
+                text ? AsChild(text->Name, Quoted(words).substr(1, Quoted(words).size() - 2)) : "");
+    }
 }
 
 // Reports what bears a name that another bore before it.
@@ -133,21 +211,27 @@ void LintChecks::MisplacedKind(LintContext& context)
 void LintChecks::UnknownTag(LintContext& context)
 {
     for (const LintValue& value : context.Values()) {
-        if (!IsUnread(value, Part::Tags) || FindAmong(context, value.Node->Parent, value.Node->Name, Part::Attributes))
+        if (!IsUnread(value, Part::Tags) || FindAmong(context, value.Node->Parent, value.Node->Name, Part::Attributes)
+            || FindOwned(context, value.Node->Parent, value.Node->Name))
             continue;
-        context.Report(value, "nobody reads " + Quoted(value.Node->Name) + " in " + Described(*value.Shape),
-            NearestName(value.Node->Name, NamesAround(context, value, Part::Tags)));
+        if (const SchemaValue* known = FindAmong(context, value.Node->Parent, value.Node->Name, Part::Tags))
+            context.Report(value, Quoted(value.Node->Name) + " is read in a template only",
+                "a template with " + AsChild(known->Name, "..."));
+        else
+            context.Report(value, "nobody reads " + Quoted(value.Node->Name) + " in " + Described(*value.Shape),
+                NearestName(value.Node->Name, NamesIn(context, value.Node->Parent, Part::Tags)));
     }
 }
 
 void LintChecks::UnknownAttribute(LintContext& context)
 {
     for (const LintValue& value : context.Values()) {
-        if (!IsUnread(value, Part::Attributes) || FindAmong(context, value.Node, value.Attribute->Name, Part::Tags))
+        if (!IsUnread(value, Part::Attributes) || FindAmong(context, value.Node, value.Attribute->Name, Part::Tags)
+            || IsMisspeltName(value))
             continue;
         context.Report(value,
             "nobody reads the attribute " + Quoted(value.Attribute->Name) + " of " + Quoted(value.Node->Name),
-            NearestName(value.Attribute->Name, NamesAround(context, value, Part::Attributes)));
+            MeantBy(context, value));
     }
 }
 
@@ -157,7 +241,7 @@ void LintChecks::AttributeForChild(LintContext& context)
         if (IsUnread(value, Part::Attributes) && FindAmong(context, value.Node, value.Attribute->Name, Part::Tags))
             context.Report(value,
                 Quoted(value.Attribute->Name) + " is a child element, and is not read as an attribute",
-                AsChild(*value.Attribute));
+                AsChild(value.Attribute->Name, value.Attribute->Value));
     }
 }
 
@@ -166,10 +250,13 @@ void LintChecks::ChildForAttribute(LintContext& context)
     for (const LintValue& value : context.Values()) {
         if (!IsUnread(value, Part::Tags))
             continue;
-        const SchemaValue* meant = FindAmong(context, value.Node->Parent, value.Node->Name, Part::Attributes);
-        if (meant)
+        const std::string_view text = HoldsText(value) ? LintContext::TextOf(value) : "...";
+        if (const SchemaValue* meant = FindAmong(context, value.Node->Parent, value.Node->Name, Part::Attributes))
             context.Report(value, Quoted(value.Node->Name) + " is an attribute, and is not read as a child element",
-                HoldsText(value) ? meant->Name + "=\"" + std::string(LintContext::TextOf(value)) + "\"" : "");
+                AsAttribute(meant->Name, text));
+        else if (const SchemaValue* owned = FindOwned(context, value.Node->Parent, value.Node->Name))
+            context.Report(
+                value, Quoted(value.Node->Name) + " is an attribute of another element", AsOwned(*owned, text));
     }
 }
 
@@ -177,12 +264,32 @@ void LintChecks::NoName(LintContext& context)
 {
     for (const LintElement& element : context.Elements()) {
         if (*NameOf(element.Node) == 0)
-            context.Report(element.Node, "an element without a name is left out", "name=\"...\"");
+            context.Report(element.Node, "an element without a name is left out", MeantName(element.Node));
     }
     XMLNode* markup = context.Markup();
     for (XMLNode* node = markup ? markup->FirstChild : nullptr; node; node = node->Next) {
         if ((IsTag(node, "Template") || IsTag(node, "Skin")) && *NameOf(node) == 0)
-            context.Report(node, "a " + std::string(node->Name) + " without a name is left out", "name=\"...\"");
+            context.Report(node, "a " + std::string(node->Name) + " without a name is left out", MeantName(node));
+    }
+}
+
+void LintChecks::StrayText(LintContext& context)
+{
+    for (const LintElement& element : context.Elements()) {
+        if (element.Shape)
+            CheckTexts(context, element.Node, element.Shape);
+    }
+    for (const LintValue& value : context.Values()) {
+        const SchemaShape* inside =
+            value.Attribute || !value.Value ? nullptr : context.Known().FindShape(value.Value->Form);
+        if (inside && inside->Holds != "string" && value.Value->Place != SchemaPlace::NamedChild)
+            CheckTexts(context, value.Node, inside);
+    }
+    XMLNode* markup = context.Markup();
+    CheckTexts(context, markup, nullptr);
+    for (XMLNode* node = markup ? markup->FirstChild : nullptr; node; node = node->Next) {
+        if (IsTag(node, "Template") || IsTag(node, "Skin"))
+            CheckTexts(context, node, nullptr);
     }
 }
 

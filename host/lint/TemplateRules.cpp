@@ -4,11 +4,13 @@
 #include "host/lint/LintName.h"
 #include "host/lint/LintRule.h"
 #include "host/lint/NearestName.h"
+#include "host/lint/TemplateCycles.h"
 #include "teskara/markup/XMLAttribute.h"
 #include "teskara/markup/XMLHelper.h"
 
 #include <algorithm>
 #include <set>
+#include <unordered_map>
 
 namespace host {
 
@@ -41,22 +43,23 @@ const XMLNode* TopOf(const XMLNode* node, const XMLNode* markup)
     return node;
 }
 
-bool StandsBefore(const XMLNode* node, const XMLNode* other)
+// What stands at the top of a file, by its order.
+using Order = std::unordered_map<const XMLNode*, std::size_t>;
+
+Order OrderAtTop(const XMLNode* markup)
 {
-    for (node = node->Next; node; node = node->Next) {
-        if (node == other)
-            return true;
-    }
-    return false;
+    Order order;
+    for (const XMLNode* node = markup ? markup->FirstChild : nullptr; node; node = node->Next)
+        order.emplace(node, order.size());
+    return order;
 }
 
-// Whether every template of that name stands in the file, and behind the node's top.
-bool StandsOnlyBehind(const LintContext& context, std::string_view name, const XMLNode* node)
+// Whether every template of that name stands in the file, and behind what stands at its top.
+bool StandsOnlyBehind(const LintContext& context, std::string_view name, const XMLNode* top, const Order& order)
 {
     const std::vector<LintTemplate>& named = context.Templates().Named(name);
-    const XMLNode* top = TopOf(node, context.Markup());
-    return !named.empty() && top && std::all_of(named.begin(), named.end(), [&](const LintTemplate& each) {
-        return each.File == context.File() && StandsBefore(top, each.Node);
+    return !named.empty() && std::all_of(named.begin(), named.end(), [&](const LintTemplate& each) {
+        return each.File == context.File() && order.at(each.Node) > order.at(top);
     });
 }
 
@@ -81,14 +84,9 @@ bool IsInSkinLine(const LintValue& value)
     return IsTag(value.Node, "SkinTemplate");
 }
 
-// Whether a template builds upon itself, over whatever others.
-bool ComesBack(const LintContext& context, XMLNode* from, XMLNode* to, std::set<XMLNode*>& seen)
+TemplateCycles CyclesOf(const LintContext& context)
 {
-    const std::vector<std::string_view> bases = TemplateNamesIn(AttributeOf(from, "Template"));
-    return std::any_of(bases.begin(), bases.end(), [&](std::string_view name) {
-        XMLNode* base = context.Templates().Find(name, context.File());
-        return base && (base == to || (seen.insert(base).second && ComesBack(context, base, to, seen)));
-    });
+    return TemplateCycles(context.Templates(), context.File(), context.Markup());
 }
 
 std::string NamesWith(std::string_view list)
@@ -124,25 +122,34 @@ void LintChecks::TemplateList(LintContext& context)
     }
 }
 
-// What a template holds is looked up when an element is made of it.
+// What a template holds is looked up when an element is made of it, and what a skin names when it is in force.
 void LintChecks::TemplateOrder(LintContext& context)
 {
+    const Order order = OrderAtTop(context.Markup());
+    const TemplateCycles cycles = CyclesOf(context);
     ForEachName(context, [&](const LintValue& value, std::string_view name) {
         const XMLNode* top = TopOf(value.Node, context.Markup());
-        const bool isInTemplate = top && IsTag(top, "Template") && top != value.Node;
-        if (!isInTemplate && StandsOnlyBehind(context, name, value.Node))
-            context.Report(value, "the template " + Quoted(name) + " does not stand yet here",
-                "the template further up in the file");
+        const bool isLate = !top || IsInSkinLine(value) || (IsTag(top, "Template") && top != value.Node);
+        if (isLate || cycles.Find(top) || !StandsOnlyBehind(context, name, top, order))
+            return;
+        context.Report(
+            value, "the template " + Quoted(name) + " does not stand yet here", "the template further up in the file");
     });
 }
 
 void LintChecks::TemplateCycle(LintContext& context)
 {
+    const TemplateCycles cycles = CyclesOf(context);
+    std::set<const TemplateCycles::Cycle*> told;
     ForEachAtTop(context, "Template", [&](XMLNode* node) {
-        std::set<XMLNode*> seen;
-        if (ComesBack(context, node, node, seen))
-            context.Report(
-                node, "the template " + Quoted(AttributeOf(node, "name")) + " builds upon itself", "another base");
+        const TemplateCycles::Cycle* cycle = cycles.Find(node);
+        if (!cycle || !told.insert(cycle).second)
+            return;
+        const std::string others = cycle->size() == 1
+            ? ""
+            : ", over " + std::to_string(cycle->size() - 1) + (cycle->size() == 2 ? " other" : " others");
+        context.Report(
+            node, "the template " + Quoted(AttributeOf(node, "name")) + " builds upon itself" + others, "another base");
     });
 }
 
@@ -158,20 +165,21 @@ void LintChecks::UnknownTemplate(LintContext& context)
 
 void LintChecks::SkinTemplate(LintContext& context)
 {
-    ForEachAtTop(context, "Skin", [&](XMLNode* skin) {
-        for (XMLNode* line = skin->FirstChild; line; line = line->Next) {
-            const std::string base = IsTag(line, "SkinTemplate") ? AttributeOf(line, "Base") : "";
-            std::string name = AttributeOf(line, "Skin");
-            const std::string prefix = AttributeOf(line, "SkinPrefix");
-            if (name.empty() && !prefix.empty())
-                name = prefix + base;
-            if (base.empty() || name.empty() || !context.Templates().Named(name).empty())
-                continue;
+    for (const LintValue& value : context.Values()) {
+        XMLNode* line = value.Node;
+        if (value.Attribute || !value.Value || !IsTag(line, "SkinTemplate"))
+            continue;
+        const std::string base = AttributeOf(line, "Base");
+        const std::string name = SkinnedNameOf(line);
+        if (base.empty() || name.empty())
+            context.Report(line,
+                "a line of a skin without a " + std::string(base.empty() ? "Base" : "Skin") + " is left out",
+                base.empty() ? "Base=\"...\"" : "Skin=\"...\"");
+        else if (context.Templates().Named(name).empty())
             context.Report(line,
                 "there is no template " + Quoted(name) + ": in this skin " + Quoted(base) + " finds nothing at all",
                 NearestName(name, context.Templates().Names()));
-        }
-    });
+    }
 }
 
 void LintChecks::HiddenChildren(LintContext& context)

@@ -119,6 +119,93 @@ TEST(Lint, LooksAtNothingInTextsAndCommentsOfScripts)
         "");
 }
 
+// Interfaces as people write them: dialogs, lists, maps, scripts, templates of other files. What is found in one that is
+// right is a fault of the rule.
+TEST(Lint, FindsNothingInWhatIsRight)
+{
+    std::size_t files = 0;
+    for (const auto& entry : std::filesystem::directory_iterator(TESKARA_LINT)) {
+        host::Linter linter;
+        std::string why;
+        ASSERT_TRUE(linter.AddFile(entry.path().string(), why)) << entry.path() << why;
+        EXPECT_EQ(FindingsAsText(linter.Look({.Strict = true})), "");
+        ++files;
+    }
+    EXPECT_GE(files, 20u);
+}
+
+TEST(Lint, LeavesForeignScriptsAlone)
+{
+    host::Linter linter;
+    linter.AddText(
+        "test.xml", "<Tesk><button name=\"A\"><Text>${a</Text><OnLeftClick>say hello</OnLeftClick></button></Tesk>");
+    EXPECT_EQ(linter.Look({.Scripts = true}).size(), 2u);
+    EXPECT_EQ(FindingsAsText(linter.Look({.Scripts = false})), "");
+}
+
+TEST(Lint, FollowsTheSkinInForce)
+{
+    const std::string files = "<Template name=\"Low\"><ItemHeight>0</ItemHeight></Template>"
+                              "<Template name=\"High\"><ItemHeight>18</ItemHeight></Template>"
+                              "<tree name=\"T\" Template=\"Low\"/></Tesk>";
+    const std::string line = "<SkinTemplate Base=\"Low\" Skin=\"High\"/>";
+    EXPECT_EQ(Report("<Tesk><Skin name=\"slate\">" + line + "</Skin>" + files), "");
+    EXPECT_EQ(Report("<Tesk><Template name=\"Lines\">" + line + "</Template><Skin name=\"slate\" Template=\"Lines\"/>"
+                  + files),
+        "");
+    EXPECT_EQ(Lint("<Tesk><Skin name=\"another\">" + line + "</Skin>" + files).size(), 1u);
+}
+
+TEST(Lint, TellsOfLinesOfSkinsThatAreLeftOut)
+{
+    EXPECT_EQ(Report("<Tesk><Skin name=\"night\"><SkinTemplate Skin=\"button\"/></Skin></Tesk>"),
+        "test.xml:1:26: a line of a skin without a Base is left out; meant: Base=\"...\" (skin-template)\n");
+}
+
+TEST(Lint, ACommentBehindAValueDoesNoHarm)
+{
+    EXPECT_EQ(Report("<Tesk><frame name=\"A\"><Width>5 <!-- pixels --> </Width></frame></Tesk>"), "");
+}
+
+TEST(Lint, TellsOnceOfTemplatesThatBuildUponEachOther)
+{
+    EXPECT_EQ(Report("<Tesk><Template name=\"A\" Template=\"B\"/><Template name=\"B\" Template=\"A\"/></Tesk>"),
+        "test.xml:1:7: the template 'A' builds upon itself, over 1 other; meant: another base (template-cycle)\n");
+}
+
+TEST(Lint, FollowsChainsOfTemplatesAsLongAsAFile)
+{
+    constexpr int length = 20000;
+    std::string text = "<Tesk>";
+    for (int at = 0; at < length; ++at)
+        text += "<Template name=\"T" + std::to_string(at) + "\" Template=\"T" + std::to_string(at + 1) + "\"/>";
+    text += "<Template name=\"T" + std::to_string(length) + "\"/><text name=\"A\" Template=\"T0\"/></Tesk>";
+    EXPECT_EQ(Lint(text).size(), static_cast<std::size_t>(length)); // each is used before it stands
+}
+
+TEST(Lint, AsksTemplatesOfListsOnce)
+{
+    std::string text = "<Tesk><Template name=\"T64\"/>";
+    for (int at = 63; at >= 0; --at) {
+        const std::string base = "T" + std::to_string(at + 1);
+        text += "<Template name=\"T" + std::to_string(at) + "\" Template=\"" + base + "," + base + ",\"/>";
+    }
+    text += "<tree name=\"A\" Template=\"T0\"/></Tesk>";
+    EXPECT_EQ(Lint(text).size(), 1u); // no row height
+}
+
+TEST(Lint, ReadsWhatIsNestedInScriptsAndTextsOnce)
+{
+    std::string script, text;
+    for (int at = 0; at < 50000; ++at) {
+        script += "this(";
+        text += "${";
+    }
+    const std::vector<Finding> found =
+        Lint("<Tesk><text name=\"A\"><Text>" + text + "</Text><OnLoad>" + script + "</OnLoad></text></Tesk>");
+    EXPECT_EQ(found.size(), 3u); // the text is too long as well
+}
+
 TEST(Lint, BoundsCyclesOfTemplates)
 {
     const std::vector<Finding> found =
