@@ -8,6 +8,7 @@
 #include "teskara/markup/XMLAttribute.h"
 #include "teskara/markup/XMLHelper.h"
 
+#include <algorithm>
 #include <map>
 
 namespace host {
@@ -65,6 +66,8 @@ std::vector<std::string> NamesIn(const LintContext& context, const XMLNode* node
                 names.push_back(each->Name);
         }
     }
+    std::sort(names.begin(), names.end());
+    names.erase(std::unique(names.begin(), names.end()), names.end());
     return names;
 }
 
@@ -210,16 +213,22 @@ void LintChecks::MisplacedKind(LintContext& context)
 
 void LintChecks::UnknownTag(LintContext& context)
 {
+    const XMLNode* around = nullptr;
+    std::vector<std::string> names; // that may stand in it
     for (const LintValue& value : context.Values()) {
         if (!IsUnread(value, Part::Tags) || FindAmong(context, value.Node->Parent, value.Node->Name, Part::Attributes)
             || FindOwned(context, value.Node->Parent, value.Node->Name))
             continue;
+        if (around != value.Node->Parent) {
+            around = value.Node->Parent;
+            names = NamesIn(context, around, Part::Tags);
+        }
         if (const SchemaValue* known = FindAmong(context, value.Node->Parent, value.Node->Name, Part::Tags))
             context.Report(value, Quoted(value.Node->Name) + " is read in a template only",
                 "a template with " + AsChild(known->Name, "..."));
         else
             context.Report(value, "nobody reads " + Quoted(value.Node->Name) + " in " + Described(*value.Shape),
-                NearestName(value.Node->Name, NamesIn(context, value.Node->Parent, Part::Tags)));
+                NearestName(value.Node->Name, names));
     }
 }
 
