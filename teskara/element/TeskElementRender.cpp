@@ -2,8 +2,11 @@
 #include "teskara/core/Numbers.h"
 #include "teskara/element/ChildWalkBound.h"
 #include "teskara/element/ElementWatch.h"
+#include "teskara/element/RenderedElement.h"
 #include "teskara/element/TeskElement.h"
 #include "teskara/element/TooltipPanel.h"
+
+#include <utility>
 
 u32 TeskElement::s_Relinks = 0;
 
@@ -21,7 +24,27 @@ TeskElement* FindAutoTooltip()
     return dynamic_cast<TooltipPanel*>(element) ? element : nullptr;
 }
 
+u32 g_RenderedElementID = 0;
+
+// While it lives an element draws; then the one that drew before goes on.
+class RenderedScope
+{
+public:
+    explicit RenderedScope(const TeskElement& element) : m_Before(std::exchange(g_RenderedElementID, element.ID)) { }
+    ~RenderedScope() { g_RenderedElementID = m_Before; }
+    RenderedScope(const RenderedScope&) = delete;
+    RenderedScope& operator=(const RenderedScope&) = delete;
+
+private:
+    u32 m_Before;
+};
+
 } // namespace
+
+u32 GetRenderedElementID()
+{
+    return g_RenderedElementID;
+}
 
 void TeskElement::Render()
 {
@@ -67,6 +90,7 @@ bool TeskElement::RenderChild(TeskElement& child, u32 border)
     if (child.FadeDelay != 0)
         child.UpdateAutoFade();
     child.AbsoluteAlpha = child.GetCurrentAlpha() * alpha;
+    const RenderedScope rendered(child);
     child.Render();
     return watch.Exists();
 }
