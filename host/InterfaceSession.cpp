@@ -1,7 +1,7 @@
 #include "host/InterfaceSession.h"
 
 #include "host/files/MarkupFault.h"
-#include "host/record/Recorder.h"
+#include "host/record/Boundary.h"
 #include "host/record/ToolkitCalls.h"
 #include "teskara/core/CUIManager.h"
 
@@ -20,9 +20,9 @@ InterfaceSession::InterfaceSession(SDL_Renderer* renderer, const Settings& setti
         m_Clock.HoldStill();
     if (!settings.Commands.empty())
         m_Host.KeepCommands(settings.Commands);
-    if (settings.Recording)
-        settings.Recording->Attach(m_Host, m_Platform);
-    SetPlatform(settings.Recording ? &settings.Recording->System() : static_cast<Platform*>(&m_Platform));
+    if (settings.Between)
+        settings.Between->Attach(m_Host, m_Platform);
+    SetPlatform(settings.Between ? &settings.Between->System() : static_cast<Platform*>(&m_Platform));
     Toolkit::Start(&m_Host);
 
     // What is loaded before the first frame takes its time from here, and its sizes from the display.

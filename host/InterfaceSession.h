@@ -10,7 +10,7 @@
 
 namespace host {
 
-class Recorder;
+class Boundary;
 
 // The toolkit with the reference host, from its start to its end. There can be one in a process.
 class InterfaceSession
@@ -21,7 +21,7 @@ public:
         std::filesystem::path Positions; // the file of stored positions; empty to store none
         std::filesystem::path Commands; // the file of typed commands; empty to keep none
         ScriptTrust Trust = ScriptTrust::None;
-        Recorder* Recording = nullptr; // stands between host and toolkit; borrowed, and null for none
+        Boundary* Between = nullptr; // stands between host and toolkit; borrowed, and null for none
         int Width = 0; // of the display at the start
         int Height = 0;
     };

@@ -108,7 +108,7 @@ int Run(const InterfaceOptions& options, bool watch)
     settings.Positions = host::StoredPositions::DefaultFile();
     settings.Commands = host::CommandHistory::DefaultFile();
     settings.Trust = options.Trust ? host::ScriptTrust::Full : host::ScriptTrust::None;
-    settings.Recording = recording.Get();
+    settings.Between = recording.Get();
     settings.Width = options.Size.Width;
     settings.Height = options.Size.Height;
     {

@@ -63,7 +63,7 @@ protected:
         const host::Picture picture(Width, Height);
         host::InterfaceSession::Settings settings;
         settings.ClockStandsStill = true;
-        settings.Recording = &recorder;
+        settings.Between = &recorder;
         settings.Width = Width;
         settings.Height = Height;
         host::InterfaceSession session(picture.Target(), settings);
