@@ -1,5 +1,7 @@
 #include "host/InterfaceSession.h"
 #include "host/display/Picture.h"
+#include "host/drawlist/DrawListing.h"
+#include "host/files/WholeFile.h"
 #include "host/record/ToolkitCalls.h"
 #include "program/Commands.h"
 #include "program/InterfaceOptions.h"
@@ -9,9 +11,11 @@
 #include <CLI/CLI.hpp>
 
 #include <algorithm>
+#include <cerrno>
 #include <charconv>
 #include <cmath>
 #include <cstdio>
+#include <cstring>
 #include <memory>
 #include <optional>
 
@@ -25,6 +29,7 @@ struct ShotOptions : InterfaceOptions {
     u32 At = 1000;
     std::optional<_Point2i> Mouse;
     std::vector<_Point2i> Clicks;
+    bool List = false; // what was drawn, instead of how it looks
 };
 
 std::optional<_Point2i> ReadPoint(const std::string& text)
@@ -50,9 +55,11 @@ void Click(host::InterfaceSession& session, _Point2i place)
     host::Toolkit::OnLMouseUp();
 }
 
-// Lets the time pass in steps of a frame and draws the last one.
-void DrawMoment(host::InterfaceSession& session, const ShotOptions& options)
+// Lets the time pass in steps of a frame.
+void LetPass(host::InterfaceSession& session, const ShotOptions& options)
 {
+    if (!options.Clicks.empty())
+        session.SkipFrame(); // who is clicked is known once all have their places
     for (const _Point2i& place : options.Clicks)
         Click(session, place);
     if (options.Mouse)
@@ -63,7 +70,66 @@ void DrawMoment(host::InterfaceSession& session, const ShotOptions& options)
         session.Clock().Advance(step);
         elapsed += step;
     }
+}
+
+host::InterfaceSession::Settings SettingsOf(const ShotOptions& options, host::Boundary* between)
+{
+    host::InterfaceSession::Settings settings;
+    settings.Between = between;
+    settings.ClockStandsStill = true;
+    settings.Trust = options.Trust ? host::ScriptTrust::Full : host::ScriptTrust::None;
+    settings.Width = options.Size.Width;
+    settings.Height = options.Size.Height;
+    return settings;
+}
+
+// To the standard output if no file is named.
+int Write(const host::DrawList& list, const std::string& file)
+{
+    const std::string text = WriteDrawList(list);
+    if (file.empty()) {
+        std::fwrite(text.data(), 1, text.size(), stdout);
+        return ExitDone;
+    }
+    if (host::WriteWholeFile(file, text))
+        return ExitDone;
+    std::fprintf(stderr, "teskara: Could not write %s: %s\n", file.c_str(), std::strerror(errno));
+    return ExitFailed;
+}
+
+int ShootList(const host::Picture& picture, const ShotOptions& options)
+{
+    host::DrawListing listing;
+    for (const std::string& file : options.Files)
+        listing.AddFolder(std::filesystem::absolute(file).parent_path());
+    host::InterfaceSession session(picture.Target(), SettingsOf(options, &listing));
+    if (!session.Open(options.Files, options.Skin))
+        return ExitFailed;
+    LetPass(session, options);
+    listing.Begin(options.Size.Width, options.Size.Height);
     session.DrawFrame(options.Size.Width, options.Size.Height, options.Scale);
+    return Write(listing.End(), options.Output);
+}
+
+int ShootPicture(const host::Picture& picture, const ShotOptions& options)
+{
+    RecordingOption recording(options.Record);
+    if (!recording.Begin())
+        return ExitFailed;
+    {
+        host::InterfaceSession session(picture.Target(), SettingsOf(options, recording.Get()));
+        if (!session.Open(options.Files, options.Skin))
+            return ExitFailed;
+        LetPass(session, options);
+        session.DrawFrame(options.Size.Width, options.Size.Height, options.Scale);
+    }
+    if (!recording.End())
+        return ExitFailed;
+    if (!picture.Save(options.Output)) {
+        std::fprintf(stderr, "teskara: Could not write %s: %s\n", options.Output.c_str(), SDL_GetError());
+        return ExitFailed;
+    }
+    return ExitDone;
 }
 
 int Shoot(const ShotOptions& options)
@@ -79,28 +145,7 @@ int Shoot(const ShotOptions& options)
         std::fprintf(stderr, "teskara: Could not make a picture: %s\n", SDL_GetError());
         return ExitFailed;
     }
-    RecordingOption recording(options.Record);
-    if (!recording.Begin())
-        return ExitFailed;
-    host::InterfaceSession::Settings settings;
-    settings.Recording = recording.Get();
-    settings.ClockStandsStill = true;
-    settings.Trust = options.Trust ? host::ScriptTrust::Full : host::ScriptTrust::None;
-    settings.Width = options.Size.Width;
-    settings.Height = options.Size.Height;
-    {
-        host::InterfaceSession session(picture.Target(), settings);
-        if (!session.Open(options.Files, options.Skin))
-            return ExitFailed;
-        DrawMoment(session, options);
-    }
-    if (!recording.End())
-        return ExitFailed;
-    if (!picture.Save(options.Output)) {
-        std::fprintf(stderr, "teskara: Could not write %s: %s\n", options.Output.c_str(), SDL_GetError());
-        return ExitFailed;
-    }
-    return ExitDone;
+    return options.List ? ShootList(picture, options) : ShootPicture(picture, options);
 }
 
 } // namespace
@@ -110,7 +155,8 @@ void AddShotCommand(CLI::App& app, int& exitCode)
     const auto options = std::make_shared<ShotOptions>();
     CLI::App* shot = app.add_subcommand("shot", "Draw interface files into a picture, without a display");
     options->AddTo(*shot);
-    shot->add_option("-o,--output", options->Output, "The PNG file to write")->required()->type_name("PNG");
+    CLI::Option* output =
+        shot->add_option("-o,--output", options->Output, "The PNG file to write, or the list")->type_name("FILE");
     shot->add_option("--at", options->At, "Milliseconds after the start (1000)")
         ->check(CLI::Range(0, 600000))
         ->type_name("MILLISECONDS");
@@ -137,6 +183,12 @@ void AddShotCommand(CLI::App& app, int& exitCode)
         ->type_name("X,Y")
         ->expected(1)
         ->take_all();
-    options->AddRecord(*shot);
-    shot->callback([options, &exitCode] { exitCode = Shoot(*options); });
+    CLI::Option* list = shot->add_flag("--list", options->List,
+        "Write what is drawn as text instead, a line for each call and the element that made it");
+    list->excludes(options->AddRecord(*shot)); // both would stand at one place
+    shot->callback([options, output, list, &exitCode] {
+        if (output->empty() && list->empty())
+            throw CLI::RequiredError(output->get_name());
+        exitCode = Shoot(*options);
+    });
 }
