@@ -2,6 +2,8 @@
 
 #include <SDL.h>
 
+#include <memory>
+#include <optional>
 #include <string>
 
 namespace host {
@@ -24,7 +26,17 @@ public:
     bool Save(const std::string& file) const;
     bool Save(const std::string& file, const SDL_Rect& area) const;
 
+    // The bytes of such a file. Nothing: SDL_GetError says why.
+    std::optional<std::string> Encode() const;
+
 private:
+    struct FreeSurface {
+        void operator()(SDL_Surface* surface) const { SDL_FreeSurface(surface); }
+    };
+
+    // A copy of an area through which nothing shines; null if there is no memory.
+    std::unique_ptr<SDL_Surface, FreeSurface> CopyOpaque(const SDL_Rect& area) const;
+
     SDL_Surface* m_Surface = nullptr;
     SDL_Renderer* m_Renderer = nullptr;
 };

@@ -150,6 +150,21 @@ bool ScriptEngine::RetrieveResult(u32 sequence, _MvTypeVar& result)
     return kept && ReadValue(*kept, result);
 }
 
+bool ScriptEngine::RunText(std::string_view prefix, std::string_view text, const TakeValue& take, std::string& why)
+{
+    const ScriptCall call(m_State);
+    const LuaReference function(m_State, m_State.Compile(prefix, text, "=script"));
+    const bool ran = function.Number() != LUA_NOREF
+        && m_State.Protect([&](lua_State* thread) { function.Push(thread); }) && m_State.Call(0, 1);
+    if (!ran) {
+        why = m_State.Error();
+        return false;
+    }
+    take(m_State.Thread());
+    lua_pop(m_State.Thread(), 1);
+    return true;
+}
+
 // What has a value without an index is that value for scripts; anything else is a function of its index.
 void ScriptEngine::AddTopLevelObject(const char* name, TopLevelObjectHandler handler)
 {

@@ -19,7 +19,9 @@
 #include "teskara/core/HostInterface.h"
 
 #include <deque>
+#include <functional>
 #include <string>
+#include <string_view>
 #include <unordered_map>
 
 namespace host {
@@ -48,6 +50,11 @@ public:
     bool Calculate(const char* text, double& result);
 
     bool RetrieveResult(u32 sequence, _MvTypeVar& result);
+
+    // Runs a prefix and a text, as one script, at once and within the limits of one call. take gets the thread on top of
+    // whose stack its value lies, nil if it gives none. False: it failed, and why says so.
+    using TakeValue = std::function<void(lua_State* thread)>;
+    bool RunText(std::string_view prefix, std::string_view text, const TakeValue& take, std::string& why);
 
     void AddTopLevelObject(const char* name, TopLevelObjectHandler handler);
     void RemoveTopLevelObject(const char* name);
