@@ -14,6 +14,8 @@ void AddProbeCommand(CLI::App& app, int& exitCode);
 void AddSchemaCommand(CLI::App& app, int& exitCode);
 void AddReplayCommand(CLI::App& app, int& exitCode);
 void AddLintCommand(CLI::App& app, int& exitCode);
+void AddDiffCommand(CLI::App& app, int& exitCode);
+void AddServeCommand(CLI::App& app, int& exitCode);
 
 // Exit status of the program.
 enum : int {

@@ -2,9 +2,9 @@
 
 #include <CLI/CLI.hpp>
 
-void InterfaceOptions::AddTo(CLI::App& command)
+CLI::Option* InterfaceOptions::AddTo(CLI::App& command)
 {
-    command.add_option("FILE", Files, "Interface files, loaded in this order")->required();
+    CLI::Option* files = command.add_option("FILE", Files, "Interface files, loaded in this order")->required();
     command
         .add_option_function<std::string>(
             "--size",
@@ -19,6 +19,7 @@ void InterfaceOptions::AddTo(CLI::App& command)
         ->type_name("N");
     command.add_option("--skin", Skin, "A skin: its name in interfaces/skins, or its folder")->type_name("NAME");
     command.add_flag("--trust", Trust, "Give scripts the whole standard library of Lua, with files and processes");
+    return files;
 }
 
 CLI::Option* InterfaceOptions::AddRecord(CLI::App& command)

@@ -20,6 +20,7 @@ struct InterfaceOptions {
 
     std::string Record; // the file of a recording; empty for none
 
-    void AddTo(CLI::App& command);
+    // The result is the one for the files, which are needed.
+    CLI::Option* AddTo(CLI::App& command);
     CLI::Option* AddRecord(CLI::App& command);
 };

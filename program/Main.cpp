@@ -41,6 +41,8 @@ int main(int argc, char** argv)
     AddSchemaCommand(app, exitCode);
     AddReplayCommand(app, exitCode);
     AddLintCommand(app, exitCode);
+    AddDiffCommand(app, exitCode);
+    AddServeCommand(app, exitCode);
 
     try {
         app.parse(argc, argv);

@@ -168,6 +168,12 @@ def recordings(tally, preset):
         check(tally, f"recording {file.name}", [f"build/{preset}/bin/teskara", "replay", file.relative_to(ROOT)])
 
 
+def served(tally, preset):
+    say(f"build/{preset}: draw lists and serve, from outside, and the example of a client")
+    check(tally, "draw lists and serve", ["tools/check_draw_lists.py", f"build/{preset}/bin/teskara"])
+    check(tally, "client of teskara serve", ["examples/serve_client/visitors.py", f"build/{preset}/bin/teskara"])
+
+
 def pictures(tally, preset):
     say(f"build/{preset}: pictures")
     cases = (ROOT / "tests/pictures/cases.txt")
@@ -221,6 +227,7 @@ def behaviour(tally, preset, with_pictures):
     samples(tally, preset)
     transcripts(tally, preset)
     recordings(tally, preset)
+    served(tally, preset)
     replay_corpus(tally, preset)
     if with_pictures:
         pictures(tally, preset)
