@@ -327,7 +327,7 @@ Json ServedInterface::Lint(const ServeRequest& request)
     }
     if (request.Has("text"))
         linter.AddText("text", request.Text("text"));
-    return Json::parse(FindingsAsJson(linter.Look(request.Flag("strict"))));
+    return Json::parse(FindingsAsJson(linter.Look({.Strict = request.Flag("strict")})));
 }
 
 } // namespace host
