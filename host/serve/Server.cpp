@@ -1,7 +1,5 @@
 #include "host/serve/Server.h"
 
-#include "host/lint/NearestName.h"
-
 #include <nlohmann/json.hpp>
 
 #include <algorithm>
