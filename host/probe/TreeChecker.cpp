@@ -25,9 +25,16 @@ public:
     }
 
 private:
-    void Require(bool holds, const std::string& fault, const TeskElement* element)
+    // Costs nothing while all is well: programs check after each of very many steps.
+    void Require(bool holds, const char* fault, const TeskElement* element)
     {
-        if (!holds && !m_Fault)
+        if (!holds)
+            Blame(fault, element);
+    }
+
+    void Blame(const std::string& fault, const TeskElement* element)
+    {
+        if (!m_Fault)
             m_Fault = element ? fault + ": " + ElementText(element) : fault;
     }
 
@@ -74,7 +81,7 @@ private:
             if (!element || m_Fault)
                 continue;
             if (!m_Known.contains(element))
-                Require(false, "the name " + Quoted(name.Text()) + " leads to a dead element", nullptr);
+                Blame("the name " + Quoted(name.Text()) + " leads to a dead element", nullptr);
             else
                 Require(
                     SameWord(name.Text(), element->FullName), "a name leads to an element of another name", element);
