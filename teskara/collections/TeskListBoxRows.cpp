@@ -55,8 +55,11 @@ int CompareByAtom(u32 atom, TeskListBox& list, const ListBoxItem& left, const Li
     WriteInteger(leftID, sizeof(leftID), left.ID);
     WriteInteger(rightID, sizeof(rightID), right.ID);
     char* arguments[] = {leftID, rightID};
+    const ElementWatch watch(list);
     _MvTypeVar self;
     self.Type = list.GetMvType();
+    if (!watch.Exists())
+        return 0;
     self.Value.Object = &list;
     char answer[Limits::TextBuffer512];
     Host::ExecuteAtomForText(atom, 2, arguments, &self, answer, sizeof(answer));

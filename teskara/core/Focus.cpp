@@ -133,8 +133,8 @@ try {
         }
     }
 
-    TeskElement* old = LastMouseOver();
     TeskElement* found = Screen ? Screen->FindMouseOver(MousePosition, nullptr) : nullptr;
+    TeskElement* old = LastMouseOver(); // which a kind that is not ours may have ended as it was searched
     if (!found) {
         const u32 oldID = MouseOverElementID;
         if (old)

@@ -25,6 +25,22 @@ bool HasName(const TeskElement& element, const utf8string& name)
     return name.empty() || (element.Name.back() == name.back() && element.Name == name);
 }
 
+// Null: there is none. A kind that is not ours may end its elements as it is asked; then there is nothing that a new
+// element could stand in.
+const TeskElement* FindNamer(TeskElement* parent)
+{
+    const ElementWatch watch(parent);
+    for (TeskElement* ancestor = parent; ancestor; ancestor = ancestor->Parent) {
+        const bool isScreen = ancestor->IsTypeOf("screen");
+        const bool isPassed = !isScreen && watch.Exists() && ancestor->IsTypeOf("windowclient");
+        if (!watch.Exists())
+            throw std::bad_alloc();
+        if (!isPassed)
+            return isScreen ? nullptr : ancestor;
+    }
+    return nullptr;
+}
+
 } // namespace
 
 TeskElement::TeskElement(const char* type, TeskElement* parent, const char* name)
@@ -66,13 +82,9 @@ TeskElement::~TeskElement()
 void TeskElement::BuildFullName()
 {
     FullName = Name;
-    for (TeskElement* ancestor = Parent; ancestor && !ancestor->IsTypeOf("screen"); ancestor = ancestor->Parent) {
-        if (ancestor->IsTypeOf("windowclient"))
-            continue;
-
+    if (const TeskElement* ancestor = FindNamer(Parent)) {
         FullName += '@';
         FullName += ancestor->FullName;
-        break;
     }
     if (FullName.size() >= Limits::FullNameBytes)
         FullName.resize(Limits::FullNameBytes - 1);
@@ -208,13 +220,24 @@ TeskElement* TeskElement::FindChild(const char* name)
 TeskElement* TeskElement::FindUsableChild(const char* name, const char* word)
 {
     const std::string_view wanted = TextOrEmpty(name);
+    const ElementWatch self(*this);
     for (TeskElement* child = FirstChild; child; child = child->Next) {
-        if (EqualsNoCase(child->Name, wanted) && child->IsTypeOf(word))
+        if (!EqualsNoCase(child->Name, wanted))
+            continue;
+
+        const ElementWatch watch(*child);
+        const bool isOfKind = child->IsTypeOf(word);
+        if (!self.Exists() || !watch.Exists())
+            return nullptr;
+        if (isOfKind)
             return child;
     }
     for (TeskElement* child = FirstChild; child; child = child->Next) {
+        const ElementWatch watch(*child);
         if (TeskElement* found = child->FindUsableChild(name, word))
             return found;
+        if (!self.Exists() || !watch.Exists())
+            return nullptr;
     }
     return nullptr;
 }

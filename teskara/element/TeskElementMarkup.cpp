@@ -102,7 +102,7 @@ bool TeskElement::FromXML(XMLNode* node, XMLNode* templateNode)
         return false;
 
     MoveZTop(false);
-    return true;
+    return self.Exists();
 }
 
 void TeskElement::KeepStart()

@@ -48,9 +48,11 @@ u32 GetRenderedElementID()
 
 void TeskElement::Render()
 {
+    const ElementWatch self(*this);
     if (AutoTooltip)
         UpdateAutoTooltip();
-    RenderChildren();
+    if (self.Exists())
+        RenderChildren();
 }
 
 void TeskElement::RenderChildren()

@@ -4,6 +4,7 @@
 #include "teskara/core/CUIManager.h"
 #include "teskara/core/Numbers.h"
 #include "teskara/element/ChildIndex.h"
+#include "teskara/element/ElementWatch.h"
 #include "teskara/element/TeskElement.h"
 
 #include <cmath>
@@ -41,11 +42,17 @@ TeskElement* TeskElement::FindMouseOver(_Point2i& point, TeskElement* skip)
     if (skip == this || !Visible || !HitTest(point))
         return nullptr;
 
+    const ElementWatch self(*this);
     TeskElement* child = CandidateFrom(skip ? skip->Previous : LastChild, point);
     while (child) {
+        const ElementWatch watch(*child);
+        const ElementWatch below(child->Previous);
         if (TeskElement* found = child->FindMouseOver(point, nullptr))
             return found;
-        child = CandidateFrom(child->Previous, point);
+        if (!self.Exists())
+            return nullptr;
+        TeskElement* next = watch.Exists() ? child->Previous : below.Get();
+        child = CandidateFrom(next && next->Parent == this ? next : nullptr, point);
     }
     return this;
 }

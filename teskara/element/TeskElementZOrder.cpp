@@ -43,9 +43,10 @@ void TeskElement::MoveZBottom()
 void TeskElement::MoveZTop(bool includeParents)
 {
     g_UIManager.ZOrderChanged = true;
+    const ElementWatch self(*this);
     if (includeParents && Parent)
         Parent->MoveZTop(true);
-    if (!IsLinked())
+    if (!self.Exists() || !IsLinked())
         return;
 
     TeskElement* below = Parent->LastChild;

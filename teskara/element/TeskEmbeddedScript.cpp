@@ -5,6 +5,7 @@
 #include "teskara/core/HostCalls.h"
 #include "teskara/core/Limits.h"
 #include "teskara/core/utf8string.h"
+#include "teskara/element/ElementWatch.h"
 #include "teskara/element/TeskElement.h"
 #include "teskara/script/MvTypeVar.h"
 
@@ -79,11 +80,14 @@ int TeskEmbeddedScript::Run(TeskElement* self, int argc, char** argv)
 
     ++ReferenceCount;
     _MvTypeVar reference;
+    const ElementWatch watch(self);
     if (self) {
         reference.Type = self->GetMvType();
         reference.Value.Object = self;
     }
-    const int result = Host::ExecuteAtom(Atom, argc, argv, self ? &reference : nullptr);
+    int result = 0;
+    if (!self || watch.Exists()) // a kind that is not ours may end by the question
+        result = Host::ExecuteAtom(Atom, argc, argv, self ? &reference : nullptr);
     Delete();
     return result;
 }

@@ -84,7 +84,11 @@ void DeleteFromScreen(const char* name)
 
 bool RefuseNamesake(TeskElement* parent, const char* name)
 {
-    if (!parent->FindChild(name))
+    const ElementWatch watch(*parent);
+    const bool isTaken = parent->FindChild(name) != nullptr;
+    if (!watch.Exists())
+        return true; // and there is nobody to make a child for
+    if (!isTaken)
         return false;
 
     Host::PrintLine(Messages::NameTaken, name, parent->Name.c_str());

@@ -2,6 +2,7 @@
 
 #include "teskara/core/CUIManager.h"
 #include "teskara/core/HostCalls.h"
+#include "teskara/element/ElementWatch.h"
 #include "teskara/element/TeskElement.h"
 #include "teskara/script/Arguments.h"
 #include "teskara/script/MvTypeVar.h"
@@ -20,9 +21,10 @@ bool UIElementObject(const Arguments& arguments, _MvTypeVar& result)
     if (!element)
         return false;
 
+    const ElementWatch watch(*element);
     result.Value.Object = element;
     result.Type = element->GetMvType();
-    return true;
+    return watch.Exists();
 }
 
 // What the user answered to the last dialog of the running script.

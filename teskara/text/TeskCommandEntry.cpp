@@ -133,8 +133,9 @@ void TeskCommandEntry::ClearLine()
 void TeskCommandEntry::ScrollConsole(void (TeskConsole::*scroll)())
 {
     TeskElement* output = Parent ? Parent->FindChild(OutputName) : nullptr;
-    auto* console = output && output->IsTypeOf("console") ? dynamic_cast<TeskConsole*>(output) : nullptr;
-    if (console)
+    auto* console = dynamic_cast<TeskConsole*>(output);
+    const ElementWatch watch(console);
+    if (console && console->IsTypeOf("console") && watch.Exists())
         (console->*scroll)();
 }
 

@@ -1,5 +1,6 @@
 #include "teskara/windows/DialogBuilder.h"
 
+#include "teskara/element/MarkupTable.h"
 #include "teskara/windows/TeskWindow.h"
 
 namespace {
@@ -123,8 +124,12 @@ void DialogBuilder::SetFaces(TeskButton& button, const DialogButton& look, Faces
         {&TeskButton::TexturePressed, look.TexturePressed},
         {&TeskButton::TextureHover, look.TextureHover},
     };
+    const ElementWatch watch(button);
     for (const Face& face : rows) {
-        if (faces == Faces::All || !(button.*face.Texture))
-            (button.*face.Texture).reset(ReadTexture(face.Tag));
+        if (faces == Faces::Missing && button.*face.Texture)
+            continue;
+        Markup::KeepMade(button, button.*face.Texture, [&] { return ReadTexture(face.Tag); });
+        if (!watch.Exists() || !m_Watch.Exists())
+            return;
     }
 }

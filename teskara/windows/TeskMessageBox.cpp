@@ -2,6 +2,7 @@
 
 #include "teskara/core/AsciiCase.h"
 #include "teskara/core/BoundedText.h"
+#include "teskara/element/MarkupTable.h"
 #include "teskara/element/TeskElementFactory.h"
 #include "teskara/script/TypeGlobals.h"
 #include "teskara/windows/DialogBuilder.h"
@@ -73,7 +74,12 @@ void TeskMessageBox::Create(const char* title, const char* text, eMessageBoxType
     if (!templateNode)
         templateNode = g_UIManager.FindTemplate(Kind);
     Type = type;
-    Font.reset(FontFromXML(templateNode, FontPart.Name.Text, nullptr));
+    const MarkupReading reading;
+    const ElementWatch self(*this);
+    Markup::KeepMade(*this, Font, [&] { return FontFromXML(templateNode, FontPart.Name.Text, nullptr); });
+    if (!self.Exists())
+        return;
+
     DialogBuilder dialog(*this, templateNode, Font.get());
     const u32 lineHeight = Font ? Font->Size + 1u : 1u;
     if (!dialog.BreakText(text, {lineHeight, Room}))
@@ -82,8 +88,8 @@ void TeskMessageBox::Create(const char* title, const char* text, eMessageBoxType
         return;
 
     MakeText(dialog);
-    MakeButtons(dialog);
-    Center();
+    if (self.Exists() && MakeButtons(dialog))
+        Center();
 }
 
 void TeskMessageBox::MakeText(const DialogBuilder& dialog)
@@ -92,15 +98,22 @@ void TeskMessageBox::MakeText(const DialogBuilder& dialog)
         text->Create(dialog.TextRecord(), nullptr);
 }
 
-void TeskMessageBox::MakeButtons(const DialogBuilder& dialog)
+// False: the box has ended.
+bool TeskMessageBox::MakeButtons(const DialogBuilder& dialog)
 {
+    const ElementWatch self(*this);
     for (const Part& part : Parts()) {
         if (part.Type != Type)
             continue;
 
         const u32 first = DialogLayout::FirstButton(dialog.AreaWidth(), part.RowWidth);
-        this->*part.Button = MakeButton(dialog, part.Look, first + part.Offset, part.Width);
+        TeskButton* button = MakeButton(dialog, part.Look, first + part.Offset, part.Width);
+        if (!self.Exists())
+            return false;
+
+        this->*part.Button = button;
     }
+    return true;
 }
 
 TeskButton* TeskMessageBox::MakeButton(const DialogBuilder& dialog, const DialogButton& look, u32 x, u32 width)
@@ -111,10 +124,12 @@ TeskButton* TeskMessageBox::MakeButton(const DialogBuilder& dialog, const Dialog
 
     _CreateButton record = dialog.ButtonRecord(look, x, width);
     record.TexturesFromTemplate = true;
+    const ElementWatch watch(*button);
     const char* templateName = dialog.Source().Text(look.Template, "");
     button->Create(record, *templateName ? g_UIManager.FindTemplate(templateName) : nullptr);
-    dialog.SetFaces(*button, look, DialogBuilder::Faces::Missing);
-    return button;
+    if (watch.Exists())
+        dialog.SetFaces(*button, look, DialogBuilder::Faces::Missing);
+    return watch.Exists() ? button : nullptr;
 }
 
 const char* TeskMessageBox::AnswerOf(const TeskElement* button) const

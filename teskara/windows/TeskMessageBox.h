@@ -46,7 +46,7 @@ private:
 
     static std::span<const Part> Parts();
     void MakeText(const DialogBuilder& dialog);
-    void MakeButtons(const DialogBuilder& dialog);
+    bool MakeButtons(const DialogBuilder& dialog);
     TeskButton* MakeButton(const DialogBuilder& dialog, const DialogButton& look, u32 x, u32 width);
     void ForgetButton(const TeskElement* button);
 };

@@ -2,6 +2,7 @@
 
 #include "teskara/core/AsciiCase.h"
 #include "teskara/core/BoundedText.h"
+#include "teskara/element/MarkupTable.h"
 #include "teskara/script/TypeGlobals.h"
 #include "teskara/text/TeskTextEntry.h"
 #include "teskara/windows/DialogBuilder.h"
@@ -51,12 +52,20 @@ void TeskScriptInputBox::Create(const char* title, const char* text, const char*
 {
     if (!templateNode)
         templateNode = g_UIManager.FindTemplate(Kind);
-    Font.reset(FontFromXML(templateNode, FontPart.Name.Text, nullptr));
+    const MarkupReading reading;
+    const ElementWatch self(*this);
+    Markup::KeepMade(*this, Font, [&] { return FontFromXML(templateNode, FontPart.Name.Text, nullptr); });
+    if (!self.Exists())
+        return;
+
     DialogBuilder dialog(*this, templateNode, Font.get());
     if (!dialog.BreakText(text, {LineHeight, Room}))
         return;
 
-    Texture.reset(TextureFromXML(templateNode, TexturePart.Name.Text, nullptr));
+    Markup::KeepMade(*this, Texture, [&] { return TextureFromXML(templateNode, TexturePart.Name.Text, nullptr); });
+    if (!self.Exists())
+        return;
+
     if (dialog.MakeWindow(title, dialog.Source().Integer(BorderColorPart.Name, 0)) && MakeParts(dialog, initial))
         Center();
 }
@@ -121,9 +130,11 @@ TeskButton* TeskScriptInputBox::MakeButton(const DialogBuilder& dialog, const Di
     if (!self.Exists() || !button)
         return nullptr;
 
+    const ElementWatch watch(*button);
     button->Create(dialog.ButtonRecord(look, x, width), g_UIManager.FindTemplate("button"));
-    dialog.SetFaces(*button, look, DialogBuilder::Faces::All);
-    return button;
+    if (watch.Exists())
+        dialog.SetFaces(*button, look, DialogBuilder::Faces::All);
+    return watch.Exists() ? button : nullptr;
 }
 
 // Nothing that happens in the box is told to its parent.
