@@ -12,6 +12,17 @@ XMLArena::Block* XMLArena::AllocateBlock(std::size_t bytes)
     return static_cast<Block*>(std::malloc(bytes));
 }
 
+XMLArena::Block* XMLArena::TakeBlock(std::size_t bytes)
+{
+    Block* const block = bytes <= MayTake ? AllocateBlock(bytes) : nullptr;
+    if (!block)
+        return nullptr;
+
+    MayTake -= bytes;
+    block->Owner = this;
+    return block;
+}
+
 XMLArena* XMLArena::Create(std::size_t bytes)
 {
     const std::size_t head = sizeof(Block) + sizeof(XMLArena);
@@ -53,11 +64,10 @@ void XMLArena::Use(Block* block, std::size_t used, std::size_t bytes)
 
 bool XMLArena::AddBlock()
 {
-    Block* const block = AllocateBlock(m_NextBlockBytes);
+    Block* const block = TakeBlock(m_NextBlockBytes);
     if (!block)
         return false;
 
-    block->Owner = this;
     block->Next = m_Blocks;
     m_Blocks = block;
     Use(block, sizeof(Block), m_NextBlockBytes);
@@ -71,10 +81,9 @@ char* XMLArena::RoomForLongText(std::size_t bytes)
     if (bytes < m_NextBlockBytes / 8)
         return AddBlock() ? RoomForText(bytes) : nullptr;
 
-    Block* const block = AllocateBlock(sizeof(Block) + bytes + Slack);
+    Block* const block = TakeBlock(sizeof(Block) + bytes + Slack);
     if (!block)
         return nullptr;
-    block->Owner = this;
     block->Next = m_Blocks->Next;
     m_Blocks->Next = block;
     return reinterpret_cast<char*>(block + 1);

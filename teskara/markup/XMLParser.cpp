@@ -78,6 +78,7 @@ bool XMLParser::MakeRoot()
     if (!m_Arena)
         return false;
 
+    m_Arena->MayTake = m_Stream.InputBytes * XMLArena::BytesForInputByte + XMLArena::BytesBesides;
     XMLNode* const root = m_Arena->NewNode(m_Arena->Store(std::string_view("DOCUMENT ROOT")).Text, XMLRootNode, 0);
     m_Arena->First = root;
     m_Document.Root = root;
@@ -129,6 +130,10 @@ bool XMLParser::ParseContentToken()
     if (token.Type == XMLAmpersandToken)
         return AppendReference(m_Text) == Reference::Appended;
     Append(m_Text, token.Units);
+    // Of one that is long already the rest may be text as well; growing step by step would move it again and again.
+    constexpr std::size_t LongText = 64 * 1024;
+    if (m_Text.size() > LongText)
+        m_Text.reserve(m_Stream.InputBytes);
     return bool{token};
 }
 
@@ -305,6 +310,7 @@ XMLParser::Reference XMLParser::AppendReference(std::string& to)
     m_ReferenceBytes += text.size();
     if (m_ReferenceBytes > m_Stream.InputBytes * Limits::EntityOutputFactor + Limits::EntityOutputBytes)
         return Reference::TooMuch;
+    m_Arena->MayTake += text.size();
     to += text;
 
     token = m_Stream.Next();

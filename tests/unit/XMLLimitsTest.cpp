@@ -1,6 +1,7 @@
 #include "tests/unit/XMLParsing.h"
 
 #include "teskara/core/Limits.h"
+#include "teskara/markup/XMLArena.h"
 #include "teskara/markup/XMLAttribute.h"
 
 #include <algorithm>
@@ -126,6 +127,28 @@ TEST(XMLLimits, ManyReferencesToALongEntityEnd)
     document.Reset();
     document.AddEntity("filepath", std::string(5000, 'x').c_str());
     EXPECT_FALSE(document.ParseBuffer(text.c_str(), text.size()));
+}
+
+// Each unit of five bytes makes two nodes, which is more than what the input is worth.
+TEST(XMLLimits, ATreeMayTakeSoMuchForEachByteOfItsInput)
+{
+    const std::string unit = "<b/>x";
+    const auto parses = [&](std::size_t count) { return Parses("<a>" + Repeated(unit, count) + "</a>"); };
+    constexpr std::size_t UnitInTree = 2 * sizeof(XMLNode) + 2;
+    const std::size_t most = XMLArena::BytesBesides / (UnitInTree - unit.size() * XMLArena::BytesForInputByte);
+    EXPECT_TRUE(parses(most * 9 / 10));
+    EXPECT_FALSE(parses(most * 11 / 10));
+    EXPECT_TRUE(Parses("<a>" + Repeated("<b/>", 10 * most) + "</a>"));
+}
+
+TEST(XMLLimits, ATreeGrowsFreelyOnceItIsParsed)
+{
+    XMLDocument document;
+    ASSERT_TRUE(document.ParseBuffer("<a/>"));
+    const std::string name(1000, 'n');
+    std::size_t bytes = 0;
+    for (; bytes < 2 * XMLArena::BytesBesides; bytes += name.size())
+        ASSERT_TRUE(XMLNode::Create(document.Root->FirstChild, name, XMLTextNode)) << bytes;
 }
 
 TEST(XMLLimits, TenMebibytesOfOpeningTagsFailAtOnce)

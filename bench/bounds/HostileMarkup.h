@@ -1,0 +1,15 @@
+#pragma once
+
+#include <cstddef>
+#include <span>
+#include <string>
+
+// A shape of markup that a parser or the templates may be tempted to spend more on than it is worth.
+struct HostileShape {
+    const char* Name;
+    const char* About;
+    bool IsLoaded; // as a file of templates, whereas the others are only parsed
+    std::string (*Write)(std::size_t bytes); // so many bytes, but for less than a unit of the shape
+};
+
+std::span<const HostileShape> HostileShapes();
