@@ -1,5 +1,7 @@
 #include "host/script/LuaState.h"
 
+#include "host/script/PlainNumbers.h"
+
 #include <algorithm>
 #include <cstdio>
 #include <new>
@@ -86,6 +88,7 @@ void LuaState::MakeRoom()
 
 bool LuaState::Call(int arguments, int results)
 {
+    const PlainNumbers plain;
     lua_State* thread = m_Thread;
     const int handler = lua_gettop(thread) - arguments; // where the function lies now
     if (!lua_checkstack(thread, 1)) {

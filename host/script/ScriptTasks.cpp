@@ -2,6 +2,7 @@
 
 #include "host/Console.h"
 #include "host/script/CommandTable.h"
+#include "host/script/PlainNumbers.h"
 
 #include <algorithm>
 
@@ -84,6 +85,7 @@ bool ScriptTasks::Resume(ScriptTask& task)
     {
         lua_State* from = m_State.Thread();
         const RunningThread running(task.Thread());
+        const PlainNumbers plain;
         status = lua_resume(task.Thread(), from, 0, &results);
     }
     m_Current = outer;

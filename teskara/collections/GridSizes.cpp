@@ -1,12 +1,14 @@
 #include "teskara/collections/GridSizes.h"
 
 #include "teskara/core/Numbers.h"
+#include "teskara/core/QuietFloats.h"
 
 #include <algorithm>
 #include <utility>
 
 u32 SizeSpecification::PixelsOf(u32 tableSize) const
 {
+    const QuietFloats quiet;
     switch (Mode) {
     case SizeFactor:
         return TruncateToU32(static_cast<float>(tableSize) * Factor());
@@ -29,6 +31,7 @@ void GridSizes::Merge(std::size_t index, const SizeSpecification& wish)
     if (wish == SizeSpecification())
         return;
 
+    const QuietFloats quiet;
     SizeSpecification& size = m_Sizes[index];
     if (size.Mode != wish.Mode)
         size = wish;

@@ -2,6 +2,7 @@
 
 #include "teskara/core/Limits.h"
 #include "teskara/core/Numbers.h"
+#include "teskara/core/QuietFloats.h"
 
 #include <algorithm>
 
@@ -17,6 +18,7 @@ FillerBar::FillerBar(u32 extent, u32 repeat, float fill)
 // left: how much is still to be filled when the piece's turn comes.
 void FillerBar::Cut(Piece& piece, float left) const
 {
+    const QuietFloats quiet;
     piece.Shown = left / m_StepFill;
     piece.Length = TruncateToU32(static_cast<float>(m_StepLength) * piece.Shown);
 }

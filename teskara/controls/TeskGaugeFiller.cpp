@@ -6,8 +6,10 @@
 #include "teskara/controls/TextureMask.h"
 #include "teskara/core/AsciiCase.h"
 #include "teskara/core/BoundedText.h"
+#include "teskara/core/QuietFloats.h"
 #include "teskara/element/MarkupTable.h"
 
+#include <cmath>
 #include <utility>
 
 namespace {
@@ -78,6 +80,7 @@ bool FollowCoordinate(i32& value, const ElementPosition& position, u32 dimension
     if (position.Type != PositionShare)
         return false;
 
+    const QuietFloats quiet;
     const i32 share = TruncateToI32(static_cast<float>(dimension - border) * position.Share());
     return std::exchange(value, WrapAdd(share, border)) != value;
 }
@@ -87,8 +90,15 @@ bool FollowDimension(u32& value, const ElementPosition& position, u32 dimension,
     if (position.Type != PositionShare)
         return false;
 
+    const QuietFloats quiet;
     const u32 inside = dimension - 2 * border;
     return std::exchange(value, TruncateToU32(static_cast<float>(inside) * position.Share())) != value;
+}
+
+i32 PartOf(i32 width, float share)
+{
+    const QuietFloats quiet;
+    return TruncateToI32(static_cast<float>(width) * share);
 }
 
 tagRECT RectOf(const FillerBar::Piece& piece, tagRECT rect, bool isVertical)
@@ -198,7 +208,7 @@ void TeskGaugeFiller::DrawBar()
 
     const PassingCopy copy(*Texture);
     const float fill = GaugeScale(Range).ShareOf(Value);
-    if (copy.Get() && copy.Get()->GetSize() && fill >= LeastFill)
+    if (copy.Get() && copy.Get()->GetSize() && std::isgreaterequal(fill, LeastFill))
         DrawPieces(*copy.Get(), fill);
 }
 
@@ -209,7 +219,7 @@ void TeskGaugeFiller::DrawPieces(TeskTexture& texture, float fill)
     const i32 fullWidth = WrapSub(texture.Right, texture.Left);
     const FillerBar bar(Vertical ? Height : Width, Repeat, fill);
     bar.ForEachPiece([&](const FillerBar::Piece& piece) {
-        texture.Right = WrapAdd(texture.Left, TruncateToI32(static_cast<float>(fullWidth) * piece.Shown));
+        texture.Right = WrapAdd(texture.Left, PartOf(fullWidth, piece.Shown));
         TexturedRect(RectOf(piece, rect, Vertical), &texture);
     });
 }

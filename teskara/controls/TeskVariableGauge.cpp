@@ -3,6 +3,7 @@
 #include "teskara/core/AsciiCase.h"
 #include "teskara/core/BoundedText.h"
 #include "teskara/core/Numbers.h"
+#include "teskara/core/QuietFloats.h"
 #include "teskara/element/MarkupTable.h"
 #include "teskara/element/ProcessedText.h"
 
@@ -50,7 +51,10 @@ bool TeskVariableGauge::FollowData()
 {
     const ElementWatch self(*this);
     float value = Value;
-    UseProcessedText(*this, Data, [&](const char* text) { value = ReadFloat(text) - Offset; });
+    UseProcessedText(*this, Data, [&](const char* text) {
+        const QuietFloats quiet;
+        value = ReadFloat(text) - Offset;
+    });
     if (self.Exists() && value != Value)
         SetValue(value);
     return self.Exists();

@@ -6,6 +6,7 @@
 #include "teskara/core/HostCalls.h"
 #include "teskara/core/Limits.h"
 #include "teskara/core/Numbers.h"
+#include "teskara/core/QuietFloats.h"
 #include "teskara/element/MarkupTable.h"
 #include "teskara/element/ProcessedText.h"
 
@@ -73,13 +74,15 @@ bool TeskVariableSlider::FollowVariable()
 {
     const ElementWatch self(*this);
     std::optional<float> variable;
-    UseProcessedText(*this, Data, [&](const char* text) { variable = ReadFloat(text) - Offset; });
+    UseProcessedText(*this, Data, [&](const char* text) {
+        const QuietFloats quiet;
+        variable = ReadFloat(text) - Offset;
+    });
     if (!self.Exists() || !variable)
         return self.Exists();
 
     Initialized = true;
-    const bool isWithin = *variable > 0 && VariableRange != 0;
-    SetValue(isWithin ? TruncateToU32(*variable / VariableRange * static_cast<float>(Range)) : 0);
+    SetValue(ValueFor(*variable));
     return self.Exists();
 }
 
@@ -91,8 +94,17 @@ void TeskVariableSlider::SetValue(unsigned int value)
         WriteVariable();
 }
 
+// variable: without the offset.
+u32 TeskVariableSlider::ValueFor(float variable) const
+{
+    const QuietFloats quiet;
+    const bool isWithin = variable > 0 && VariableRange != 0;
+    return isWithin ? TruncateToU32(variable / VariableRange * static_cast<float>(Range)) : 0;
+}
+
 float TeskVariableSlider::VariableValue() const
 {
+    const QuietFloats quiet;
     const float share = Range == 0 ? 0 : static_cast<float>(Value) / static_cast<float>(Range);
     return share * VariableRange + Offset;
 }

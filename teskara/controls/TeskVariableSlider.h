@@ -24,5 +24,6 @@ public:
 private:
     bool FollowVariable();
     void WriteVariable();
+    u32 ValueFor(float variable) const;
     float VariableValue() const;
 };

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <cmath>
 #include <limits>
 
 namespace {
@@ -121,7 +122,12 @@ double ReadDouble(std::string_view text)
 
 float ReadFloat(std::string_view text)
 {
-    return static_cast<float>(ReadDouble(text));
+    // From here on a float cannot be but infinite. Not left to the conversion, which may trap.
+    constexpr double BeyondFloats = 0x1.ffffffp127;
+    const double value = ReadDouble(text);
+    if (std::isgreaterequal(std::fabs(value), BeyondFloats))
+        return std::signbit(value) ? -std::numeric_limits<float>::infinity() : std::numeric_limits<float>::infinity();
+    return static_cast<float>(value);
 }
 
 bool ReadHex(std::string_view text, u32& value)
@@ -144,26 +150,27 @@ bool ReadHex(std::string_view text, u32& value)
     return true;
 }
 
+// The comparisons are those that do not trap on what is no number, and find it in no range.
+
 i32 TruncateToI32(double value)
 {
-    // Written so that a value that is not a number fails the test.
-    if (value > -2147483649.0 && value < 2147483648.0)
+    if (std::isgreater(value, -2147483649.0) && std::isless(value, 2147483648.0))
         return static_cast<i32>(value);
     return std::numeric_limits<i32>::min();
 }
 
 u32 TruncateToU32(double value)
 {
-    if (value >= -9223372036854775808.0 && value < 9223372036854775808.0)
+    if (std::isgreaterequal(value, -9223372036854775808.0) && std::isless(value, 9223372036854775808.0))
         return static_cast<u32>(static_cast<u64>(static_cast<i64>(value)));
     return 0;
 }
 
 u8 TruncateToByte(double value)
 {
-    if (!(value > 0))
+    if (!std::isgreater(value, 0.0))
         return 0;
-    return value < 255 ? static_cast<u8>(value) : u8{255};
+    return std::isless(value, 255.0) ? static_cast<u8>(value) : u8{255};
 }
 
 std::size_t WriteInteger(char* to, std::size_t size, i64 value)

@@ -1,6 +1,7 @@
 #include "teskara/core/CUIManager.h"
 #include "teskara/core/HostCalls.h"
 #include "teskara/core/Numbers.h"
+#include "teskara/core/QuietFloats.h"
 #include "teskara/element/TeskElement.h"
 #include "teskara/element/TeskScreen.h"
 #include "teskara/element/TeskTexture.h"
@@ -46,6 +47,7 @@ bool DrawEachLine(TeskDrawRecord& record, const _Line* lines, u32 count, u32 wid
 
 u32 TeskElement::AdjustColor(u32 color) const
 {
+    const QuietFloats quiet;
     const float scaled = static_cast<float>(color >> 24) / 255.0f * AbsoluteAlpha * 255.0f;
     return static_cast<u32>(TruncateToByte(static_cast<double>(scaled))) << 24 | (color & 0x00ffffffu);
 }

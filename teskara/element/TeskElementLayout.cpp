@@ -1,4 +1,5 @@
 #include "teskara/core/Numbers.h"
+#include "teskara/core/QuietFloats.h"
 #include "teskara/element/ChildWalkBound.h"
 #include "teskara/element/ElementWatch.h"
 #include "teskara/element/TeskElement.h"
@@ -9,8 +10,10 @@ namespace {
 u32 Resolve(u32 value, const ElementPosition& position, u32 parentDimension, u32 (*truncate)(float))
 {
     switch (position.Type) {
-    case PositionShare:
+    case PositionShare: {
+        const QuietFloats quiet;
         return truncate(static_cast<float>(parentDimension) * position.Share());
+    }
     case PositionFarEdge:
         return parentDimension - position.Factor;
     default:

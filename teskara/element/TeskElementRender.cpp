@@ -1,5 +1,6 @@
 #include "teskara/core/CUIManager.h"
 #include "teskara/core/Numbers.h"
+#include "teskara/core/QuietFloats.h"
 #include "teskara/element/ChildWalkBound.h"
 #include "teskara/element/ElementWatch.h"
 #include "teskara/element/RenderedElement.h"
@@ -38,6 +39,12 @@ public:
 private:
     u32 m_Before;
 };
+
+float Product(float one, float other)
+{
+    const QuietFloats quiet;
+    return one * other;
+}
 
 } // namespace
 
@@ -91,7 +98,7 @@ bool TeskElement::RenderChild(TeskElement& child, u32 border)
 
     if (child.FadeDelay != 0)
         child.UpdateAutoFade();
-    child.AbsoluteAlpha = child.GetCurrentAlpha() * alpha;
+    child.AbsoluteAlpha = Product(child.GetCurrentAlpha(), alpha);
     const RenderedScope rendered(child);
     child.Render();
     return watch.Exists();
@@ -123,6 +130,7 @@ float TeskElement::GetCurrentAlpha()
 
     if (FadeState == FadeFading) {
         if (FadeDuration != 0 && begin + FadeDuration > now) {
+            const QuietFloats quiet;
             const float part = static_cast<float>(now - begin) / static_cast<float>(FadeDuration);
             return Alpha - (Alpha - FadeAlpha) * part;
         }

@@ -5,6 +5,7 @@
 #include "teskara/core/CUIManager.h"
 #include "teskara/core/HostCalls.h"
 #include "teskara/core/Numbers.h"
+#include "teskara/core/QuietFloats.h"
 
 namespace {
 
@@ -14,6 +15,7 @@ constexpr u32 InitialHeight = 600;
 
 u32 Follow(int surface, const ElementPosition& position)
 {
+    const QuietFloats quiet;
     return TruncateToU32(static_cast<float>(surface < 0 ? 0 : surface) * position.Share());
 }
 

@@ -4,6 +4,7 @@
 #include "teskara/core/AsciiCase.h"
 #include "teskara/core/BoundedText.h"
 #include "teskara/core/Numbers.h"
+#include "teskara/core/QuietFloats.h"
 #include "teskara/element/ElementWatch.h"
 #include "teskara/script/TypeGlobals.h"
 
@@ -13,6 +14,7 @@ namespace {
 
 u32 Truncated(u32 parentSize, const ElementPosition& position)
 {
+    const QuietFloats quiet;
     return static_cast<u32>(TruncateToI32(static_cast<float>(parentSize) * position.Share()));
 }
 

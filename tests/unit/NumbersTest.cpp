@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cfenv>
 #include <clocale>
 #include <cmath>
 #include <limits>
@@ -165,6 +166,25 @@ TEST(Numbers, WritersCutToTheBuffer)
     EXPECT_EQ(WriteFloat(text, 0, 1.5f), 0u);
     EXPECT_STREQ(text, "123");
 }
+
+#ifdef __GLIBC__
+TEST(Numbers, AHostThatTrapsInvalidNumbersIsNotTrapped)
+{
+    const int traps = FE_INVALID | FE_DIVBYZERO | FE_OVERFLOW;
+    feenableexcept(traps);
+    for (const double value : {NotANumber, Infinity, -Infinity, 1e300, -1e300}) {
+        TruncateToI32(value);
+        TruncateToU32(value);
+        TruncateToByte(value);
+    }
+    for (const char* text : {"1e39", "-1e300", "1e999", "nan", "inf", "3.4028236e38"})
+        ReadFloat(text);
+    fedisableexcept(traps);
+    EXPECT_EQ(ReadFloat("-1e39"), -static_cast<float>(Infinity));
+    EXPECT_EQ(ReadFloat("3.4028235677973366e38"), static_cast<float>(Infinity));
+    EXPECT_EQ(ReadFloat("3.4028235677973362e38"), std::numeric_limits<float>::max());
+}
+#endif
 
 // A host may have set a locale with a decimal comma.
 TEST(Numbers, ALocaleChangesNothing)
