@@ -55,6 +55,12 @@ ReferenceHost::ReferenceHost(SDL_Renderer* renderer, const std::filesystem::path
     m_Scripts.Commands.Add("run", [this](int argc, char** argv) { return RunScriptFile(argc, argv); });
 }
 
+LentThings ReferenceHost::Lent() const
+{
+    return {m_Canvas.Fonts().Acquired(), m_Canvas.Textures().Acquired(), m_Scripts.Scripts.Count(),
+        m_Scripts.Sequences.Count()};
+}
+
 void ReferenceHost::BeginFrame(const FrameState& state, float scale)
 {
     m_Overlay.ShowKept();

@@ -18,6 +18,16 @@
 
 namespace host {
 
+// How much of the host's the toolkit holds.
+struct LentThings {
+    std::size_t Fonts = 0;
+    std::size_t Images = 0;
+    std::size_t Scripts = 0;
+    std::size_t Sequences = 0;
+
+    bool operator==(const LentThings&) const = default;
+};
+
 // The object that is handed to the toolkit: each operation goes to the part of the host that knows it.
 class ReferenceHost : public HostObject
 {
@@ -29,6 +39,8 @@ public:
     SearchPaths& Paths() { return m_Paths; }
     ScriptEngine& Scripts() { return m_Scripts; }
     const UsedFiles& Files() const { return m_Files; }
+
+    LentThings Lent() const;
 
     // An image's file has changed: the elements that are made from now on show what it holds.
     void ReadImageAnew(const std::string& path) { m_Canvas.Textures().ReadAnew(path); }

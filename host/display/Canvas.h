@@ -36,7 +36,9 @@ public:
     bool MeasureCharacter(u32 font, u32 character, int& width);
 
     FontLibrary& Fonts() { return m_Fonts; }
+    const FontLibrary& Fonts() const { return m_Fonts; }
     TextureCache& Textures() { return m_Textures; }
+    const TextureCache& Textures() const { return m_Textures; }
 
 private:
     // What a record shows: a part of an image, to be turned clockwise.

@@ -2,8 +2,16 @@
 
 namespace host {
 
+namespace {
+
+// They share what the system's list of fonts takes; it goes with the last one.
+int g_Libraries = 0;
+
+} // namespace
+
 FontLibrary::FontLibrary()
 {
+    ++g_Libraries;
     if (FT_Init_FreeType(&m_Library) != 0)
         m_Library = nullptr;
 }
@@ -14,6 +22,8 @@ FontLibrary::~FontLibrary()
     m_Families.clear();
     if (m_Library)
         FT_Done_FreeType(m_Library);
+    if (--g_Libraries == 0)
+        FcFini();
 }
 
 u32 FontLibrary::Acquire(const char* name, u8 height, bool fixed, bool bold)
@@ -36,6 +46,14 @@ u32 FontLibrary::Acquire(const char* name, u8 height, bool fixed, bool bold)
     m_Fonts[id] = {key, std::make_unique<Font>(id, *family, height), 1};
     m_IDs[key] = id;
     return id;
+}
+
+std::size_t FontLibrary::Acquired() const
+{
+    std::size_t count = 0;
+    for (const auto& font : m_Fonts)
+        count += font.second.Count;
+    return count;
 }
 
 void FontLibrary::Release(u32 id)

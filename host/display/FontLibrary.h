@@ -2,6 +2,7 @@
 
 #include "host/display/Font.h"
 
+#include <cstddef>
 #include <map>
 #include <memory>
 #include <string>
@@ -25,6 +26,9 @@ public:
 
     // Null for an id that is not in use.
     Font* Find(u32 id) const;
+
+    // How many times fonts were acquired and not released.
+    std::size_t Acquired() const;
 
 private:
     using FamilyKey = std::tuple<std::string, bool, bool>; // name, fixed, bold

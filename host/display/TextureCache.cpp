@@ -90,6 +90,14 @@ u32 TextureCache::Acquire(const std::string& path, u32 colorKey, std::string& wh
     return id;
 }
 
+std::size_t TextureCache::Acquired() const
+{
+    std::size_t count = 0;
+    for (const auto& image : m_Images)
+        count += image.second.Count;
+    return count;
+}
+
 void TextureCache::Release(u32 id)
 {
     const auto found = m_Images.find(id);

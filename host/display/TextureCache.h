@@ -4,6 +4,7 @@
 
 #include <SDL.h>
 
+#include <cstddef>
 #include <map>
 #include <string>
 #include <unordered_map>
@@ -49,6 +50,9 @@ public:
 
     // Between frames: lets go of what has not been used for a while.
     void Collect();
+
+    // How many times images were acquired and not released.
+    std::size_t Acquired() const;
 
 private:
     using Key = std::pair<std::string, u32>;

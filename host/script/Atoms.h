@@ -47,6 +47,8 @@ public:
 
     // Atoms that run now, inside each other, and what the innermost runs on; a value without a type if on nothing.
     const int& Depth() const { return m_Depth; }
+
+    std::size_t Count() const { return m_Atoms.size(); }
     _MvTypeVar Self() const { return m_Running ? m_Running->Self : _MvTypeVar(); }
 
     // The object, or the type, is going away.

@@ -26,6 +26,9 @@ public:
     u32 Keep(std::string_view text, const std::string& where);
     void Free(u32 sequence) { m_Kept.erase(sequence); }
 
+    // How many are kept.
+    std::size_t Count() const { return m_Kept.size(); }
+
     // The kept text, as it was or with its parts evaluated. False: there is no such sequence.
     bool WriteOriginal(u32 sequence, char* buffer, u32 size) const;
     bool WriteProcessed(u32 sequence, char* buffer, u32 size);
