@@ -38,9 +38,9 @@ public:
 } // namespace
 
 ProbeFactories::ProbeFactories(ProbeOutput& output)
+    : m_Listeners(std::make_unique<TeskFactory<ListenerElement>>("listener"))
 {
     g_ListenerOutput = &output;
-    m_Listeners = std::make_unique<TeskFactory<ListenerElement>>("listener");
 }
 
 ProbeFactories::~ProbeFactories() = default;

@@ -86,7 +86,7 @@ std::vector<std::string> CommandCompletion::Find(std::string_view line)
 std::vector<std::string> CommandCompletion::FindInPath(std::string_view line, std::size_t pathStart)
 {
     const std::string_view path = line.substr(pathStart);
-    if (path.find('=') == 0 || std::count(path.begin(), path.end(), '[') != std::count(path.begin(), path.end(), ']'))
+    if (path.starts_with('=') || std::count(path.begin(), path.end(), '[') != std::count(path.begin(), path.end(), ']'))
         return {};
 
     const std::size_t separator = LastSeparator(path);

@@ -150,18 +150,20 @@ std::unique_ptr<MvIterator> MvIndex::NewIterator()
 
 // A new value of the type; null if the type makes none of it.
 MvIndex::Entry MvIndex::MakeEntry(int argc, char** argv) const
-try {
-    if (!Type)
-        return nullptr;
+{
+    try {
+        if (!Type)
+            return nullptr;
 
-    // The index may go meanwhile.
-    const std::optional<utf8string> subtype = SubType;
-    Entry entry(new _MvTypeVar{Type, {}});
-    const bool isMade = Type->InitVariable(entry->Value, subtype ? subtype->c_str() : nullptr)
-        && entry->Type->FromArguments(entry->Value, argc, argv);
-    return isMade ? std::move(entry) : nullptr;
-} catch (...) {
-    return nullptr;
+        // The index may go meanwhile.
+        const std::optional<utf8string> subtype = SubType;
+        Entry entry(new _MvTypeVar{Type, {}});
+        const bool isMade = Type->InitVariable(entry->Value, subtype ? subtype->c_str() : nullptr)
+            && entry->Type->FromArguments(entry->Value, argc, argv);
+        return isMade ? std::move(entry) : nullptr;
+    } catch (...) {
+        return nullptr;
+    }
 }
 
 // Puts an entry, or null, at a position, and gives what was there.

@@ -90,17 +90,21 @@ bool PositionIterator::Walk(Direction direction)
 
 // At most one less than Behind. A container of a host's that throws has no entries.
 u32 PositionIterator::Size() const
-try {
-    MvContainer* container = GetContainer();
-    return container ? std::min(container->GetSize(), Behind - 1) : 0;
-} catch (...) {
-    return 0;
+{
+    try {
+        MvContainer* container = GetContainer();
+        return container ? std::min(container->GetSize(), Behind - 1) : 0;
+    } catch (...) {
+        return 0;
+    }
 }
 
 bool PositionIterator::ReadEntry(_MvTypeVar& result) const
-try {
-    MvContainer* container = GetContainer();
-    return container && container->GetEntry(m_Position, result);
-} catch (...) {
-    return false;
+{
+    try {
+        MvContainer* container = GetContainer();
+        return container && container->GetEntry(m_Position, result);
+    } catch (...) {
+        return false;
+    }
 }
