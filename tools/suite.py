@@ -9,16 +9,17 @@ import sys
 import time
 from pathlib import Path
 
+import coverage
 import tidy
 
 ROOT = Path(__file__).resolve().parent.parent
 FUZZ_SECONDS = 60
 CORPUS_VARIATIONS = 25
 LONGEST_STAGE_SECONDS = 900
+HARSH_LOCALE = "de_DE.UTF-8"
 
 SANITIZER_ENVIRONMENT = {
     "ASAN_OPTIONS": "detect_stack_use_after_return=1",
-    "LSAN_OPTIONS": f"suppressions={ROOT}/tests/leaks_of_others.txt:print_suppressions=0",
     "UBSAN_OPTIONS": "print_stacktrace=1",
 }
 
@@ -220,6 +221,62 @@ def installed_copy(tally):
                                             example / "minimal_host", "examples/minimal_host/hello.xml", font, "20"])
 
 
+def bounds(tally, preset):
+    say(f"build/{preset}: what hostile markup may cost")
+    check(tally, "bounds of hostile markup", [f"build/{preset}/bin/teskara_bounds"])
+
+
+def soak(tally, preset, *options):
+    """A run of the desktop by somebody who does whatever comes to mind; the seed is told when it fails."""
+    say(f"build/{preset}: a run of the desktop, {' '.join(options)}")
+    status, output = run([f"build/{preset}/bin/teskara_soak", *options])
+    print(output.rstrip())
+    if status == 0:
+        tally.ok()
+    else:
+        seed = re.search(r"seed (\d+)", output)
+        tally.fail("soak", f"build/{preset}/bin/teskara_soak {' '.join(options)} --seed {seed[1] if seed else '?'}")
+
+
+def long_soak(tally, minutes):
+    global LONGEST_STAGE_SECONDS
+    LONGEST_STAGE_SECONDS = minutes * 60 + 600
+    if build(tally, "release"):
+        soak(tally, "release", "--minutes", str(minutes))
+
+
+def harsh_locale():
+    """The folder of a locale with a decimal comma, which the system need not have."""
+    folder = ROOT / "build/locale"
+    if not (folder / HARSH_LOCALE).exists():
+        folder.mkdir(parents=True, exist_ok=True)
+        subprocess.run(["localedef", "-i", "de_DE", "-f", "UTF-8", folder / HARSH_LOCALE], check=True)
+    return folder
+
+
+def harsh(tally, preset):
+    say(f"build/{preset}: unit tests and transcripts with a decimal comma, traps of floats and a stack of 512 KiB")
+    settings = [f"LOCPATH={harsh_locale()}", f"LC_ALL={HARSH_LOCALE}",
+                f"LD_PRELOAD={ROOT}/build/{preset}/lib/libteskara_harsh.so"]
+    small_stack = ["prlimit", f"--stack={512 * 1024}", "env", *settings]
+    check(tally, "unit tests, harshly", [*small_stack, f"build/{preset}/bin/teskara_unit", "--gtest_brief=1"])
+    check(tally, "transcripts, harshly",
+          [*small_stack, f"build/{preset}/bin/teskara", "probe", "--check", "tests/transcripts"])
+
+
+def cover(tally):
+    """What the unit tests, the transcripts and the stored inputs of the fuzz targets reach."""
+    if not (build(tally, "dev") and build(tally, "coverage")):
+        return
+    say("build/coverage: which lines and branches of the toolkit the tests reach")
+    replays = [[f"fuzz_{target}", *sorted(str(path) for path in (ROOT / "tests/fuzz/corpus" / target).glob("*"))]
+               for target in fuzz_targets()]
+    if coverage.measure(ROOT, replays):
+        tally.ok()
+    else:
+        tally.fail("coverage", "./test --coverage")
+
+
 def behaviour(tally, preset, with_pictures):
     if not build(tally, preset):
         return False
@@ -255,12 +312,27 @@ def main():
     parser = argparse.ArgumentParser(prog="./test", description="Runs the tests.")
     parser.add_argument("--quick", action="store_true", help="no sanitizers, pictures, lint, second compiler")
     parser.add_argument("--fuzz", action="store_true", help=f"each fuzz target searches for {FUZZ_SECONDS} seconds")
+    parser.add_argument("--coverage", action="store_true", help="which lines and branches of the toolkit the tests reach")
+    parser.add_argument("--bounds", action="store_true", help="what hostile markup may cost in time and memory")
+    parser.add_argument("--harsh", action="store_true",
+                        help="unit tests and transcripts with a decimal comma, traps of floats and a small stack")
+    parser.add_argument("--soak", type=int, metavar="MINUTES", help="a long run of the desktop, with a clock that is driven")
     options = parser.parse_args()
 
     sys.stdout.reconfigure(line_buffering=True)
     tally, start = Tally(), time.monotonic()
     if options.fuzz:
         fuzz(tally)
+    elif options.soak:
+        long_soak(tally, options.soak)
+    elif options.coverage:
+        cover(tally)
+    elif options.bounds:
+        if build(tally, "release"):
+            bounds(tally, "release")
+    elif options.harsh:
+        if build(tally, "dev"):
+            harsh(tally, "dev")
     else:
         check_the_house(tally)
         built = behaviour(tally, "dev", with_pictures=not options.quick)
