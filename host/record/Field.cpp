@@ -229,27 +229,18 @@ bool ReadRect(tagRECT& rect, ItemView& bytes, BoundaryNames&)
     return true;
 }
 
+// The record as it lies in memory: a frame has hundreds of them.
 void WriteImage(const TeskDrawRecord& record, ItemBytes& bytes, BoundaryNames&)
 {
     bytes.PutByte(Image);
-    for (const u32 number : {record.Flags, record.TextureID, u32{record.Alpha}, u32{record.Orientation},
-             u32{record.Padding[0]}, u32{record.Padding[1]}, record.ColorMask})
-        bytes.PutUnsigned(number);
-    PutSides(record.Destination, bytes);
-    PutSides(record.Source, bytes);
+    bytes.PutBytes({reinterpret_cast<const char*>(&record), sizeof record});
 }
 
 bool ReadImage(TeskDrawRecord& record, ItemView& bytes, BoundaryNames&)
 {
     if (!TakeTag(bytes, Image))
         return false;
-    record.Flags = static_cast<u32>(bytes.TakeUnsigned());
-    record.TextureID = static_cast<u32>(bytes.TakeUnsigned());
-    for (u8* byte : {&record.Alpha, &record.Orientation, &record.Padding[0], &record.Padding[1]})
-        *byte = static_cast<u8>(bytes.TakeUnsigned());
-    record.ColorMask = static_cast<u32>(bytes.TakeUnsigned());
-    record.Destination = TakeSides(bytes);
-    record.Source = TakeSides(bytes);
+    record = bytes.TakeRaw<TeskDrawRecord>();
     return true;
 }
 

@@ -6,27 +6,43 @@
 #include <string>
 #include <string_view>
 #include <type_traits>
+#include <vector>
 
 namespace host {
 
-// Bytes that are put together: numbers take seven bits to a byte, the lowest first.
+// Bytes that are put together: numbers take seven bits to a byte, the lowest first. Every call of a recorded frame goes
+// through here, so room is looked for once a number and not once a byte.
 class ItemBytes
 {
 public:
-    void Clear() { m_Bytes.clear(); }
-    void Truncate(std::size_t size) { m_Bytes.resize(size); }
-    std::string_view View() const { return m_Bytes; }
-    std::size_t Size() const { return m_Bytes.size(); }
+    void Clear() { m_Size = 0; }
+    void Truncate(std::size_t size) { m_Size = size; }
+    std::string_view View() const { return {m_Room.data(), m_Size}; }
+    std::size_t Size() const { return m_Size; }
 
-    void PutByte(u8 byte) { m_Bytes += static_cast<char>(byte); }
-    void SetByte(std::size_t at, u8 byte) { m_Bytes[at] = static_cast<char>(byte); }
-    void PutBytes(std::string_view bytes) { m_Bytes += bytes; }
+    void PutByte(u8 byte)
+    {
+        *RoomFor(1) = static_cast<char>(byte);
+        ++m_Size;
+    }
+    void SetByte(std::size_t at, u8 byte) { m_Room[at] = static_cast<char>(byte); }
+
+    void PutBytes(std::string_view bytes)
+    {
+        if (bytes.empty())
+            return;
+        std::memcpy(RoomFor(bytes.size()), bytes.data(), bytes.size());
+        m_Size += bytes.size();
+    }
 
     void PutUnsigned(u64 number)
     {
+        char* const begin = RoomFor(LongestNumber);
+        char* end = begin;
         for (; number >= 0x80; number >>= 7)
-            PutByte(static_cast<u8>(number | 0x80));
-        PutByte(static_cast<u8>(number));
+            *end++ = static_cast<char>(number | 0x80);
+        *end++ = static_cast<char>(number);
+        m_Size += static_cast<std::size_t>(end - begin);
     }
 
     void PutSigned(i64 number) { PutUnsigned((static_cast<u64>(number) << 1) ^ static_cast<u64>(number >> 63)); }
@@ -40,11 +56,21 @@ public:
     template <class Plain> void PutRaw(const Plain& plain)
     {
         static_assert(std::is_arithmetic_v<Plain>);
-        m_Bytes.append(reinterpret_cast<const char*>(&plain), sizeof plain);
+        PutBytes({reinterpret_cast<const char*>(&plain), sizeof plain});
     }
 
 private:
-    std::string m_Bytes;
+    static constexpr std::size_t LongestNumber = 10;
+
+    char* RoomFor(std::size_t bytes)
+    {
+        if (m_Room.size() - m_Size < bytes)
+            m_Room.resize(2 * m_Room.size() + bytes);
+        return m_Room.data() + m_Size;
+    }
+
+    std::vector<char> m_Room;
+    std::size_t m_Size = 0;
 };
 
 // Takes such bytes apart. Once something is missing everything that follows is nothing, and IsBroken tells.

@@ -3,6 +3,7 @@
 #include "host/record/ItemBytes.h"
 #include "host/record/Operation.h"
 #include "host/record/RecordingFormat.h"
+#include "teskara/core/HostInterface.h"
 
 #include <charconv>
 
@@ -15,7 +16,6 @@ using namespace RecordingFormat;
 constexpr std::size_t LongestText = 200;
 constexpr unsigned NumbersOfPoint = 2;
 constexpr unsigned NumbersOfRectangle = 4;
-constexpr unsigned NumbersOfImage = 7; // before its two rectangles
 
 template <class Real> std::string RealText(Real number)
 {
@@ -47,13 +47,22 @@ std::string SidesText(ItemView& bytes, unsigned count)
     return text + '}';
 }
 
+std::string SidesText(const tagRECT& rect)
+{
+    std::string text;
+    for (const i32 side : {rect.left, rect.top, rect.right, rect.bottom})
+        (text += text.empty() ? "{" : ", ") += std::to_string(side);
+    return text + '}';
+}
+
 std::string ImageText(ItemView& bytes)
 {
+    const auto record = bytes.TakeRaw<TeskDrawRecord>();
     std::string text = "image {";
-    for (unsigned index = 0; index < NumbersOfImage; ++index)
-        text += (index > 0 ? ", " : "") + std::to_string(bytes.TakeUnsigned());
-    text += "} to " + SidesText(bytes, NumbersOfRectangle);
-    return text + " from " + SidesText(bytes, NumbersOfRectangle);
+    for (const u32 number : {record.Flags, record.TextureID, u32{record.Alpha}, u32{record.Orientation}})
+        (text += std::to_string(number)) += ", ";
+    text += std::to_string(record.ColorMask) + "} to " + SidesText(record.Destination);
+    return text + " from " + SidesText(record.Source);
 }
 
 std::string ValueText(ItemView& bytes);

@@ -44,7 +44,7 @@ enum Tag : u8 {
     Text = 't', // length and bytes
     Point = 'p', // two numbers
     Rectangle = 'r', // four numbers
-    Image = 'i', // what a draw record says, as numbers
+    Image = 'i', // the bytes of a draw record
     Object = 'o', // the number that it got when it was first seen, and whether its serial number was told
     Type = 'y', // T or H, toolkit's or host's, and its name
     List = 'l', // a count, then so many values
