@@ -234,7 +234,7 @@ void LintChecks::EmptyValue(LintContext& context)
         if (isBlank)
             context.Report(value, "with nothing but blanks in it " + name + BlankMeaning(*value.Value), meant);
         else
-            context.Report(value, "an empty " + name + meaning, meant);
+            context.Report(value, ("an empty " + name).append(meaning), meant);
     }
 }
 
