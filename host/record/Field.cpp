@@ -4,7 +4,6 @@
 #include "host/record/RecordingFormat.h"
 
 #include <algorithm>
-#include <cstring>
 #include <string_view>
 
 namespace host {
@@ -163,9 +162,9 @@ bool ReadTextBuffer(TextBuffer& buffer, ItemView& bytes, BoundaryNames&)
     if (!TakeTag(bytes, Text))
         return false;
     const std::string_view text = bytes.TakeText();
-    if (!buffer.Bytes || text.size() > buffer.Size)
-        return text.empty();
-    std::memcpy(buffer.Bytes, text.data(), text.size());
+    if (bytes.IsBroken() || !buffer.Bytes || text.size() > buffer.Size)
+        return text.empty() && !bytes.IsBroken();
+    text.copy(buffer.Bytes, text.size());
     if (text.size() < buffer.Size)
         buffer.Bytes[text.size()] = 0;
     return true;

@@ -150,7 +150,11 @@ bool ReadHex(std::string_view text, u32& value)
     return true;
 }
 
-// The comparisons are those that do not trap on what is no number, and find it in no range.
+// The comparisons are those that do not trap on what is no number, and find it in no range. Clang must be told that this
+// matters; else it compares otherwise, and converts before it knows.
+#ifdef __clang__
+#pragma STDC FENV_ACCESS ON
+#endif
 
 i32 TruncateToI32(double value)
 {
