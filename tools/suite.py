@@ -7,6 +7,7 @@ import re
 import subprocess
 import sys
 import time
+from concurrent.futures import ThreadPoolExecutor
 from pathlib import Path
 
 import coverage
@@ -16,6 +17,7 @@ ROOT = Path(__file__).resolve().parent.parent
 FUZZ_SECONDS = 60
 CORPUS_VARIATIONS = 25
 LONGEST_STAGE_SECONDS = 900
+SHARES = 2  # of a long stage, at the same time
 HARSH_LOCALE = "de_DE.UTF-8"
 
 SANITIZER_ENVIRONMENT = {
@@ -91,41 +93,73 @@ def lint(tally):
         tally.fail(f"lint of {name}", f"clang-tidy -p build/dev {name}")
 
 
+def in_shares(tally, work):
+    """Runs work(tally, number) for each share of a stage at the same time."""
+    tallies = [Tally() for _ in range(SHARES)]
+    with ThreadPoolExecutor(SHARES) as pool:
+        list(pool.map(work, tallies, range(SHARES)))
+    for share in tallies:
+        tally.passed += share.passed
+        tally.failures += share.failures
+
+
+def names_of_tests(program):
+    names, suite = [], ""
+    for line in run([program, "--gtest_list_tests"])[1].splitlines():
+        name = line.split("#")[0].rstrip()
+        if name.startswith("  "):
+            names.append(suite + name.strip())
+        elif name.endswith("."):
+            suite = name
+    return names
+
+
 def unit_tests(tally, preset):
     say(f"build/{preset}: unit tests")
     program = f"build/{preset}/bin/teskara_unit"
     if not (ROOT / program).exists():
         return
-    done = []
-    while True:
+    names = names_of_tests(program)
+    if not names:
+        tally.fail(f"list of {program}", f"{program} --gtest_list_tests")
+    in_shares(tally, lambda share, number: run_tests(share, program, names[number::SHARES]))
+
+
+def run_tests(tally, program, names):
+    while names:
         # After a crash the tests that had not had their turn are run by themselves.
-        status, output = run([program, f"--gtest_filter=*:-{':'.join(done)}"])
-        names = re.findall(r"^\[ RUN      \] (\S+)", output, re.MULTILINE)
+        status, output = run([program, f"--gtest_filter={':'.join(names)}"])
+        begun = re.findall(r"^\[ RUN      \] (\S+)", output, re.MULTILINE)
         good = set(re.findall(r"^\[       OK \] (\S+)", output, re.MULTILINE))
         finished = good | set(re.findall(r"^\[  (?:FAILED|SKIPPED) +\] (\S+?),? ", output, re.MULTILINE))
         tally.ok(len(good))
-        for name in names:
+        for name in begun:
             if name not in good:
                 tally.fail(name, f"{program} --gtest_filter={name}")
-        done += names
-        crashed = [name for name in names if name not in finished]
         if status != 0:
             passed = r"^\[ RUN      \] .*\n\[       OK \] .*\n|^\[[-=]+\].*\n+"
             print(re.sub(passed, "", output, flags=re.MULTILINE).strip())
-        if status == 0 or not crashed:
-            if status != 0 and len(good) == len(names):
+        if all(name in finished for name in begun):
+            missed = [name for name in names if name not in begun]
+            if missed or (status != 0 and len(good) == len(begun)):
                 tally.fail(f"end of {program}", program)
             return
+        names = [name for name in names if name not in begun]
 
 
 def transcripts(tally, preset):
     say(f"build/{preset}: transcripts")
-    command = [f"build/{preset}/bin/teskara", "probe", "--check", "tests/transcripts"]
-    status, output = run(command)
+    folders = sorted(path.relative_to(ROOT) for path in (ROOT / "tests/transcripts").iterdir())
+    program = f"build/{preset}/bin/teskara"
+    in_shares(tally, lambda share, number: check_transcripts(share, program, folders[number::SHARES]))
+
+
+def check_transcripts(tally, program, folders):
+    status, output = run([program, "probe", "--check", *folders])
     counts = re.findall(r"^(\d+) passed, (\d+) failed$", output, re.MULTILINE)
     if not counts:
         print(output.rstrip())
-        tally.fail("transcripts", " ".join(command))
+        tally.fail("transcripts", f"{program} probe --check tests/transcripts")
         return
 
     passed, failed = map(int, counts[-1])
@@ -136,7 +170,7 @@ def transcripts(tally, preset):
     names = list(dict.fromkeys(re.findall(r"^\S+\.probe", output, re.MULTILINE)))[:failed]
     for name in names + ["a transcript"] * (max(failed, 1) - len(names)):
         rerun = name if name in names else "tests/transcripts"
-        tally.fail(name, f"build/{preset}/bin/teskara probe --check {rerun}")
+        tally.fail(name, f"{program} probe --check {rerun}")
 
 
 def fuzz_targets():
