@@ -225,6 +225,11 @@ def reference(tally):
     check(tally, "reference", ["tools/check_reference.py", "build/dev/bin/teskara"])
 
 
+def exports(tally):
+    say("build/dev: exported names and virtual tables are those that programs were built against")
+    check(tally, "exports", ["tools/check_exports.py", "build/dev/lib/libteskara.so"])
+
+
 def samples(tally, preset):
     """What this project shows to others must hold nothing that its own program finds fault with."""
     say(f"build/{preset}: samples have nothing that teskara lint finds")
@@ -372,6 +377,7 @@ def main():
         built = behaviour(tally, "dev", with_pictures=not options.quick)
         if built:
             reference(tally)
+            exports(tally)
         if not options.quick:
             if built:
                 lint(tally)
