@@ -79,8 +79,19 @@ CTeskTab* TeskTabControl::MakeTab(const char* name, const char* frameName)
     if (!tab)
         return nullptr;
 
-    tab->Frame = TeskElementFactory::New<TeskFrame>(FrameKind, this, frameName);
-    if (tab->Frame)
+    const u32 id = tab->ID;
+    const u64 serial = tab->Serial;
+    const ElementWatch self(*this);
+    auto* frame = TeskElementFactory::New<TeskFrame>(FrameKind, this, frameName);
+    if (!self.Exists())
+        return nullptr;
+    if (!IsTab(id, serial)) {
+        if (frame)
+            DeleteChild(frame);
+        return nullptr;
+    }
+    tab->Frame = frame;
+    if (frame)
         return tab;
 
     DropTab(*tab);

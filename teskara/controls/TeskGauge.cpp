@@ -57,11 +57,15 @@ bool TeskGauge::FromXML(XMLNode* node, XMLNode* templateNode)
 // Computes the filler's size at once: the gauge's own may never change. False: the gauge was deleted meanwhile.
 bool TeskGauge::MakeFiller(XMLNode* node)
 {
-    Filler = TeskElementFactory::New<TeskGaugeFiller>(FillerPart.Form, this, "filler");
+    const ElementWatch self(*this);
+    auto* made = TeskElementFactory::New<TeskGaugeFiller>(FillerPart.Form, this, "filler");
+    if (!self.Exists())
+        return false;
+
+    Filler = made;
     if (!Filler)
         return true;
 
-    const ElementWatch self(*this);
     const ElementWatch filler(Filler);
     const bool read = Filler->FromXML(node);
     if (!filler.Exists())

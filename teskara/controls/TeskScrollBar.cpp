@@ -89,7 +89,7 @@ bool CreatePart(TeskScrollBar& bar, Part* TeskScrollBar::*field, const char* kin
     const ElementWatch watch(bar);
     Part* part = TeskElementFactory::New<Part>(kind, &bar, name);
     if (!part)
-        return true;
+        return watch.Exists();
 
     bar.*field = part;
     fill(*part);
