@@ -32,7 +32,7 @@ int main(int argc, char** argv)
 {
     int exitCode = ExitDone;
     CLI::App app("Shows, photographs and probes interfaces made for Teskara.", "teskara");
-    app.set_version_flag("--version", "teskara 0.1.0");
+    app.set_version_flag("--version", "teskara " TESKARA_VERSION);
     app.require_subcommand(1);
     AddRunCommand(app, exitCode);
     AddShotCommand(app, exitCode);

@@ -221,8 +221,9 @@ def pictures(tally, preset):
 
 
 def reference(tally):
-    say("build/dev: docs/reference is what the program makes, and its schema takes all interfaces")
+    say("build/dev: docs/reference is what the program makes, its schema takes all interfaces, the manual tells all")
     check(tally, "reference", ["tools/check_reference.py", "build/dev/bin/teskara"])
+    check(tally, "manual", ["tools/check_manual.py", "build/dev/bin/teskara"])
 
 
 def exports(tally):
@@ -241,23 +242,45 @@ def samples(tally, preset):
           [f"build/{preset}/bin/teskara", "lint", "--strict", "--no-scripts", "examples/minimal_host/hello.xml"])
 
 
-def installed_copy(tally):
-    say("an installed copy: the program starts from it, a client and the example build against it")
-    prefix, client = ROOT / "build/installed", ROOT / "build/installed_client"
-    if not check(tally, "install", ["cmake", "--install", "build/dev", "--prefix", prefix]):
-        return
-    check(tally, "installed program", [prefix / "bin/teskara", "--help"])
-    if check(tally, "client of an installed copy",
-             ["cmake", "-S", "tests/installed", "-B", client, "-G", "Ninja", f"-DCMAKE_PREFIX_PATH={prefix}"]):
-        check(tally, "build of a client", ["cmake", "--build", client])
-        check(tally, "run of a client", [client / "client"])
-    example = ROOT / "build/minimal_host"
+def installed_copies(tally):
+    say("an installed copy, and unpacked packages: the program starts from them, programs build against them")
+    installed, packages = ROOT / "build/installed", ROOT / "build/packages/root/usr"
+    if check(tally, "install", ["cmake", "--install", "build/dev", "--prefix", installed]):
+        client = ROOT / "build/installed_client"
+        if check(tally, "client of an installed copy",
+                 ["cmake", "-S", "tests/installed", "-B", client, "-G", "Ninja", f"-DCMAKE_PREFIX_PATH={installed}"]):
+            check(tally, "build of a client", ["cmake", "--build", client])
+            check(tally, "run of a client", [client / "client"])
+        try_copy(tally, "an installed copy", installed)
+    if check(tally, "packages", ["tools/check_packages.py", "build/dev"]):
+        try_copy(tally, "unpacked packages", packages)
+
+
+def try_copy(tally, name, prefix):
+    """A copy of the toolkit under a folder: its program, and programs made with CMake and with pkg-config."""
+    work = ROOT / "build/copies" / prefix.parent.name
+    work.mkdir(parents=True, exist_ok=True)
+    check(tally, f"program of {name}", [prefix / "bin/teskara", "shot", "desktop.xml", "-o", work / "desktop.png"])
+
+    client = work / "client"
+    flags = f"$(PKG_CONFIG_PATH={prefix}/lib/pkgconfig pkg-config --cflags --libs teskara)"
+    if check(tally, f"client of {name} by pkg-config",
+             ["sh", "-c", f"g++ -std=c++20 -o {client} tests/installed/Client.cpp {flags}"]):
+        check(tally, f"run of a client of {name}", ["env", f"LD_LIBRARY_PATH={prefix}/lib", client])
+
+    example = work / "minimal_host"
     font = "/usr/share/fonts/truetype/dejavu/DejaVuSans.ttf"
-    if check(tally, "example against an installed copy", ["cmake", "-S", "examples/minimal_host", "-B", example, "-G", "Ninja",
-                                                          f"-DCMAKE_PREFIX_PATH={prefix}"]):
+    if check(tally, f"example against {name}",
+             ["cmake", "-S", "examples/minimal_host", "-B", example, "-G", "Ninja", f"-DCMAKE_PREFIX_PATH={prefix}"]):
         check(tally, "build of the example", ["cmake", "--build", example])
         check(tally, "run of the example", ["env", "SDL_VIDEODRIVER=offscreen", "SDL_RENDER_DRIVER=software",
                                             example / "minimal_host", "examples/minimal_host/hello.xml", font, "20"])
+
+
+def packages(tally):
+    if build(tally, "package"):
+        say("build/package: packages, installed and used on a bare Debian 12")
+        check(tally, "packages on a bare system", ["tools/check_packages.py", "build/package", "--bare"])
 
 
 def bounds(tally, preset):
@@ -355,6 +378,8 @@ def main():
     parser.add_argument("--bounds", action="store_true", help="what hostile markup may cost in time and memory")
     parser.add_argument("--harsh", action="store_true",
                         help="unit tests and transcripts with a decimal comma, traps of floats and a small stack")
+    parser.add_argument("--packages", action="store_true",
+                        help="Debian packages, installed and used on a bare system; as root")
     parser.add_argument("--soak", type=int, metavar="MINUTES", help="a long run of the desktop, with a clock that is driven")
     options = parser.parse_args()
 
@@ -366,6 +391,8 @@ def main():
         long_soak(tally, options.soak)
     elif options.coverage:
         cover(tally)
+    elif options.packages:
+        packages(tally)
     elif options.bounds:
         if build(tally, "release"):
             bounds(tally, "release")
@@ -381,7 +408,7 @@ def main():
         if not options.quick:
             if built:
                 lint(tally)
-                installed_copy(tally)
+                installed_copies(tally)
             behaviour(tally, "sanitize", with_pictures=True)
 
     say(f"done in {time.monotonic() - start:.0f} s")
