@@ -41,7 +41,7 @@ export DEBIAN_FRONTEND=noninteractive
 apt-get install -y -qq --no-install-recommends /packages/libteskara[0-9]*.deb /packages/teskara_*.deb
 cd /tmp
 teskara --version
-teskara lint --strict desktop.xml
+teskara lint --strict /usr/share/teskara/interfaces/*.xml
 teskara shot desktop.xml -o desktop.png
 apt-get install -y -qq --no-install-recommends /packages/libteskara-dev_*.deb g++ pkg-config
 g++ -std=c++20 -o client /packages/Client.cpp $(pkg-config --cflags --libs teskara)
@@ -86,7 +86,11 @@ def use_on_a_bare_system(files):
             shutil.copytree(Path("/", settings), bare / settings, dirs_exist_ok=True)
         else:
             shutil.copy(Path("/", settings), bare / settings)
-    print(run("chroot", bare, "sh", "-c", FIRST_STEPS).splitlines()[-1])
+    run("mount", "-t", "proc", "proc", bare / "proc")
+    try:
+        run("chroot", bare, "sh", "-c", FIRST_STEPS)
+    finally:
+        run("umount", bare / "proc")
     if not (bare / "tmp/desktop.png").exists():
         sys.exit("no picture was made")
     shutil.rmtree(bare)
