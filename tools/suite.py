@@ -40,8 +40,13 @@ class Tally:
         self.failures.append((name, rerun))
 
 
+BEGUN = time.monotonic()
+
+
 def say(text):
-    print(f"== {text}", flush=True)
+    """Announces a stage, with the minutes and seconds since the run began."""
+    minutes, seconds = divmod(int(time.monotonic() - BEGUN), 60)
+    print(f"== {minutes:02}:{seconds:02} {text}", flush=True)
 
 
 def run(command):
@@ -384,7 +389,7 @@ def main():
     options = parser.parse_args()
 
     sys.stdout.reconfigure(line_buffering=True)
-    tally, start = Tally(), time.monotonic()
+    tally = Tally()
     if options.fuzz:
         fuzz(tally)
     elif options.soak:
@@ -411,7 +416,7 @@ def main():
                 installed_copies(tally)
             behaviour(tally, "sanitize", with_pictures=True)
 
-    say(f"done in {time.monotonic() - start:.0f} s")
+    say("done")
     for name, rerun in tally.failures:
         print(f"FAILED {name}\n    again: {rerun}")
     print(f"{tally.passed} passed, {len(tally.failures)} failed", flush=True)
