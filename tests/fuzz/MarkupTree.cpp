@@ -95,6 +95,14 @@ std::vector<MarkupTree*> MarkupTree::All()
     return all;
 }
 
+std::size_t MarkupTree::CountNodes() const
+{
+    std::size_t count = 1;
+    for (const auto& child : Children)
+        count += child->CountNodes();
+    return count;
+}
+
 bool MarkupTree::IsSame(const XMLNode* node) const
 {
     if (!node || node->Type != Type || node->Name != Name || !HasAttributes(*node, *this))

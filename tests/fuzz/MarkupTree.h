@@ -2,6 +2,7 @@
 
 #include "teskara/markup/XMLNode.h"
 
+#include <cstddef>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -27,6 +28,9 @@ struct MarkupTree {
 
     // All nodes in the order of the markup, this one first.
     std::vector<MarkupTree*> All();
+
+    // How many All would tell of.
+    std::size_t CountNodes() const;
 
     // Whether the toolkit's tree says the same, and its links fit.
     bool IsSame(const XMLNode* node) const;
