@@ -25,7 +25,12 @@ LAYERS = {
     "collections": BELOW_CONTROLS | {"controls", "collections"},
     "windows": BELOW_WINDOWS | {"windows"},
     "script": TOOLKIT,
+    "flat": TOOLKIT | {"flat", "host.h"},
 }
+
+# The header for programs in C, alone at the top. It is not C++, so it includes the C library's headers.
+C_HEADER = "teskara/host.h"
+C_HEADER_INCLUDES = {"teskara/core/Export.h", "stdbool.h", "stddef.h", "stdint.h", "stdio.h"}
 
 # Where layers meet: these sources, never headers, see above their folder.
 MEETING_SOURCES = {
@@ -75,6 +80,8 @@ def includes_of(text):
 def may_include(path, name):
     top, folder = path.split("/")[:2]
     target_top, target_folder = (name.split("/") + [""])[:2]
+    if name.startswith("teskara/flat/"):
+        return folder == "flat" or top == "tests"
     if top != "teskara":
         return target_top == top or target_top in AROUND[top]
     if target_top != "teskara":
@@ -89,6 +96,10 @@ def may_include(path, name):
 
 def check_includes(path, text, files):
     includes = includes_of(text)
+    if path == C_HEADER:
+        yield from (f"{path} includes {name}, which a program in C may not have"
+                    for _, name in includes if name not in C_HEADER_INCLUDES)
+        return
     for quoted, name in includes:
         if not quoted:
             if path.startswith("teskara/") and not path.startswith(SYSTEM_HEADERS_ALLOWED_IN):

@@ -61,6 +61,18 @@ class Checks(unittest.TestCase):
             "host/Host.h": "#pragma once\n",
             "teskara/core/Down.h": '#pragma once\n#include "host/Host.h"\n'})
 
+    def test_nothing_sees_what_stands_behind_the_header_for_c(self):
+        flat = {"teskara/flat/FlatHost.h": '#pragma once\n#include "teskara/core/Numbers.h"\n'}
+        self.assertEqual(list(check_layers.findings(self.tree(flat))), [])
+        for path in ("teskara/script/Up.h", "host/Up.h"):
+            self.finds("may not see", {**flat, path: '#pragma once\n#include "teskara/flat/FlatHost.h"\n'})
+
+    def test_the_header_for_c_includes_no_header_of_c_plus_plus(self):
+        plain = "#pragma once\n#include <stdint.h>\n"
+        self.assertEqual(list(check_layers.findings(self.tree({"teskara/host.h": plain}))), [])
+        for name in ("<cstdint>", '"teskara/core/Numbers.h"'):
+            self.finds("a program in C", {"teskara/host.h": plain + f"#include {name}\n"})
+
     def test_the_toolkit_must_not_see_a_third_party(self):
         self.finds("not of the standard library", {"teskara/core/Draw.h": "#pragma once\n#include <SDL2/SDL.h>\n"})
 
