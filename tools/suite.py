@@ -256,6 +256,7 @@ def installed_copies(tally):
                  ["cmake", "-S", "tests/installed", "-B", client, "-G", "Ninja", f"-DCMAKE_PREFIX_PATH={installed}"]):
             check(tally, "build of a client", ["cmake", "--build", client])
             check(tally, "run of a client", [client / "client"])
+            check(tally, "run of a client in C", [client / "c_client"])
         try_copy(tally, "an installed copy", installed)
     if check(tally, "packages", ["tools/check_packages.py", "build/dev"]):
         try_copy(tally, "unpacked packages", packages)
@@ -280,6 +281,17 @@ def try_copy(tally, name, prefix):
         check(tally, "build of the example", ["cmake", "--build", example])
         check(tally, "run of the example", ["env", "SDL_VIDEODRIVER=offscreen", "SDL_RENDER_DRIVER=software",
                                             example / "minimal_host", "examples/minimal_host/hello.xml", font, "20"])
+    try_example_in_c(tally, name, prefix, work / "minimal_host_c")
+
+
+def try_example_in_c(tally, name, prefix, example):
+    if check(tally, f"example in C against {name}",
+             ["cmake", "-S", "examples/minimal_host_c", "-B", example, "-G", "Ninja", f"-DCMAKE_PREFIX_PATH={prefix}"]):
+        check(tally, "build of the example in C", ["cmake", "--build", example])
+        clicks = "Bigger@Hello Quit@Hello"
+        check(tally, "run of the example in C",
+              ["sh", "-c", f"{example}/minimal_host_c examples/minimal_host/hello.xml {clicks} | "
+                           "diff tests/installed/minimal_host_c.txt -"])
 
 
 def packages(tally):
