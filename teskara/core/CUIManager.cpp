@@ -3,7 +3,7 @@
 #include "teskara/core/BoundedText.h"
 #include "teskara/core/HostCalls.h"
 #include "teskara/core/OwnThread.h"
-#include "teskara/core/platform/Platform.h"
+#include "teskara/core/platform/PlatformCalls.h"
 #include "teskara/element/TeskElement.h"
 #include "teskara/element/TeskScreen.h"
 #include "teskara/script/Commands.h"
@@ -27,7 +27,7 @@ private:
 
 } // namespace
 
-CUIManager::CUIManager() : FrameTick(CurrentPlatform().GetTickCount()) { }
+CUIManager::CUIManager() : FrameTick(System::GetTickCount()) { }
 
 CUIManager::~CUIManager()
 {
@@ -42,7 +42,7 @@ CUIManager::~CUIManager()
 // The host may shut the toolkit down while it is asked to register something.
 void CUIManager::Initialize()
 try {
-    if (!Host::g_Host || m_InShutdown || m_TearingDown)
+    if (!Host::g_Host || Host::IsAnswering() || m_InShutdown || m_TearingDown)
         return;
 
     OwnThread::Remember();
@@ -57,7 +57,7 @@ try {
 
 void CUIManager::Shutdown()
 try {
-    if (m_InShutdown || !Host::g_Host)
+    if (m_InShutdown || !Host::g_Host || Host::IsAnswering())
         return;
 
     m_InShutdown = true;
@@ -110,7 +110,7 @@ void CUIManager::DestroyScreen()
 
 void CUIManager::Reset()
 try {
-    if (!Screen)
+    if (!Screen || Host::IsAnswering())
         return;
 
     DestroyScreen();
@@ -123,13 +123,13 @@ try {
 void CUIManager::Render()
 try {
     OwnThread::Expect("Render");
-    if (m_InRender || !Screen)
+    if (m_InRender || !Screen || Host::IsAnswering())
         return;
 
     const FlagScope inRender(m_InRender);
     if (LeftButtonState == ButtonUp && RightButtonState == ButtonUp)
         SetMouseOverElement();
-    FrameTick = CurrentPlatform().GetTickCount();
+    FrameTick = System::GetTickCount();
     if (Screen)
         Screen->RecalculateSize(true);
     if (!Screen)

@@ -1,7 +1,8 @@
 // Which element has the keyboard, and which the mouse.
 
 #include "teskara/core/CUIManager.h"
-#include "teskara/core/platform/Platform.h"
+#include "teskara/core/HostCalls.h"
+#include "teskara/core/platform/PlatformCalls.h"
 #include "teskara/element/ElementWatch.h"
 #include "teskara/element/TeskElement.h"
 #include "teskara/element/TeskScreen.h"
@@ -44,7 +45,7 @@ try {
         return nullptr;
 
     TeskElement* element = FindElementByID(id);
-    if (element && element->IsReallyVisible())
+    if (element && (Host::IsAnswering() || element->IsReallyVisible()))
         return element;
 
     if (!element || ExitFocus(*element, nullptr))
@@ -56,6 +57,9 @@ try {
 
 void CUIManager::SetFocusElement(TeskElement* element)
 try {
+    if (Host::IsAnswering())
+        return;
+
     TeskElement* present = FindElementByID(FocusElementID);
     if (!element) {
         if (!present || ExitFocus(*present, nullptr))
@@ -80,6 +84,9 @@ try {
 
 TeskElement* CUIManager::SetFocusElement()
 try {
+    if (Host::IsAnswering())
+        return nullptr;
+
     // A focus element that was hidden hears of it twice: once by the question, and once here.
     const ElementWatch element(FindElementByID(FocusElementID));
     if (!GetFocusElement() && element.Exists())
@@ -125,6 +132,9 @@ TeskElement* CUIManager::LastMouseOver() const
 
 TeskElement* CUIManager::SetMouseOverElement()
 try {
+    if (Host::IsAnswering())
+        return LastMouseOver();
+
     // The capturing control relies on being entered again at each search.
     if (TeskElement* capture = FindElementByID(MouseCaptureElementID)) {
         if (TeskElement* found = capture->FindMouseOver(MousePosition, nullptr)) {
@@ -159,7 +169,7 @@ try {
 // Null: the element died, by this or before.
 TeskElement* CUIManager::EnterMouseOver(const ElementWatch& watch)
 {
-    MouseEnterTick = CurrentPlatform().GetTickCount();
+    MouseEnterTick = System::GetTickCount();
     TooltipElementID = 0;
     if (TeskElement* element = watch.Get()) {
         _Point2i point = MousePosition;

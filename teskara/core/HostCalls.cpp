@@ -11,6 +11,7 @@ namespace Host {
 
 HostObject* g_Host = nullptr;
 HostScriptInterface* g_ScriptHost = nullptr;
+u32 g_Answering = 0;
 
 namespace {
 
@@ -31,15 +32,26 @@ bool FindPath(FindFile find, const char* name, char* path, std::size_t size) noe
 }
 
 // Calls an operation that writes a text: the buffer is empty if it writes nothing, and terminated in any case.
-template <class Operation> bool CallForText(char* buffer, u32 size, Operation&& operation) noexcept
+template <class Caller> bool FillText(char* buffer, u32 size, Caller&& call) noexcept
 {
     if (!buffer || size == 0)
         return false;
 
     buffer[0] = 0;
-    const bool done = Call(false, operation);
+    const bool done = call();
     buffer[size - 1] = 0;
     return done;
+}
+
+template <class Operation> bool CallForText(char* buffer, u32 size, Operation&& operation) noexcept
+{
+    return FillText(buffer, size, [&] { return Call(false, operation); });
+}
+
+// The same from where the host may call back.
+template <class Operation> bool CallOutForText(char* buffer, u32 size, Operation&& operation) noexcept
+{
+    return FillText(buffer, size, [&] { return CallOut(g_Host, false, operation); });
 }
 
 } // namespace
@@ -54,7 +66,7 @@ void PrintLine(const char* format, ...) noexcept
     va_start(arguments, format);
     std::vsnprintf(line, sizeof(line), format, arguments);
     va_end(arguments);
-    Call([&](HostObject& host) { host.PrintLine("%s", line); });
+    CallOut([&](HostObject& host) { host.PrintLine("%s", line); });
 }
 
 u32 CompileAtom(const std::string& source) noexcept
@@ -70,13 +82,13 @@ void ReleaseAtom(u32 atom) noexcept
 
 int ExecuteAtom(u32 atom, int argc, char** argv, _MvTypeVar* self) noexcept
 {
-    return Call(0, [&](HostObject& host) { return host.ExecuteAtom(atom, 0, argc, argv, self); });
+    return CallOut(g_Host, 0, [&](HostObject& host) { return host.ExecuteAtom(atom, 0, argc, argv, self); });
 }
 
 int ExecuteAtomForText(u32 atom, int argc, char** argv, _MvTypeVar* self, char* output, u32 size) noexcept
 {
     int result = 0;
-    CallForText(output, size, [&](HostObject& host) {
+    CallOutForText(output, size, [&](HostObject& host) {
         result = host.ExecuteAtomForText(atom, argc, argv, self, 0, output, size);
         return true;
     });
@@ -90,18 +102,18 @@ u32 FindAtom(const char* name) noexcept
 
 int ExecuteCommand(const char* text) noexcept
 {
-    return Call(0, [&](HostObject& host) { return host.ExecuteCommand(text); });
+    return CallOut(g_Host, 0, [&](HostObject& host) { return host.ExecuteCommand(text); });
 }
 
 const char* CompleteCommandLine(const char* text, bool shift) noexcept
 {
-    return Call(
-        static_cast<const char*>(nullptr), [&](HostObject& host) { return host.CompleteCommandLine(text, shift); });
+    return CallOut(g_Host, static_cast<const char*>(nullptr),
+        [&](HostObject& host) { return host.CompleteCommandLine(text, shift); });
 }
 
 void DataParse(const char* text, char* output, u32 size) noexcept
 {
-    CallForText(output, size, [&](HostObject& host) {
+    CallOutForText(output, size, [&](HostObject& host) {
         host.DataParse(text, output, size);
         return true;
     });
@@ -120,13 +132,13 @@ bool RetrieveOriginalText(u32 sequence, char* buffer, u32 size) noexcept
 
 bool RetrieveProcessedText(u32 sequence, char* buffer, u32 size) noexcept
 {
-    return CallForText(
+    return CallOutForText(
         buffer, size, [&](HostObject& host) { return host.RetrieveProcessedText(sequence, buffer, size); });
 }
 
 bool RetrieveProcessedResult(u32 sequence, _MvTypeVar& result) noexcept
 {
-    return Call(false, [&](HostObject& host) { return host.RetrieveProcessedResult(sequence, result); });
+    return CallOut(g_Host, false, [&](HostObject& host) { return host.RetrieveProcessedResult(sequence, result); });
 }
 
 void FreeSequence(u32 sequence) noexcept
@@ -137,7 +149,7 @@ void FreeSequence(u32 sequence) noexcept
 bool Calculate(const char* text, double& result) noexcept
 {
     result = 0;
-    return Call(false, [&](HostObject& host) { return host.Calculate(text, result); });
+    return CallOut(g_Host, false, [&](HostObject& host) { return host.Calculate(text, result); });
 }
 
 bool GetKeyName(u32 key, char* buffer, u32 size) noexcept
@@ -162,17 +174,17 @@ bool OpenClipboard() noexcept
 
 void InvalidateObject(u32 classID, void* object) noexcept
 {
-    Call([&](HostObject& host) { host.InvalidateObject(classID, object); });
+    CallOut([&](HostObject& host) { host.InvalidateObject(classID, object); });
 }
 
 void SaveElementPosition(TeskElement* element) noexcept
 {
-    Call([&](HostObject& host) { host.SaveElementPosition(element); });
+    CallOut([&](HostObject& host) { host.SaveElementPosition(element); });
 }
 
 void LoadElementPosition(TeskElement* element) noexcept
 {
-    Call([&](HostObject& host) { host.LoadElementPosition(element); });
+    CallOut([&](HostObject& host) { host.LoadElementPosition(element); });
 }
 
 void GetOutputConsole(char* buffer, u32 size) noexcept
@@ -185,7 +197,7 @@ void GetOutputConsole(char* buffer, u32 size) noexcept
 
 void SetOutputConsole(const char* name) noexcept
 {
-    Call([&](HostObject& host) { host.SetOutputConsole(name); });
+    CallOut([&](HostObject& host) { host.SetOutputConsole(name); });
 }
 
 u32 CreateFontResource(const char* name, u8 height, bool fixed, bool bold) noexcept
@@ -233,49 +245,50 @@ bool GetGlyphAdvance(u32 font, u32 character, float& advance) noexcept
 
 MvTypeDefinition* FindType(const char* name) noexcept
 {
-    return Call<MvTypeDefinition*>(nullptr, [&](HostObject& host) { return host.FindType(name); });
+    return CallOut(
+        g_Host, static_cast<MvTypeDefinition*>(nullptr), [&](HostObject& host) { return host.FindType(name); });
 }
 
 void AddType(MvTypeDefinition* type) noexcept
 {
-    Call([&](HostObject& host) { host.AddType(type); });
+    CallOut([&](HostObject& host) { host.AddType(type); });
 }
 
 void RemoveType(MvTypeDefinition* type) noexcept
 {
-    Call([&](HostObject& host) { host.RemoveType(type); });
+    CallOut([&](HostObject& host) { host.RemoveType(type); });
 }
 
 u32 RegisterObjectClass(const char* name) noexcept
 {
-    return Call(u32{0}, [&](HostObject& host) { return host.RegisterObjectClass(name); });
+    return CallOut(g_Host, u32{0}, [&](HostObject& host) { return host.RegisterObjectClass(name); });
 }
 
 void SetTypeObjectClass(MvTypeDefinition* type, u32 classID) noexcept
 {
-    Call([&](HostObject& host) { host.SetTypeObjectClass(type, classID); });
+    CallOut([&](HostObject& host) { host.SetTypeObjectClass(type, classID); });
 }
 
 void AddTopLevelObject(const char* name, TopLevelObjectHandler handler) noexcept
 {
-    Call([&](HostObject& host) { host.AddTopLevelObject(name, handler); });
+    CallOut([&](HostObject& host) { host.AddTopLevelObject(name, handler); });
 }
 
 void RemoveTopLevelObject(const char* name) noexcept
 {
-    Call([&](HostObject& host) { host.RemoveTopLevelObject(name); });
+    CallOut([&](HostObject& host) { host.RemoveTopLevelObject(name); });
 }
 
 void AddCommand(const char* name, CommandHandler handler) noexcept
 {
     constexpr int parse = 1;
     constexpr int hidden = 0;
-    Call([&](HostObject& host) { host.AddCommand(name, handler, parse, hidden); });
+    CallOut([&](HostObject& host) { host.AddCommand(name, handler, parse, hidden); });
 }
 
 void RemoveCommand(const char* name) noexcept
 {
-    Call([&](HostObject& host) { host.RemoveCommand(name); });
+    CallOut([&](HostObject& host) { host.RemoveCommand(name); });
 }
 
 HostScript* GetCurrentScript() noexcept
@@ -306,7 +319,8 @@ void SetUserInput(HostScript& script, const char* text) noexcept
 bool ParseTypedValue(const char* text, _MvTypeVar& result) noexcept
 {
     constexpr u32 flag = 0;
-    return CallScripts(false, [&](HostScriptInterface& host) { return host.ParseTypedValue(text, result, flag); });
+    return CallOut(
+        g_ScriptHost, false, [&](HostScriptInterface& host) { return host.ParseTypedValue(text, result, flag); });
 }
 
 char* MakeTempBuffer(std::size_t size, const char* text) noexcept
@@ -330,14 +344,15 @@ void InvalidateTransientObject2(u32 classID, void* object) noexcept
 u32 CreateQuery(MvTypeDefinition* type, const char* text) noexcept
 {
     constexpr u32 extra = 0;
-    return CallScripts(u32{0}, [&](HostScriptInterface& host) { return host.CreateQuery(type, text, extra); });
+    return CallOut(
+        g_ScriptHost, u32{0}, [&](HostScriptInterface& host) { return host.CreateQuery(type, text, extra); });
 }
 
 bool EvaluateQuery(u32 query, _MvTypeVar& object) noexcept
 {
     bool holds = false;
-    return CallScripts(
-        false, [&](HostScriptInterface& host) { return host.EvaluateQuery(query, object, holds) && holds; });
+    return CallOut(g_ScriptHost, false,
+        [&](HostScriptInterface& host) { return host.EvaluateQuery(query, object, holds) && holds; });
 }
 
 void FreeQuery(u32 query) noexcept

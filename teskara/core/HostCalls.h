@@ -14,13 +14,54 @@ namespace Host {
 extern HostObject* g_Host;
 extern HostScriptInterface* g_ScriptHost;
 
-// Calls an operation of the host; failure is what stands for "it did not work".
+// While the host is in an operation from which it is not to call back, nothing is deleted, loaded, drawn or routed and
+// no script runs, whatever it calls all the same: whoever asked stands on what the host could take away.
+extern u32 g_Answering;
+
+inline bool IsAnswering()
+{
+    return g_Answering != 0;
+}
+
+class AnsweringScope
+{
+public:
+    AnsweringScope() { ++g_Answering; }
+    ~AnsweringScope() { --g_Answering; }
+    AnsweringScope(const AnsweringScope&) = delete;
+    AnsweringScope& operator=(const AnsweringScope&) = delete;
+};
+
+// Calls an operation of a table from which the host may call back; failure is what stands for "it did not work".
+template <class Table, class Result, class Operation>
+inline Result CallOut(Table* table, Result failure, Operation&& operation) noexcept
+{
+    if (!table || IsAnswering())
+        return failure;
+
+    try {
+        return operation(*table);
+    } catch (...) {
+        return failure;
+    }
+}
+
+template <class Operation> inline void CallOut(Operation&& operation) noexcept
+{
+    CallOut(g_Host, false, [&](HostObject& host) {
+        operation(host);
+        return true; // an operation that fails without a result has no further effect
+    });
+}
+
+// One from which it may not.
 template <class Result, class Operation> inline Result Call(Result failure, Operation&& operation) noexcept
 {
     if (!g_Host)
         return failure;
 
     try {
+        const AnsweringScope answering;
         return operation(*g_Host);
     } catch (...) {
         return failure;
@@ -29,14 +70,10 @@ template <class Result, class Operation> inline Result Call(Result failure, Oper
 
 template <class Operation> inline void Call(Operation&& operation) noexcept
 {
-    if (!g_Host)
-        return;
-
-    try {
-        operation(*g_Host);
-    } catch (...) {
-        return; // an operation that fails without a result has no further effect
-    }
+    Call(false, [&](HostObject& host) {
+        operation(host);
+        return true;
+    });
 }
 
 // The same for the script table.
@@ -46,6 +83,7 @@ template <class Result, class Operation> inline Result CallScripts(Result failur
         return failure;
 
     try {
+        const AnsweringScope answering;
         return operation(*g_ScriptHost);
     } catch (...) {
         return failure;

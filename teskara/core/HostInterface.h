@@ -10,8 +10,8 @@
 //
 // Scripts may run, and the toolkit may be called again, from inside ExecuteAtom, ExecuteAtomForText, ExecuteCommand,
 // DataParse, RetrieveProcessedText, RetrieveProcessedResult, Calculate, ParseTypedValue, CreateQuery, EvaluateQuery,
-// CompleteCommandLine, SaveElementPosition, LoadElementPosition, SetOutputConsole and PrintLine. All other operations
-// return without having deleted, moved or drawn anything.
+// CompleteCommandLine, SaveElementPosition, LoadElementPosition, SetOutputConsole and PrintLine. From the others nothing
+// is to be deleted, moved or drawn: but for registrations and InvalidateObject, what they try of that does nothing.
 
 #include "teskara/core/Export.h"
 #include "teskara/core/Types.h"

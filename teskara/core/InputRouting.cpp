@@ -3,8 +3,9 @@
 // was not taken.
 
 #include "teskara/core/CUIManager.h"
+#include "teskara/core/HostCalls.h"
 #include "teskara/core/OwnThread.h"
-#include "teskara/core/platform/Platform.h"
+#include "teskara/core/platform/PlatformCalls.h"
 #include "teskara/element/ElementWatch.h"
 #include "teskara/element/TeskElement.h"
 #include "teskara/element/TeskScreen.h"
@@ -95,10 +96,10 @@ template <class Offer> bool CUIManager::OfferDown(TeskElement* candidate, Offer&
 bool CUIManager::OnMouseMove(_Point2i& position)
 try {
     OwnThread::Expect("OnMouseMove");
-    if (position.x == MousePosition.x && position.y == MousePosition.y)
+    if (Host::IsAnswering() || (position.x == MousePosition.x && position.y == MousePosition.y))
         return false;
 
-    LastInputTick = CurrentPlatform().GetTickCount();
+    LastInputTick = System::GetTickCount();
     MousePosition = position;
     const bool buttonDown = LeftButtonState != ButtonUp || RightButtonState != ButtonUp;
     TeskElement* candidate = buttonDown ? GetMouseOverElement() : SetMouseOverElement();
@@ -113,7 +114,10 @@ try {
 bool CUIManager::OnMouseWheel(int offset)
 try {
     OwnThread::Expect("OnMouseWheel");
-    LastInputTick = CurrentPlatform().GetTickCount();
+    if (Host::IsAnswering())
+        return false;
+
+    LastInputTick = System::GetTickCount();
     return OfferDown(GetMouseOverElement(), [offset](TeskElement& element) { return element.OnMouseWheel(offset); });
 } catch (...) {
     return false;
@@ -159,7 +163,10 @@ bool CUIManager::IsDoubleClick(const MouseButton& button, u32 id) const
 
 bool CUIManager::PressButton(const MouseButton& button)
 {
-    LastInputTick = CurrentPlatform().GetTickCount();
+    if (Host::IsAnswering())
+        return false;
+
+    LastInputTick = System::GetTickCount();
     TeskElement* first = GetMouseOverElement();
     this->*button.State = ButtonIgnored;
     if (!first)
@@ -216,10 +223,10 @@ void CUIManager::AcceptPress(const MouseButton& button, u32 id)
 // The element that took the press is asked first, wherever the pointer is, and the result is whether there was one.
 bool CUIManager::ReleaseButton(const MouseButton& button)
 {
-    if (this->*button.State == ButtonUp)
+    if (this->*button.State == ButtonUp || Host::IsAnswering())
         return false;
 
-    LastInputTick = CurrentPlatform().GetTickCount();
+    LastInputTick = System::GetTickCount();
     TeskElement* first = GetMouseOverElement();
     const u8 was = this->*button.State;
     this->*button.PressElementID = 0;
@@ -272,11 +279,14 @@ void CUIManager::AddKeyFlag(u32 key, u8 flag)
 bool CUIManager::OnKeyDown(unsigned int key)
 try {
     OwnThread::Expect("OnKeyDown");
-    LastInputTick = CurrentPlatform().GetTickCount();
+    if (Host::IsAnswering())
+        return false;
+
+    LastInputTick = System::GetTickCount();
     SetModifier(key, true);
     AddKeyFlag(key, KeyHeld);
-    KeyState[KeyCapsLock] = CurrentPlatform().IsKeyToggled(KeyCapsLock);
-    KeyState[KeyNumLock] = CurrentPlatform().IsKeyToggled(KeyNumLock);
+    KeyState[KeyCapsLock] = System::IsKeyToggled(KeyCapsLock);
+    KeyState[KeyNumLock] = System::IsKeyToggled(KeyNumLock);
     if (!OfferKey(&TeskElement::OnKeyDown, key))
         return false;
 
@@ -289,7 +299,10 @@ try {
 bool CUIManager::OnKeyUp(unsigned int key)
 try {
     OwnThread::Expect("OnKeyUp");
-    LastInputTick = CurrentPlatform().GetTickCount();
+    if (Host::IsAnswering())
+        return false;
+
+    LastInputTick = System::GetTickCount();
     SetModifier(key, false);
     const u32 old = GetKeyFlags(key);
     if (key < KeyStateCount)

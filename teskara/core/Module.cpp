@@ -24,7 +24,7 @@
 #include "teskara/core/BoundedText.h"
 #include "teskara/core/CUIManager.h"
 #include "teskara/core/HostCalls.h"
-#include "teskara/core/platform/Platform.h"
+#include "teskara/core/platform/PlatformCalls.h"
 #include "teskara/element/TeskElementFactory.h"
 #include "teskara/script/TypeGlobals.h"
 #include "teskara/text/TeskCommandEntry.h"
@@ -101,7 +101,7 @@ class Module
 public:
     Module()
     {
-        CopyBounded(g_ModuleDirectory, sizeof(g_ModuleDirectory), DirectoryOf(CurrentPlatform().GetModulePath()));
+        CopyBounded(g_ModuleDirectory, sizeof(g_ModuleDirectory), DirectoryOf(System::GetModulePath()));
         FormatBounded(g_LogPath, sizeof(g_LogPath), "%s\\Teskara.log", g_ModuleDirectory);
     }
 

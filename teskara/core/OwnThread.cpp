@@ -3,7 +3,7 @@
 #ifndef NDEBUG
 
 #include "teskara/core/BoundedText.h"
-#include "teskara/core/platform/Platform.h"
+#include "teskara/core/platform/PlatformCalls.h"
 
 #include <atomic>
 #include <cstddef>
@@ -31,7 +31,7 @@ void Expect(const char* operation) noexcept
     constexpr std::size_t size = 128;
     char line[size];
     FormatBounded(line, size, "Teskara: %s was called on another thread than Initialize\n", operation);
-    CurrentPlatform().WriteDebugOutput(line);
+    System::WriteDebugOutput(line);
 }
 
 } // namespace OwnThread

@@ -34,6 +34,6 @@ void DataText::Expand(Buffer& text)
 {
     Buffer source;
     CopyBounded(source, sizeof(source), text);
-    Host::Call([&](HostObject& host) { host.DataParse(source, text, sizeof(text)); });
+    Host::CallOut([&](HostObject& host) { host.DataParse(source, text, sizeof(text)); });
     text[sizeof(text) - 1] = 0;
 }

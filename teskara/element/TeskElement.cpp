@@ -6,7 +6,7 @@
 #include "teskara/core/HostCalls.h"
 #include "teskara/core/Limits.h"
 #include "teskara/core/Messages.h"
-#include "teskara/core/platform/Platform.h"
+#include "teskara/core/platform/PlatformCalls.h"
 #include "teskara/element/ChildIndex.h"
 #include "teskara/element/ElementWatch.h"
 #include "teskara/element/TeskElementFactory.h"
@@ -105,8 +105,8 @@ void TeskElement::AddChild(TeskElement* child)
 
 void TeskElement::DeleteChild(TeskElement* child)
 {
-    if (!child || child->Parent != this || child->IsGoing()) {
-        CurrentPlatform().WriteDebugOutput("DeleteChild failure\n");
+    if (!child || child->Parent != this || child->IsGoing() || Host::IsAnswering()) {
+        System::WriteDebugOutput("DeleteChild failure\n");
         return;
     }
 
@@ -117,7 +117,7 @@ void TeskElement::DeleteChild(TeskElement* child)
 
 void TeskElement::Delete()
 {
-    if (IsGoing())
+    if (IsGoing() || Host::IsAnswering())
         return;
 
     TeskElementFactory* factory = g_UIManager.FindFactory(Type.c_str());

@@ -3,7 +3,7 @@
 #include "teskara/core/HostCalls.h"
 #include "teskara/core/Limits.h"
 #include "teskara/core/Utf8.h"
-#include "teskara/core/platform/Platform.h"
+#include "teskara/core/platform/PlatformCalls.h"
 #include "teskara/element/ElementWatch.h"
 #include "teskara/element/FontParts.h"
 #include "teskara/element/TeskElement.h"
@@ -55,7 +55,7 @@ XMLNode* FindFontTemplate(XMLNode* font)
 bool FileExists(const utf8string& path)
 {
     const std::u16string wide = ToUtf16(path);
-    return wide.size() <= Limits::MarkupPathUnits && CurrentPlatform().FileExists(wide.c_str());
+    return wide.size() <= Limits::MarkupPathUnits && System::FileExists(wide.c_str());
 }
 
 // The file of that name in the folder of the interface file that was loaded last; empty if there is none. Only a

@@ -187,7 +187,7 @@ bool CUIManager::OpenInterface(const char* file, XMLDocument& document, XMLNode*
 bool CUIManager::LoadInterface(const LoadRequest& request)
 try {
     const DepthScope depth(m_LoadDepth, Limits::NestedLoads);
-    if (!request.Parent || !depth.Entered() || m_TearingDown)
+    if (!request.Parent || !depth.Entered() || m_TearingDown || Host::IsAnswering())
         return false;
 
     const ElementWatch parent(*request.Parent);
@@ -230,6 +230,9 @@ void CUIManager::LoadTopLevelElement(const LoadRequest& request, XMLNode* node)
 
 bool CUIManager::UnloadInterfaceXML(const char* file)
 try {
+    if (Host::IsAnswering())
+        return false;
+
     const auto document = std::make_unique<XMLDocument>();
     XMLNode* root = nullptr;
     if (!OpenInterface(file, *document, root))
@@ -246,7 +249,7 @@ try {
 
 TeskElement* CUIManager::LoadElement(TeskElement* parent, const char* type, const char* name)
 try {
-    if (!parent || !type || !name || !*name)
+    if (!parent || !type || !name || !*name || Host::IsAnswering())
         return nullptr;
 
     TeskElementFactory* factory = FindFactory(type);
@@ -271,7 +274,7 @@ try {
 TeskElement* CUIManager::LoadElement(
     TeskElement* parent, const char* type, const char* name, XMLNode* node, const char* templateName)
 try {
-    if (!parent || !node || !type || !name || !*name)
+    if (!parent || !node || !type || !name || !*name || Host::IsAnswering())
         return nullptr;
 
     TeskElementFactory* factory = FindFactory(type);

@@ -2,6 +2,7 @@
 
 #include "teskara/core/BoundedText.h"
 #include "teskara/core/CUIManager.h"
+#include "teskara/core/HostCalls.h"
 #include "teskara/markup/MarkupNames.h"
 #include "teskara/markup/TemplateChain.h"
 #include "teskara/markup/TeskSkin.h"
@@ -34,7 +35,7 @@ void DeleteTemplate::operator()(XMLNode* node) const
 // part of it.
 XMLNode* CUIManager::AddTemplate(const char* name, XMLNode* node)
 try {
-    if (IsEmpty(name) || !IsTemplate(node))
+    if (IsEmpty(name) || !IsTemplate(node) || Host::IsAnswering())
         return nullptr;
 
     const utf8string copiedName = name;
@@ -49,7 +50,7 @@ try {
 
 XMLNode* CUIManager::AddTemplate(const char* name, const char* markup)
 try {
-    if (IsEmpty(name) || IsEmpty(markup))
+    if (IsEmpty(name) || IsEmpty(markup) || Host::IsAnswering())
         return nullptr;
 
     XMLDocument document;
@@ -108,11 +109,15 @@ void CUIManager::EndReading()
 
 void CUIManager::RemoveTemplate(const char* name)
 {
-    RetireTemplate(TakeTemplate(name));
+    if (!Host::IsAnswering())
+        RetireTemplate(TakeTemplate(name));
 }
 
 void CUIManager::ClearTemplates()
 {
+    if (Host::IsAnswering())
+        return;
+
     for (auto& entry : Templates)
         RetireTemplate(std::move(entry.second));
     Templates.clear();

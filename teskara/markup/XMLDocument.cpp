@@ -2,7 +2,7 @@
 
 #include "teskara/core/BoundedText.h"
 #include "teskara/core/Utf8.h"
-#include "teskara/core/platform/Platform.h"
+#include "teskara/core/platform/PlatformCalls.h"
 #include "teskara/markup/XMLBuffer.h"
 #include "teskara/markup/XMLFile.h"
 #include "teskara/markup/XMLParser.h"
@@ -69,7 +69,7 @@ bool XMLDocument::ParseOpened(const char16_t* path, const char* utf8Path)
     if (Root)
         return false;
 
-    OpenedFile file(path ? CurrentPlatform().OpenFile(path) : nullptr);
+    OpenedFile file(path ? System::OpenFile(path) : nullptr);
     if (!file) {
         FormatBounded(ErrorText, sizeof ErrorText, "Could not open file '%s'", utf8Path);
         return false;

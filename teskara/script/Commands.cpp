@@ -13,6 +13,9 @@ namespace {
 // What the host calls. Nothing is thrown to it; a command that ran out of memory has failed.
 template <int (*Run)(const Arguments&)> int Command(int argc, char** argv) noexcept
 {
+    if (Host::IsAnswering())
+        return -1;
+
     try {
         return Run(Arguments(argc, argv));
     } catch (...) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "teskara/core/HostCalls.h"
 #include "teskara/script/ScriptTable.h"
 #include "teskara/script/ToolkitType.h"
 
@@ -32,7 +33,8 @@ public:
         const Arguments arguments(argc, argv);
         const auto* row = m_Members.Find(member.ID);
         Owner* owner = Find(value);
-        return owner && row && arguments.Count() >= row->Needs && row->Answer(*owner, arguments, result);
+        return owner && row && !Host::IsAnswering() && arguments.Count() >= row->Needs
+            && row->Answer(*owner, arguments, result);
     } catch (...) {
         return false;
     }
@@ -42,7 +44,7 @@ public:
         const Arguments arguments(argc, argv);
         const auto* row = m_Methods.Find(method.ID);
         Owner* owner = Find(value);
-        return owner && row && arguments.Count() >= row->Needs && row->Act(*owner, arguments);
+        return owner && row && !Host::IsAnswering() && arguments.Count() >= row->Needs && row->Act(*owner, arguments);
     } catch (...) {
         return false;
     }

@@ -1,15 +1,14 @@
 #include "teskara/text/ClipboardCopy.h"
 
 #include "teskara/core/HostCalls.h"
-#include "teskara/core/platform/Platform.h"
+#include "teskara/core/platform/PlatformCalls.h"
 
 void CopyToClipboard(const std::string& text)
 {
     if (!Host::OpenClipboard())
         return;
 
-    Platform& platform = CurrentPlatform();
-    platform.EmptyClipboard();
-    platform.SetClipboardText(text);
-    platform.CloseClipboard();
+    System::EmptyClipboard();
+    System::SetClipboardText(text);
+    System::CloseClipboard();
 }

@@ -1,6 +1,6 @@
 #include "teskara/text/ClipboardText.h"
 
-#include "teskara/core/platform/Platform.h"
+#include "teskara/core/platform/PlatformCalls.h"
 
 #include <algorithm>
 
@@ -10,11 +10,11 @@ namespace {
 class OpenClipboard
 {
 public:
-    explicit OpenClipboard(Platform& platform) : m_Platform(platform), m_IsOpen(platform.OpenClipboard()) { }
+    OpenClipboard() : m_IsOpen(System::OpenClipboard()) { }
     ~OpenClipboard()
     {
         if (m_IsOpen)
-            m_Platform.CloseClipboard();
+            System::CloseClipboard();
     }
     OpenClipboard(const OpenClipboard&) = delete;
     OpenClipboard& operator=(const OpenClipboard&) = delete;
@@ -22,7 +22,6 @@ public:
     bool Succeeded() const { return m_IsOpen; }
 
 private:
-    Platform& m_Platform;
     bool m_IsOpen;
 };
 
@@ -30,10 +29,9 @@ private:
 
 std::string ClipboardText()
 try {
-    Platform& platform = CurrentPlatform();
-    const OpenClipboard clipboard(platform);
+    const OpenClipboard clipboard;
     std::string text;
-    if (!clipboard.Succeeded() || !platform.GetClipboardText(text))
+    if (!clipboard.Succeeded() || !System::GetClipboardText(text))
         return {};
 
     text.resize(std::min(text.find('\0'), text.size()));

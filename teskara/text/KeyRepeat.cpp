@@ -1,13 +1,13 @@
 #include "teskara/text/KeyRepeat.h"
 
 #include "teskara/core/CUIManager.h"
-#include "teskara/core/platform/Platform.h"
+#include "teskara/core/platform/PlatformCalls.h"
 #include "teskara/element/ElementWatch.h"
 
 void KeyRepeat::Hold(u32 key)
 {
     HeldKey = key;
-    NextRepeatTick = CurrentPlatform().GetTickCount() + g_UIManager.KeyRepeatDelay;
+    NextRepeatTick = System::GetTickCount() + g_UIManager.KeyRepeatDelay;
 }
 
 void KeyRepeat::Release(u32 key)
@@ -25,7 +25,7 @@ bool KeyRepeat::Run(TeskElement& field)
         return true;
     }
     const u32 due = NextRepeatTick;
-    if (CurrentPlatform().GetTickCount() <= due)
+    if (System::GetTickCount() <= due)
         return true;
 
     const ElementWatch watch(field);

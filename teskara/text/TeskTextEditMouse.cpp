@@ -3,7 +3,7 @@
 #include "teskara/controls/TeskScrollBar.h"
 #include "teskara/core/CUIManager.h"
 #include "teskara/core/HostCalls.h"
-#include "teskara/core/platform/Platform.h"
+#include "teskara/core/platform/PlatformCalls.h"
 #include "teskara/element/ElementWatch.h"
 #include "teskara/text/ClipboardCopy.h"
 #include "teskara/text/TeskTextEdit.h"
@@ -111,7 +111,7 @@ try {
     if (Selection.Exists())
         CopyToClipboard(Selection.Text());
     else if (Host::OpenClipboard())
-        CurrentPlatform().EmptyClipboard();
+        System::EmptyClipboard();
 } catch (...) {
     return; // there is no memory for the copy
 }

@@ -3,7 +3,7 @@
 #include "teskara/controls/Panel.h"
 #include "teskara/core/BoundedText.h"
 #include "teskara/core/Limits.h"
-#include "teskara/core/platform/Platform.h"
+#include "teskara/core/platform/PlatformCalls.h"
 #include "teskara/element/ElementWatch.h"
 #include "teskara/text/TeskTextEntry.h"
 
@@ -109,7 +109,7 @@ u64 TeskTextEntry::DrawBeforeCaret(std::string_view part, i32 x, i32 y)
 {
     char text[Limits::TextBuffer1024];
     if (part.size() >= sizeof(text))
-        CurrentPlatform().RangeFailure();
+        System::RangeFailure();
     CopyBounded(text, sizeof(text), part);
     return DrawTextClipped(Font.get(), text, x, y);
 }

@@ -9,7 +9,7 @@
 
 // Every call that the toolkit makes to the operating system. Nothing else in the toolkit knows the system it runs on,
 // so a program can replace this table: tests set the clock, a host without a native keyboard layout translates keys,
-// a recorder stands in between. All operations run on the thread that drives the toolkit and throw nothing.
+// a recorder stands in between. All operations run on the thread that drives the toolkit. One that throws has failed.
 class TESKARA_EXPORT Platform
 {
 public:
