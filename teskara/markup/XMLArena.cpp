@@ -3,13 +3,13 @@
 #include "teskara/core/Utf8.h"
 
 #include <algorithm>
-#include <cstdlib>
 #include <cstring>
 #include <limits>
+#include <new>
 
 XMLArena::Block* XMLArena::AllocateBlock(std::size_t bytes)
 {
-    return static_cast<Block*>(std::malloc(bytes));
+    return static_cast<Block*>(::operator new(bytes, std::nothrow));
 }
 
 XMLArena::Block* XMLArena::TakeBlock(std::size_t bytes)
@@ -45,7 +45,7 @@ void XMLArena::Destroy()
     // The arena lies in one of them and is not looked at again.
     for (Block* block = m_Blocks; block;) {
         Block* const next = block->Next;
-        std::free(block);
+        ::operator delete(block);
         block = next;
     }
 }

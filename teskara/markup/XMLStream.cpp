@@ -5,8 +5,9 @@
 #include "teskara/markup/XMLDocument.h"
 
 #include <algorithm>
-#include <cstdlib>
 #include <cstring>
+#include <new>
+#include <utility>
 
 namespace {
 
@@ -29,10 +30,7 @@ XMLStream::XMLStream(XMLDocument* document) : Document(document)
         Fail();
 }
 
-XMLStream::~XMLStream()
-{
-    std::free(Buffer);
-}
+XMLStream::~XMLStream() = default;
 
 bool XMLStream::Fail()
 {
@@ -43,12 +41,14 @@ bool XMLStream::Fail()
 
 bool XMLStream::Grow(std::size_t units)
 {
-    const std::size_t held = Buffer ? UnreadCount() : 0;
-    void* const block = std::realloc(Buffer, (units + ReadBehind) * sizeof(char16_t));
-    if (!block)
+    std::unique_ptr<char16_t[]> memory(new (std::nothrow) char16_t[units + ReadBehind]);
+    if (!memory)
         return false;
 
-    Buffer = static_cast<char16_t*>(block);
+    const std::size_t held = UnreadCount();
+    std::memcpy(memory.get(), Unread, held * sizeof(char16_t));
+    m_Memory = std::move(memory);
+    Buffer = m_Memory.get();
     BufferEnd = Buffer + units;
     SetData(held);
     return true;

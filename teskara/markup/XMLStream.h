@@ -5,6 +5,7 @@
 #include "teskara/markup/XMLUnit.h"
 
 #include <cstddef>
+#include <memory>
 
 class XMLDocument;
 
@@ -53,11 +54,11 @@ public:
     // How many units of the input have been taken.
     u64 Position() const { return m_UnitsBefore + static_cast<u64>(Unread - Buffer); }
 
-    char16_t* Buffer = nullptr;
-    char16_t* DataEnd = nullptr; // a zero unit and more that may be read stand behind it
-    char16_t* BufferEnd = nullptr;
+    char16_t* Buffer = m_Nothing;
+    char16_t* DataEnd = m_Nothing; // a zero unit and more that may be read stand behind it
+    char16_t* BufferEnd = m_Nothing;
     XMLDocument* Document;
-    const char16_t* Unread = nullptr;
+    const char16_t* Unread = m_Nothing;
 
     // The size of the whole input in bytes, as far as it is parsed.
     u64 InputBytes = 0;
@@ -81,6 +82,8 @@ private:
 
     std::size_t UnreadCount() const { return static_cast<std::size_t>(DataEnd - Unread); }
 
+    std::unique_ptr<char16_t[]> m_Memory; // of the buffer
+    char16_t m_Nothing[ReadBehind] = {}; // stands for the buffer where there is no memory for it
     u64 m_UnitsBefore = 0; // that left the buffer
     bool m_HoldsOnlyAscii = true;
     bool m_Failed = false;
