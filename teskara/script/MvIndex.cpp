@@ -145,7 +145,7 @@ bool MvIndex::GetEntry(u32 position, _MvTypeVar& result)
 
 std::unique_ptr<MvIterator> MvIndex::NewIterator()
 {
-    return std::make_unique<MvIndexIterator>(*this);
+    return std::unique_ptr<MvIterator>(new (std::nothrow) MvIndexIterator(*this));
 }
 
 // A new value of the type; null if the type makes none of it.

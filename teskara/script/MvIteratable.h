@@ -16,7 +16,7 @@ public:
 
     const char* GetTypeName() const { return m_TypeName; }
 
-    // A walk that stands before the first entry. Throws when there is no memory.
+    // A walk that stands before the first entry; null without memory.
     virtual std::unique_ptr<MvIterator> NewIterator() = 0;
 
 private:

@@ -2,7 +2,9 @@
 
 #include "teskara/script/MvObjectCollectionIterator.h"
 
+#include <new>
+
 std::unique_ptr<MvIterator> MvObjectCollection::NewIterator()
 {
-    return std::make_unique<MvObjectCollectionIterator>(*this);
+    return std::unique_ptr<MvIterator>(new (std::nothrow) MvObjectCollectionIterator(*this));
 }

@@ -2,7 +2,9 @@
 
 #include "teskara/script/MvQueueIterator.h"
 
+#include <new>
+
 std::unique_ptr<MvIterator> MvQueue::NewIterator()
 {
-    return std::make_unique<MvQueueIterator>(*this);
+    return std::unique_ptr<MvIterator>(new (std::nothrow) MvQueueIterator(*this));
 }

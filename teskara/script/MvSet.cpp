@@ -2,7 +2,9 @@
 
 #include "teskara/script/MvSetIterator.h"
 
+#include <new>
+
 std::unique_ptr<MvIterator> MvSet::NewIterator()
 {
-    return std::make_unique<MvSetIterator>(*this);
+    return std::unique_ptr<MvIterator>(new (std::nothrow) MvSetIterator(*this));
 }

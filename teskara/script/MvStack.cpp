@@ -2,7 +2,9 @@
 
 #include "teskara/script/MvStackIterator.h"
 
+#include <new>
+
 std::unique_ptr<MvIterator> MvStack::NewIterator()
 {
-    return std::make_unique<MvStackIterator>(*this);
+    return std::unique_ptr<MvIterator>(new (std::nothrow) MvStackIterator(*this));
 }

@@ -75,7 +75,7 @@ bool TeskContextMenu::IsTypeOf(const char* word)
 }
 
 bool TeskContextMenu::Load(CContextMenuHandler& handler, XMLNode* templateNode)
-{
+try {
     pHandler = &handler;
     if (!templateNode)
         templateNode = g_UIManager.FindTemplate(Kind);
@@ -84,6 +84,8 @@ bool TeskContextMenu::Load(CContextMenuHandler& handler, XMLNode* templateNode)
 
     const MarkupReading reading;
     return TeskFrame::FromXML(templateNode, nullptr) && ReadMarkup<MenuValues>(*this, {templateNode, nullptr});
+} catch (...) {
+    return false; // no memory
 }
 
 void TeskContextMenu::Append(std::unique_ptr<TeskContextMenuNode> node)
