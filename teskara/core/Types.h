@@ -23,15 +23,15 @@ struct _Point3f {
     float z = 0;
 };
 
-// A rectangle in screen coordinates. The far edges are handed to the host as they are, also when they lie before the
-// near ones.
+// A rectangle in screen coordinates; far edges may lie before near ones. Windows' own serves where a program has that.
+#ifndef _WINDEF_
 struct tagRECT {
     i32 left = 0;
     i32 top = 0;
     i32 right = 0;
     i32 bottom = 0;
 };
-
+#endif
 // A line between two points in screen coordinates.
 struct _Line {
     i32 x1 = 0;
