@@ -7,6 +7,9 @@ class App;
 // Each subcommand adds itself to the program's command line. When it was chosen it runs while the line is parsed and
 // leaves the program's exit status in exitCode, which must outlive the app.
 
+// All that this program has.
+void AddCommands(CLI::App& app, int& exitCode);
+
 void AddRunCommand(CLI::App& app, int& exitCode);
 void AddShotCommand(CLI::App& app, int& exitCode);
 void AddGalleryCommand(CLI::App& app, int& exitCode);

@@ -34,15 +34,7 @@ int main(int argc, char** argv)
     CLI::App app("Shows, photographs and probes interfaces made for Teskara.", "teskara");
     app.set_version_flag("--version", "teskara " TESKARA_VERSION);
     app.require_subcommand(1);
-    AddRunCommand(app, exitCode);
-    AddShotCommand(app, exitCode);
-    AddGalleryCommand(app, exitCode);
-    AddProbeCommand(app, exitCode);
-    AddSchemaCommand(app, exitCode);
-    AddReplayCommand(app, exitCode);
-    AddLintCommand(app, exitCode);
-    AddDiffCommand(app, exitCode);
-    AddServeCommand(app, exitCode);
+    AddCommands(app, exitCode);
 
     try {
         app.parse(argc, argv);

@@ -13,6 +13,7 @@ struct ProbeOptions {
     std::vector<std::string> Paths;
     bool Check = false;
     bool Update = false;
+    std::string Session;
 };
 
 ProbeMode ModeOf(const ProbeOptions& options)
@@ -31,5 +32,10 @@ void AddProbeCommand(CLI::App& app, int& exitCode)
     command->add_option("path", options->Paths, "Transcripts, folders of them, or - for standard input")->required();
     CLI::Option* check = command->add_flag("--check", options->Check, "Compare with the expected lines");
     command->add_flag("--update", options->Update, "Rewrite the expected lines with what came back")->excludes(check);
-    command->callback([options, &exitCode] { exitCode = RunProbe(ModeOf(*options), options->Paths); });
+    // For the probe itself, where it must start itself anew for each session; no help tells of it.
+    command->add_option("--session", options->Session)->group("");
+    command->callback([options, &exitCode] {
+        exitCode = options->Session.empty() ? RunProbe(ModeOf(*options), options->Paths)
+                                            : RunProbeSession(options->Session, options->Paths.front());
+    });
 }

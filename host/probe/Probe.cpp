@@ -31,7 +31,7 @@ void AddFolder(const fs::path& folder, std::vector<std::string>& files)
     std::error_code error;
     for (fs::recursive_directory_iterator entry(folder, error), end; !error && entry != end; entry.increment(error)) {
         if (entry->is_regular_file(error) && entry->path().extension() == ".probe")
-            files.push_back(entry->path().string());
+            files.push_back(entry->path().generic_string());
     }
 }
 
@@ -75,7 +75,8 @@ template <class Take> void RunAll(const std::vector<TranscriptFile>& files, Take
     while (taken < files.size()) {
         const auto alive = std::ranges::count_if(running, [](auto& process) { return !process->HasEnded(); });
         if (started < files.size() && static_cast<std::size_t>(alive) < Parallel) {
-            running.push_back(std::make_unique<TranscriptProcess>(files[started++].Content));
+            const TranscriptFile& file = files[started++];
+            running.push_back(std::make_unique<TranscriptProcess>(file.Path, file.Content));
             continue;
         }
         if (!running.empty() && running.front()->HasEnded()) {

@@ -11,7 +11,7 @@ constexpr _Point2i DefaultTextureSize = {64, 64};
 
 bool StaysInside(const fs::path& name)
 {
-    if (name.empty() || name.is_absolute())
+    if (name.empty() || name.has_root_path())
         return false;
 
     for (const fs::path& part : name) {
@@ -82,7 +82,7 @@ std::optional<_Point2i> ProbeFiles::TextureSize(const std::string& path) const
 
 std::string ProbeFiles::PathOf(const std::string& name) const
 {
-    return fs::path(name).is_absolute() ? name : m_Folder + '/' + name;
+    return fs::path(name).has_root_path() ? name : m_Folder + '/' + name;
 }
 
 std::string ProbeFiles::NameOf(const std::string& path) const

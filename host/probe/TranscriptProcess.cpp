@@ -1,130 +1,43 @@
 #include "host/probe/TranscriptProcess.h"
 
+#include "host/probe/Probe.h"
 #include "host/probe/ProbeFolder.h"
-#include "host/probe/ProbeSession.h"
-#include "host/probe/TreeChecker.h"
 #include "host/probe/ValueText.h"
 
 #include <cstdlib>
-#include <cstring>
+#include <fstream>
 #include <iostream>
-
-#include <csignal>
-#include <sys/resource.h>
-#include <sys/wait.h>
-#include <unistd.h>
+#include <iterator>
 
 namespace {
 
 constexpr auto TimeLimit = std::chrono::seconds(60);
 
-// Lines that the child writes: the sign, then a text.
-constexpr char AnswerSign = '=';
-constexpr char CommandEndSign = '.';
-constexpr char FaultSign = '!';
-constexpr char EndSign = '#';
-
-// The host must outlive the library's own end, which comes with that of the process.
-ProbeSession& StartSession(const std::string& folder)
-{
-    static ProbeSession* session = nullptr;
-    session = new ProbeSession(folder);
-    return *session;
-}
-
-// A crash is reported by its signal; nobody wants the file.
-void LeaveNoCore()
-{
-    const rlimit noCores = {0, 0};
-    setrlimit(RLIMIT_CORE, &noCores);
-}
-
-std::optional<std::string> CheckTree()
-{
-#ifdef TESKARA_CHECK_TREE
-    return FindTreeFault();
-#else
-    return std::nullopt;
-#endif
-}
-
-void WriteLine(std::FILE* results, char sign, std::string_view text)
-{
-    std::fputc(sign, results);
-    std::fwrite(text.data(), 1, text.size(), results);
-    std::fputc('\n', results);
-}
-
-[[noreturn]] void RunInChild(const Transcript& transcript, const std::string& folder, std::FILE* results)
-{
-    LeaveNoCore();
-    ProbeSession& session = StartSession(folder);
-    for (const TranscriptCommand& command : transcript.Commands()) {
-        for (const std::string& line : session.Answer(command.Command))
-            WriteLine(results, AnswerSign, line);
-        if (const auto fault = CheckTree())
-            WriteLine(results, FaultSign, *fault);
-        WriteLine(results, CommandEndSign, "");
-        std::fflush(results);
-    }
-    session.End();
-    WriteLine(results, EndSign, "");
-    std::fflush(results);
-    std::exit(EXIT_SUCCESS);
-}
-
-std::string SignalName(int signal)
-{
-    const char* name = sigabbrev_np(signal);
-    return name ? "SIG" + std::string(name) : "signal " + std::to_string(signal);
-}
-
 } // namespace
 
-TranscriptProcess::TranscriptProcess(const Transcript& transcript)
-    : m_Transcript(transcript), m_Folder(MakeProbeFolder()), m_Results(std::tmpfile()),
+TranscriptProcess::TranscriptProcess(const std::string& path, const Transcript& transcript)
+    : m_Transcript(transcript), m_Work{MakeProbeFolder(), path, &transcript}, m_Process(m_Work),
       m_Deadline(std::chrono::steady_clock::now() + TimeLimit)
 {
-    if (m_Folder.empty() || !m_Results)
-        m_StartFailure = "no room for temporary files";
-    else
-        Start();
 }
 
 TranscriptProcess::~TranscriptProcess()
 {
-    if (m_Process > 0) {
-        kill(m_Process, SIGKILL);
-        waitpid(m_Process, &m_Status, 0);
-    }
-    if (m_Results)
-        std::fclose(m_Results);
-    RemoveProbeFolder(m_Folder);
-}
-
-void TranscriptProcess::Start()
-{
-    std::cout.flush();
-    std::fflush(nullptr);
-    m_Process = fork();
-    if (m_Process == 0)
-        RunInChild(m_Transcript, m_Folder, m_Results);
-    if (m_Process < 0)
-        m_StartFailure = "no process could be started";
+    m_Process.End();
+    m_Process.Wait();
+    std::error_code error;
+    std::filesystem::remove(m_Work.Results(), error);
+    RemoveProbeFolder(m_Work.Folder);
 }
 
 bool TranscriptProcess::HasEnded()
 {
-    if (m_Process <= 0)
+    if (m_Process.HasEnded())
         return true;
 
-    if (waitpid(m_Process, &m_Status, WNOHANG) == m_Process) {
-        m_Process = -1;
-        return true;
-    }
     if (!m_TimeIsOver && std::chrono::steady_clock::now() > m_Deadline) {
         m_TimeIsOver = true;
-        kill(m_Process, SIGKILL);
+        m_Process.End();
     }
     return false;
 }
@@ -132,8 +45,8 @@ bool TranscriptProcess::HasEnded()
 TranscriptRun TranscriptProcess::TakeResult()
 {
     TranscriptRun run;
-    if (!m_StartFailure.empty()) {
-        run.Failure = m_StartFailure;
+    if (!m_Process.StartFailure().empty()) {
+        run.Failure = m_Process.StartFailure();
         return run;
     }
 
@@ -146,12 +59,8 @@ TranscriptRun TranscriptProcess::TakeResult()
 
 void TranscriptProcess::ReadAnswers(TranscriptRun& run, bool& finished) const
 {
-    std::rewind(m_Results);
-    std::string text;
-    char buffer[65536];
-    while (const std::size_t count = std::fread(buffer, 1, sizeof buffer, m_Results))
-        text.append(buffer, count);
-
+    std::ifstream file(m_Work.Results(), std::ios::binary);
+    const std::string text(std::istreambuf_iterator<char>(file), {});
     std::vector<std::string> answer;
     for (const std::string_view line : SplitLines(text)) {
         if (line.empty())
@@ -172,8 +81,8 @@ void TranscriptProcess::ReadAnswers(TranscriptRun& run, bool& finished) const
 
 std::string TranscriptProcess::DescribeEnd(const TranscriptRun& run, bool finished) const
 {
-    const bool exited = WIFEXITED(m_Status);
-    if (exited && WEXITSTATUS(m_Status) == EXIT_SUCCESS && finished)
+    const std::string failure = m_Process.HowItFailed();
+    if (failure.empty() && finished)
         return {};
 
     const auto& commands = m_Transcript.Commands();
@@ -182,96 +91,32 @@ std::string TranscriptProcess::DescribeEnd(const TranscriptRun& run, bool finish
         : " at the end";
     if (m_TimeIsOver)
         return "still running after " + std::to_string(TimeLimit.count()) + " seconds" + place;
-    if (exited)
-        return "ended with exit status " + std::to_string(WEXITSTATUS(m_Status)) + place;
-    return "crashed with " + SignalName(WTERMSIG(m_Status)) + place;
+    return (failure.empty() ? "ended with exit status 0" : failure) + place;
 }
-
-namespace {
-
-class StandardInput
-{
-public:
-    explicit StandardInput(ProbeSession& session) : m_Session(session) { }
-
-    void AnswerAll()
-    {
-        std::string line;
-        while (std::getline(std::cin, line))
-            Take(line);
-        AnswerPending();
-    }
-
-private:
-    void Take(std::string line)
-    {
-        if (line.ends_with('\r'))
-            line.pop_back();
-        if (const auto text = TextOfLine(line); text && m_Pending) {
-            *m_Pending->Body += std::string(*text) + '\n';
-            return;
-        }
-        AnswerPending();
-        if (line.starts_with("> "))
-            line.erase(0, 2);
-        if (TrimBlanks(line).empty() || line.starts_with('#'))
-            return;
-
-        CommandLine command{line, {}};
-        if (!TakeTextSign(command.Text)) {
-            Answer(command);
-            return;
-        }
-        command.Body = "";
-        m_Pending = command;
-    }
-
-    void AnswerPending()
-    {
-        if (!m_Pending)
-            return;
-
-        const CommandLine command = *m_Pending;
-        m_Pending.reset();
-        Answer(command);
-    }
-
-    void Answer(const CommandLine& command)
-    {
-        for (const std::string& line : m_Session.Answer(command))
-            std::cout << line << '\n';
-        if (const auto fault = CheckTree())
-            std::cout << "the tree is broken: " << *fault << '\n';
-        std::cout.flush();
-    }
-
-    ProbeSession& m_Session;
-    std::optional<CommandLine> m_Pending; // waits for its text
-};
-
-} // namespace
 
 int AnswerStandardInput()
 {
-    const std::string folder = MakeProbeFolder();
-    const pid_t process = folder.empty() ? -1 : fork();
-    if (process < 0) {
-        std::cerr << "teskara probe: no room for temporary files\n";
+    const SessionWork work = {MakeProbeFolder(), "-"};
+    SessionProcess process(work);
+    if (!process.StartFailure().empty()) {
+        std::cerr << "teskara probe: " << process.StartFailure() << '\n';
         return EXIT_FAILURE;
     }
-    if (process == 0) {
-        LeaveNoCore();
-        ProbeSession& session = StartSession(folder);
-        StandardInput(session).AnswerAll();
-        session.End();
-        std::exit(EXIT_SUCCESS);
-    }
 
-    int status = 0;
-    waitpid(process, &status, 0);
-    RemoveProbeFolder(folder);
-    if (WIFEXITED(status))
-        return WEXITSTATUS(status);
-    std::cout << "crashed with " << SignalName(WTERMSIG(status)) << std::endl;
-    return EXIT_FAILURE;
+    process.Wait();
+    RemoveProbeFolder(work.Folder);
+    const std::string failure = process.HowItFailed();
+    if (failure.starts_with("crashed"))
+        std::cout << failure << std::endl;
+    return process.ExitStatus();
+}
+
+int RunProbeSession(const std::string& folder, const std::string& path)
+{
+    const auto transcript = path == "-" ? std::nullopt : Transcript::FromFile(path);
+    if (path != "-" && !transcript)
+        return EXIT_FAILURE;
+
+    DoSessionWork({folder, path, transcript ? &*transcript : nullptr});
+    return EXIT_SUCCESS;
 }

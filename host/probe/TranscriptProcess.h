@@ -1,13 +1,11 @@
 #pragma once
 
+#include "host/probe/SessionProcess.h"
 #include "host/probe/Transcript.h"
 
 #include <chrono>
-#include <cstdio>
 #include <string>
 #include <vector>
-
-#include <sys/types.h>
 
 // What came of a transcript.
 struct TranscriptRun {
@@ -19,7 +17,8 @@ struct TranscriptRun {
 class TranscriptProcess
 {
 public:
-    explicit TranscriptProcess(const Transcript& transcript);
+    // The transcript is borrowed.
+    TranscriptProcess(const std::string& path, const Transcript& transcript);
     ~TranscriptProcess();
     TranscriptProcess(const TranscriptProcess&) = delete;
     TranscriptProcess& operator=(const TranscriptProcess&) = delete;
@@ -31,17 +30,13 @@ public:
     TranscriptRun TakeResult();
 
 private:
-    void Start();
     void ReadAnswers(TranscriptRun& run, bool& finished) const;
     std::string DescribeEnd(const TranscriptRun& run, bool finished) const;
 
     const Transcript& m_Transcript;
-    std::string m_Folder;
-    std::FILE* m_Results = nullptr;
-    pid_t m_Process = -1;
-    int m_Status = 0;
+    SessionWork m_Work;
+    SessionProcess m_Process;
     bool m_TimeIsOver = false;
-    std::string m_StartFailure;
     std::chrono::steady_clock::time_point m_Deadline;
 };
 
