@@ -1,9 +1,7 @@
 #include "teskara/element/TeskElement.h"
 #include "teskara/host.h"
+#include "tests/unit/TemporaryFile.h"
 #include "tests/unit/ToolkitTest.h"
-
-#include <cstdio>
-#include <unistd.h>
 
 // What a program in C asks of a running toolkit.
 
@@ -125,12 +123,8 @@ TEST_F(FlatFunctionsTest, FilesAreLoadedBelowAParentAndUnderAnotherName)
     EXPECT_FALSE(teskara_unload("file"));
     Host.TakeCalls();
 
-    char path[] = "/tmp/teskara-flat-XXXXXX";
-    const int file = mkstemp(path);
-    std::FILE* out = fdopen(file, "w");
-    std::fputs("<Tesk><frame name='A'/><frame name='B'/></Tesk>", out);
-    std::fclose(out);
-    Host.Located["file"] = path;
+    const TemporaryFile file("<Tesk><frame name='A'/><frame name='B'/></Tesk>");
+    Host.Located["file"] = file.Path();
     const uint32_t main = teskara_find("Main");
     EXPECT_TRUE(teskara_load_into(main, "file", nullptr, nullptr, false, nullptr));
     EXPECT_NE(0u, teskara_find("A@Main"));
@@ -142,7 +136,6 @@ TEST_F(FlatFunctionsTest, FilesAreLoadedBelowAParentAndUnderAnotherName)
     EXPECT_NE(0u, teskara_find("A"));
     EXPECT_TRUE(teskara_unload("file"));
     EXPECT_EQ(0u, teskara_find("A"));
-    std::remove(path);
 }
 
 TEST_F(FlatFunctionsTest, TemplatesAreKeptByName)

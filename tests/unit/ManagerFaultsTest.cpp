@@ -4,17 +4,16 @@
 #include "teskara/element/TeskScreen.h"
 #include "tests/unit/FaultyHost.h"
 #include "tests/unit/FreshProcess.h"
+#include "tests/unit/TemporaryFile.h"
 
 #include <gtest/gtest.h>
 
 #include <climits>
-#include <cstdio>
 #include <cstring>
 #include <functional>
 #include <limits>
 #include <stdexcept>
 #include <string>
-#include <unistd.h>
 
 namespace {
 
@@ -39,26 +38,6 @@ constexpr char Interface[] = R"(<Tesk>
   </Children>
 </frame>
 </Tesk>)";
-
-// A file that lives as long as this.
-class InterfaceFile
-{
-public:
-    InterfaceFile()
-    {
-        const int file = mkstemp(m_Path);
-        const bool written =
-            write(file, Interface, sizeof(Interface) - 1) == static_cast<ssize_t>(sizeof(Interface) - 1);
-        close(file);
-        if (!written)
-            throw std::runtime_error("no room for a file");
-    }
-    ~InterfaceFile() { std::remove(m_Path); }
-    const char* Path() const { return m_Path; }
-
-private:
-    char m_Path[32] = "/tmp/teskara-unit-XXXXXX";
-};
 
 void DriveTheToolkit()
 {
@@ -96,7 +75,7 @@ void DriveTheToolkit()
     g_UIManager.Render();
 }
 
-void FindTheFile(TestHost& host, const InterfaceFile& file)
+void FindTheFile(TestHost& host, const TemporaryFile& file)
 {
     host.Located["a.xml"] = file.Path();
     host.FoundResources["back.png"] = "/back.png";
@@ -106,7 +85,7 @@ void FindTheFile(TestHost& host, const InterfaceFile& file)
 
 TEST(ManagerFaultsDeathTest, ABrokenOperationOfTheHostBreaksNothingElse)
 {
-    const InterfaceFile file;
+    const TemporaryFile file(Interface);
     for (const auto fault : {FaultyHost::Fault::Refuses, FaultyHost::Fault::Throws}) {
         for (const char* operation : FaultyHost::Operations()) {
             SCOPED_TRACE(operation);
@@ -199,7 +178,7 @@ private:
 
 TEST(ManagerFaultsDeathTest, AnswersWithoutMeasureAreSurvived)
 {
-    const InterfaceFile file;
+    const TemporaryFile file(Interface);
     using Limits = std::numeric_limits<float>;
     for (const int extreme : {INT_MIN, -1, 0, INT_MAX}) {
         for (const float metric : {Limits::quiet_NaN(), Limits::infinity(), -Limits::max(), Limits::max(), 0.0f}) {

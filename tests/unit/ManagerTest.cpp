@@ -5,11 +5,11 @@
 #include "teskara/text/TeskConsole.h"
 #include "tests/unit/FreshProcess.h"
 #include "tests/unit/ScriptHost.h"
+#include "tests/unit/TemporaryFile.h"
 #include "tests/unit/ToolkitTest.h"
 
 #include <algorithm>
 #include <chrono>
-#include <cstdio>
 #include <functional>
 #include <string>
 #include <thread>
@@ -310,11 +310,8 @@ TEST(ManagerDeathTest, AfterTheShutdownNothingIsReleased)
 
 TEST_F(ManagerTest, LoadsNestTo32Levels)
 {
-    Host.Located["test.xml"] = "/tmp/teskara-unit-nested.xml";
-    std::FILE* file = std::fopen("/tmp/teskara-unit-nested.xml", "wb");
-    ASSERT_NE(nullptr, file);
-    std::fputs("<Tesk><frame name=\"A\"><OnLoad>again</OnLoad></frame></Tesk>", file);
-    std::fclose(file);
+    const TemporaryFile file("<Tesk><frame name=\"A\"><OnLoad>again</OnLoad></frame></Tesk>");
+    Host.Located["test.xml"] = file.Path();
     for (const int wanted : {31, 32, 33}) {
         g_UIManager.Reset();
         int loads = 0;
@@ -331,7 +328,6 @@ TEST_F(ManagerTest, LoadsNestTo32Levels)
             ++levels;
         EXPECT_EQ(loads, levels);
     }
-    std::remove("/tmp/teskara-unit-nested.xml");
 }
 
 TEST_F(ManagerTest, ScriptsNestTo64Levels)
@@ -354,13 +350,9 @@ TEST_F(ManagerTest, ScriptsNestTo64Levels)
 
 TEST_F(ManagerTest, EachFormOfALoadMayLoseItsParent)
 {
-    constexpr char Path[] = "/tmp/teskara-unit-forms.xml";
-    Host.Located["test.xml"] = Path;
-    std::FILE* file = std::fopen(Path, "wb");
-    ASSERT_NE(nullptr, file);
-    std::fputs(
-        "<Tesk><frame name='A'><OnLoad>end</OnLoad></frame><frame name='B'><OnLoad>end</OnLoad></frame></Tesk>", file);
-    std::fclose(file);
+    const TemporaryFile file(
+        "<Tesk><frame name='A'><OnLoad>end</OnLoad></frame><frame name='B'><OnLoad>end</OnLoad></frame></Tesk>");
+    Host.Located["test.xml"] = file.Path();
 
     const std::function<bool(TeskElement*, bool)> forms[] = {
         [](TeskElement*, bool replace) { return g_UIManager.LoadInterfaceXML("test.xml", replace, nullptr); },
@@ -388,7 +380,6 @@ TEST_F(ManagerTest, EachFormOfALoadMayLoseItsParent)
             EXPECT_EQ(1u, g_UIManager.ElementsByID.size());
         }
     }
-    std::remove(Path);
 }
 
 TEST_F(ManagerTest, AHundredThousandNamesAreFoundInTime)

@@ -2,13 +2,11 @@
 
 #include "teskara/core/CUIManager.h"
 #include "teskara/element/TeskElement.h"
+#include "tests/unit/TemporaryFile.h"
 
 #include <algorithm>
-#include <cstdio>
-#include <cstdlib>
 #include <iterator>
 #include <stdexcept>
-#include <unistd.h>
 
 namespace {
 
@@ -61,15 +59,9 @@ ToolkitTest::~ToolkitTest()
 
 void ToolkitTest::Load(const std::string& markup)
 {
-    char path[] = "/tmp/teskara-unit-XXXXXX";
-    const int file = mkstemp(path);
-    ASSERT_GE(file, 0);
-    const std::string text = "<Tesk>" + markup + "</Tesk>";
-    ASSERT_EQ(static_cast<ssize_t>(text.size()), write(file, text.data(), text.size()));
-    close(file);
-    Host.Located["test.xml"] = path;
+    const TemporaryFile file("<Tesk>" + markup + "</Tesk>");
+    Host.Located["test.xml"] = file.Path();
     EXPECT_TRUE(g_UIManager.LoadInterfaceXML("test.xml", false, Skin));
-    std::remove(path);
 }
 
 std::string ToolkitTest::Frame()

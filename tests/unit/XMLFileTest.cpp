@@ -7,7 +7,6 @@
 #include <cstring>
 #include <filesystem>
 #include <string>
-#include <sys/stat.h>
 
 namespace {
 
@@ -68,15 +67,6 @@ TEST_F(XMLFileTest, AFileThatIsNotThereIsNamed)
     EXPECT_EQ(Document.Entities.count("filename"), 0u);
     EXPECT_FALSE(Document.ParseFile(ToUtf16(PathOf("\xC3\xA4")).c_str()));
     EXPECT_EQ(Document.ErrorText, CouldNotOpen(PathOf("\xC3\xA4")));
-}
-
-TEST_F(XMLFileTest, APipeIsNoFileAndNobodyWaitsForIt)
-{
-    const std::string path = PathOf("pipe");
-    ASSERT_EQ(0, mkfifo(path.c_str(), 0600));
-    EXPECT_FALSE(Document.ParseFile(path.c_str()));
-    EXPECT_EQ(Document.ErrorText, CouldNotOpen(path));
-    std::remove(path.c_str());
 }
 
 TEST_F(XMLFileTest, FoldersDevicesAndNothingAreNoFiles)

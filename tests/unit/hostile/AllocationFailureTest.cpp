@@ -12,10 +12,14 @@
 #include "tests/unit/hostile/SharedCounts.h"
 #include "tests/unit/reentrancy/CellWatch.h"
 
+#include <cstdio>
 #include <cstdlib>
 #include <memory>
 #include <string>
 #include <utility>
+
+#include <sys/wait.h>
+#include <unistd.h>
 
 namespace {
 
