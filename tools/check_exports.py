@@ -3,6 +3,7 @@
 called across its border, and the libraries that it needs itself. All three are kept in tests/exports.
   tools/check_exports.py LIBRARY            says what differs
   tools/check_exports.py LIBRARY --update   keeps what is there now, for a change that is meant: the review sees it
+Of a library for Windows the names and the needed libraries are looked at.
 """
 
 import argparse
@@ -30,6 +31,17 @@ def symbols(library):
         if kind in "TDBR":
             names.add(name)
     return sorted(names)
+
+
+def windows_symbols(library):
+    """All that the library exports, the entry by its plain name."""
+    listing = output_of("x86_64-w64-mingw32-objdump", "-p", library)
+    names = re.findall(r"^\t\[ *\d+\] (\S+)$", listing.partition("[Ordinal/Name Pointer] Table")[2], re.MULTILINE)
+    return sorted(set(output_of("c++filt", "--", *names).splitlines()))
+
+
+def windows_needed(library):
+    return sorted(re.findall(r"DLL Name: (\S+)", output_of("x86_64-w64-mingw32-objdump", "-p", library)))
 
 
 def needed(library):
@@ -78,7 +90,11 @@ def main():
     parser.add_argument("--update", action="store_true")
     options = parser.parse_args()
 
-    found = {"symbols.txt": symbols(options.library), "tables.txt": tables(), "needed.txt": needed(options.library)}
+    if options.library.suffix == ".dll":
+        found = {"windows_symbols.txt": windows_symbols(options.library),
+                 "windows_needed.txt": windows_needed(options.library)}
+    else:
+        found = {"symbols.txt": symbols(options.library), "tables.txt": tables(), "needed.txt": needed(options.library)}
     same = [compare(name, now, options.update) for name, now in found.items()]
     if not all(same):
         print("Programs that were built before would break where a line is gone or moved. If it is meant: "

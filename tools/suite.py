@@ -79,6 +79,12 @@ def build(tally, preset):
     return False
 
 
+def program(preset, name):
+    """The words that start a program of a build."""
+    folder = f"build/{preset}/bin"
+    return ["wine", f"{folder}/{name}.exe"] if preset == "windows" else [f"{folder}/{name}"]
+
+
 def check_the_house(tally):
     say("checks: layers, sizes, formatting, bans, skins, and that these checks can fail")
     check(tally, "layers", ["tools/check_layers.py"])
@@ -108,9 +114,9 @@ def in_shares(tally, work):
         tally.failures += share.failures
 
 
-def names_of_tests(program):
+def names_of_tests(tests):
     names, suite = [], ""
-    for line in run([program, "--gtest_list_tests"])[1].splitlines():
+    for line in run([*tests, "--gtest_list_tests"])[1].splitlines():
         name = line.split("#")[0].rstrip()
         if name.startswith("  "):
             names.append(suite + name.strip())
@@ -121,33 +127,34 @@ def names_of_tests(program):
 
 def unit_tests(tally, preset):
     say(f"build/{preset}: unit tests")
-    program = f"build/{preset}/bin/teskara_unit"
-    if not (ROOT / program).exists():
+    tests = program(preset, "teskara_unit")
+    if not (ROOT / tests[-1]).exists():
         return
-    names = names_of_tests(program)
+    names = names_of_tests(tests)
     if not names:
-        tally.fail(f"list of {program}", f"{program} --gtest_list_tests")
-    in_shares(tally, lambda share, number: run_tests(share, program, names[number::SHARES]))
+        tally.fail(f"list of {tests[-1]}", f"{' '.join(tests)} --gtest_list_tests")
+    in_shares(tally, lambda share, number: run_tests(share, tests, names[number::SHARES]))
 
 
-def run_tests(tally, program, names):
+def run_tests(tally, tests, names):
+    rerun = " ".join(tests)
     while names:
         # After a crash the tests that had not had their turn are run by themselves.
-        status, output = run([program, f"--gtest_filter={':'.join(names)}"])
+        status, output = run([*tests, f"--gtest_filter={':'.join(names)}"])
         begun = re.findall(r"^\[ RUN      \] (\S+)", output, re.MULTILINE)
         good = set(re.findall(r"^\[       OK \] (\S+)", output, re.MULTILINE))
         finished = good | set(re.findall(r"^\[  (?:FAILED|SKIPPED) +\] (\S+?),? ", output, re.MULTILINE))
         tally.ok(len(good))
         for name in begun:
             if name not in good:
-                tally.fail(name, f"{program} --gtest_filter={name}")
+                tally.fail(name, f"{rerun} --gtest_filter={name}")
         if status != 0:
             passed = r"^\[ RUN      \] .*\n\[       OK \] .*\n|^\[[-=]+\].*\n+"
             print(re.sub(passed, "", output, flags=re.MULTILINE).strip())
         if all(name in finished for name in begun):
             missed = [name for name in names if name not in begun]
             if missed or (status != 0 and len(good) == len(begun)):
-                tally.fail(f"end of {program}", program)
+                tally.fail(f"end of {tests[-1]}", rerun)
             return
         names = [name for name in names if name not in begun]
 
@@ -155,16 +162,16 @@ def run_tests(tally, program, names):
 def transcripts(tally, preset):
     say(f"build/{preset}: transcripts")
     folders = sorted(path.relative_to(ROOT) for path in (ROOT / "tests/transcripts").iterdir())
-    program = f"build/{preset}/bin/teskara"
-    in_shares(tally, lambda share, number: check_transcripts(share, program, folders[number::SHARES]))
+    probe = [*program(preset, "teskara"), "probe", "--check"]
+    in_shares(tally, lambda share, number: check_transcripts(share, probe, folders[number::SHARES]))
 
 
-def check_transcripts(tally, program, folders):
-    status, output = run([program, "probe", "--check", *folders])
+def check_transcripts(tally, probe, folders):
+    status, output = run([*probe, *folders])
     counts = re.findall(r"^(\d+) passed, (\d+) failed$", output, re.MULTILINE)
     if not counts:
         print(output.rstrip())
-        tally.fail("transcripts", f"{program} probe --check tests/transcripts")
+        tally.fail("transcripts", " ".join([*probe, "tests/transcripts"]))
         return
 
     passed, failed = map(int, counts[-1])
@@ -175,7 +182,7 @@ def check_transcripts(tally, program, folders):
     names = list(dict.fromkeys(re.findall(r"^\S+\.probe", output, re.MULTILINE)))[:failed]
     for name in names + ["a transcript"] * (max(failed, 1) - len(names)):
         rerun = name if name in names else "tests/transcripts"
-        tally.fail(name, f"{program} probe --check {rerun}")
+        tally.fail(name, " ".join([*probe, rerun]))
 
 
 def fuzz_targets():
@@ -343,6 +350,26 @@ def harsh(tally, preset):
           [*small_stack, f"build/{preset}/bin/teskara", "probe", "--check", "tests/transcripts"])
 
 
+def windows(tally):
+    """Wine has an installation of its own under build/, and no display."""
+    global LONGEST_STAGE_SECONDS
+    LONGEST_STAGE_SECONDS = 3600
+    if not build(tally, "windows"):
+        return
+    say("build/windows: Wine is set up")
+    os.environ.update(WINEPREFIX=str(ROOT / "build/wine"), WINEDEBUG="-all", WINEDLLOVERRIDES="mscoree,mshtml=", DISPLAY="")
+    if not check(tally, "set-up of Wine", ["wine", "wineboot", "--init"]):
+        return
+    # It stays between the many programs, which then start in no time.
+    subprocess.run(["wineserver", "--persistent"], cwd=ROOT)
+    try:
+        check(tally, "exports for Windows", ["tools/check_exports.py", "build/windows/bin/teskara.dll"])
+        unit_tests(tally, "windows")
+        transcripts(tally, "windows")
+    finally:
+        subprocess.run(["wineserver", "--kill"], cwd=ROOT)
+
+
 def cover(tally):
     """What the unit tests, the transcripts and the stored inputs of the fuzz targets reach."""
     if not (build(tally, "dev") and build(tally, "coverage")):
@@ -397,6 +424,7 @@ def main():
                         help="unit tests and transcripts with a decimal comma, traps of floats and a small stack")
     parser.add_argument("--packages", action="store_true",
                         help="Debian packages, installed and used on a bare system; as root")
+    parser.add_argument("--windows", action="store_true", help="what is built for Windows, by Wine")
     parser.add_argument("--soak", type=int, metavar="MINUTES", help="a long run of the desktop, with a clock that is driven")
     options = parser.parse_args()
 
@@ -410,6 +438,8 @@ def main():
         cover(tally)
     elif options.packages:
         packages(tally)
+    elif options.windows:
+        windows(tally)
     elif options.bounds:
         if build(tally, "release"):
             bounds(tally, "release")
