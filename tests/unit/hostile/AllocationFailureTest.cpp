@@ -2,7 +2,8 @@
 // alone or with all that follow. Nothing is thrown to the host, nothing is lost, and with memory everything works again.
 //
 // The scenario runs once; at an allocation that is to fail the process is copied, and the copy goes on without it.
-// TESKARA_ALLOCATIONS in the environment says that one in so many is tried: 1 tries all of them.
+// TESKARA_ALLOCATIONS in the environment says that one in so many is tried: 1 tries all of them. 3:0, 3:1 and 3:2 do so
+// in three shares.
 
 #include "host/probe/TreeChecker.h"
 #include "teskara/core/CUIManager.h"
@@ -12,6 +13,7 @@
 #include "tests/unit/hostile/SharedCounts.h"
 #include "tests/unit/reentrancy/CellWatch.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <memory>
@@ -36,6 +38,7 @@ struct Inquest {
     Scenario* Play = nullptr;
     SharedCounts* Counts = nullptr;
     u32 Stride = 1;
+    u32 First = 0;
     bool IsTrial = false;
     bool FailsFromThenOn = false;
     std::unique_ptr<CellWatch> Watch;
@@ -74,16 +77,21 @@ bool Judge()
         return g_Inquest.FailsFromThenOn;
 
     const u32 allocation = (*g_Inquest.Counts)[Allocated]++;
-    if (allocation % g_Inquest.Stride != 0)
+    if (allocation % g_Inquest.Stride != g_Inquest.First)
         return false;
     return BeginTrial(allocation, false) || BeginTrial(allocation, true);
 }
 
-u32 Stride()
+void ChooseTrials()
 {
+    g_Inquest.Stride = UsualStride;
     const char* choice = std::getenv("TESKARA_ALLOCATIONS");
-    const u32 stride = choice ? static_cast<u32>(std::strtoul(choice, nullptr, 10)) : 0;
-    return stride > 0 ? stride : UsualStride;
+    if (!choice)
+        return;
+
+    char* end = nullptr;
+    g_Inquest.Stride = std::max(static_cast<u32>(std::strtoul(choice, &end, 10)), 1u);
+    g_Inquest.First = *end == ':' ? static_cast<u32>(std::strtoul(end + 1, nullptr, 10)) : 0;
 }
 
 void CheckClearedTree(const Scenario& scenario)
@@ -147,7 +155,7 @@ TEST(AllocationFailureDeathTest, EachAllocationMayFail)
     InFreshProcess([&] {
         Allocations::BeginBooks();
         g_Inquest.Counts = &counts;
-        g_Inquest.Stride = Stride();
+        ChooseTrials();
         Allocations::SetJudge(Judge);
         const std::size_t left = PlayAll(files);
         Allocations::SetJudge(nullptr);
