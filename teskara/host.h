@@ -5,8 +5,8 @@
 //
 // The program fills a table of operations with what it can do. What it leaves null the toolkit does by itself, as the
 // word "Default" says at each operation; a table with no operation at all still loads interfaces and routes input. With
-// draw_rect, measure_text, create_font, draw_text and display_size windows can be seen, with compile_atom and
-// execute_atom they do something.
+// draw_rect, draw_text, measure_text and display_size windows can be seen, with compile_atom and execute_atom they do
+// something.
 //
 //     static const teskara_host host = {
 //         .size = sizeof(teskara_host), .version = TESKARA_TABLE_VERSION, .draw_rect = draw_rect, ...
@@ -193,7 +193,7 @@ typedef struct teskara_host {
 
     // --- Lines for a person: the toolkit's only way to say that something went wrong
 
-    // line has no line end. May call the toolkit. Default: standard error.
+    // line has no line end. May call the toolkit. Default: write_debug of the platform.
     void (*print_line)(void* user, const char* line);
 
     // --- Scripts: the pieces of script in interfaces, here called atoms, are compiled once and run often
@@ -236,7 +236,7 @@ typedef struct teskara_host {
     bool (*calculate)(void* user, const char* text, double* result);
 
     // --- Commands, and the objects that scripts begin with. The toolkit keeps lists of its own for teskara_run and
-    // --- teskara_ask; these are for a program whose users see one list of all.
+    // teskara_ask; these are for a program whose users see one list of all.
 
     void (*add_command)(void* user, const char* name); // teskara_run runs it
     void (*remove_command)(void* user, const char* name);
@@ -325,11 +325,12 @@ typedef struct teskara_platform {
     int (*to_ascii)(void* user, uint32_t key, const uint8_t* state, char* characters);
     uint16_t (*ansi_to_wide)(void* user, uint8_t character); // one of those bytes as a UTF-16 unit
 
-    // Opens a regular file for reading bytes; the toolkit closes it. Null: it cannot be opened.
+    // Opens a regular file for reading bytes. The toolkit closes it, through the same C library. Null: it cannot be opened.
     FILE* (*open_file)(void* user, const char* path);
     bool (*file_exists)(void* user, const char* path);
 
-    void (*write_debug)(void* user, const char* text); // for a developer; text brings its own line end
+    // For a developer; text brings its own line end. The system's: standard error, on Windows the debugger.
+    void (*write_debug)(void* user, const char* text);
 
     // A text would have passed a bound. The system's own ends the process; if this returns, the text is cut.
     void (*range_failure)(void* user);
@@ -433,7 +434,7 @@ TESKARA_EXPORT void teskara_set_key_repeat(uint32_t delay, uint32_t interval);
 
 TESKARA_EXPORT uint32_t teskara_find(const char* name); // 0: there is none
 
-// Makes an element of a kind such as "frame" without markup; parent 0 is the screen. 0: it was not made.
+// Makes an element of a kind such as "frame"; parent 0 is the screen. 0: it was not made.
 TESKARA_EXPORT uint32_t teskara_create(uint32_t parent, const char* kind, const char* name);
 TESKARA_EXPORT void teskara_delete(uint32_t element);
 

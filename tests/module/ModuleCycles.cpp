@@ -2,6 +2,7 @@
 // nothing if all is well.
 
 #include "teskara/core/CUIManager.h"
+#include "teskara/host.h"
 
 #include <cstdio>
 #include <dlfcn.h>
@@ -41,6 +42,22 @@ long Resident()
     return pages * 4;
 }
 
+// Once stopped, the toolkit starts again only when its library is loaded anew.
+const char* StartAndStop(void* module)
+{
+    const auto start = reinterpret_cast<decltype(&teskara_start)>(dlsym(module, "teskara_start"));
+    const auto stop = reinterpret_cast<decltype(&teskara_stop)>(dlsym(module, "teskara_stop"));
+    if (!start || !stop)
+        return "it has no functions for programs in C";
+    teskara_host host = {};
+    host.size = sizeof host;
+    host.version = TESKARA_TABLE_VERSION;
+    if (start(&host) != TESKARA_OK)
+        return "it does not start";
+    stop();
+    return start(&host) == TESKARA_STOPPED ? nullptr : "it starts a second time";
+}
+
 const char* RunOnce(const char* path)
 {
     void* module = dlopen(path, RTLD_NOW | RTLD_LOCAL);
@@ -53,7 +70,8 @@ const char* RunOnce(const char* path)
     if (manager->ShuttingDown || manager->Factories.empty() || manager->NextElementID != 1)
         return "it is not as new";
     manager->NextElementID = 2;
-    manager->Shutdown();
+    if (const char* fault = StartAndStop(module))
+        return fault;
     dlclose(module);
     return dlopen(path, RTLD_NOW | RTLD_NOLOAD) ? "it stays loaded" : nullptr;
 }

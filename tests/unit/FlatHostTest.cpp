@@ -327,9 +327,11 @@ TEST_F(FlatDefaultsTest, TheNameOfAFileIsItsPath)
 
 TEST_F(FlatDefaultsTest, LinesGoToTheSystem)
 {
-    testing::internal::CaptureStderr();
+    TestPlatform system;
+    SetPlatform(&system);
     Host.PrintLine("%s has %d", "it", 1);
-    EXPECT_EQ("it has 1\n", testing::internal::GetCapturedStderr());
+    SetPlatform(nullptr);
+    EXPECT_EQ("it has 1\n", system.DebugOutput);
 }
 
 TEST_F(FlatDefaultsTest, NoScriptIsCompiled)

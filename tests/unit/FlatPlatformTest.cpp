@@ -108,7 +108,7 @@ TEST_F(FlatPlatformTest, DoesWithoutATableWhatTheSystemDoes)
     EXPECT_EQ(system.ToAscii(65, state, theirs), Flat.ToAscii(65, state, mine));
     EXPECT_EQ(system.AnsiToWide(0x80), Flat.AnsiToWide(0x80));
     EXPECT_EQ(system.GetModulePath(), Flat.GetModulePath());
-    EXPECT_TRUE(Flat.FileExists(u"/proc/self/exe"));
+    EXPECT_TRUE(Flat.FileExists(u"."));
     EXPECT_EQ(nullptr, Flat.OpenFile(u"/no/such/file"));
 
     std::string text;
@@ -118,9 +118,6 @@ TEST_F(FlatPlatformTest, DoesWithoutATableWhatTheSystemDoes)
     EXPECT_EQ(system.GetClipboardText(text), Flat.GetClipboardText(text));
     Flat.CloseClipboard();
 
-    testing::internal::CaptureStderr();
-    Flat.WriteDebugOutput("a line\n");
-    EXPECT_EQ("a line\n", testing::internal::GetCapturedStderr());
     ExpectCalls("");
 }
 
