@@ -291,14 +291,15 @@ def try_copy(tally, name, prefix):
     try_example_in_c(tally, name, prefix, work / "minimal_host_c")
 
 
-def try_example_in_c(tally, name, prefix, example):
+def try_example_in_c(tally, name, prefix, example, toolchain=(), started_by=""):
     if check(tally, f"example in C against {name}",
-             ["cmake", "-S", "examples/minimal_host_c", "-B", example, "-G", "Ninja", f"-DCMAKE_PREFIX_PATH={prefix}"]):
+             ["cmake", "-S", "examples/minimal_host_c", "-B", example, "-G", "Ninja", f"-DCMAKE_PREFIX_PATH={prefix}",
+              *toolchain]):
         check(tally, "build of the example in C", ["cmake", "--build", example])
         clicks = "Bigger@Hello Quit@Hello"
         check(tally, "run of the example in C",
-              ["sh", "-c", f"{example}/minimal_host_c examples/minimal_host/hello.xml {clicks} | "
-                           "diff tests/installed/minimal_host_c.txt -"])
+              ["sh", "-c", f"{started_by} {example}/minimal_host_c* examples/minimal_host/hello.xml {clicks} | "
+                           "diff --strip-trailing-cr tests/installed/minimal_host_c.txt -"])
 
 
 def packages(tally):
@@ -364,6 +365,12 @@ def windows(tally):
     subprocess.run(["wineserver", "--persistent"], cwd=ROOT)
     try:
         check(tally, "exports for Windows", ["tools/check_exports.py", "build/windows/bin/teskara.dll"])
+        prefix, example = ROOT / "build/installed_windows", ROOT / "build/minimal_host_c_windows"
+        if check(tally, "install for Windows", ["cmake", "--install", "build/windows", "--prefix", prefix]):
+            os.environ["WINEPATH"] = f"{prefix}/bin;{ROOT}/build/windows/bin"
+            toolchain = ["-DCMAKE_TOOLCHAIN_FILE=" + str(ROOT / "cmake/mingw-w64-x86_64.cmake"),
+                         f"-DCMAKE_FIND_ROOT_PATH={prefix}"]
+            try_example_in_c(tally, "an installed copy for Windows", prefix, example, toolchain, "wine")
         unit_tests(tally, "windows")
         transcripts(tally, "windows")
     finally:

@@ -3,9 +3,9 @@
 #include "teskara/core/Utf8.h"
 #include "teskara/markup/XMLAttribute.h"
 
-#include <cstdio>
 #include <cstring>
 #include <filesystem>
+#include <fstream>
 #include <string>
 
 namespace {
@@ -28,9 +28,7 @@ protected:
 
     std::string Write(const std::string& name, const std::string& bytes) const
     {
-        std::FILE* const file = std::fopen(PathOf(name).c_str(), "wb");
-        std::fwrite(bytes.data(), 1, bytes.size(), file);
-        std::fclose(file);
+        std::ofstream(m_Folder / name, std::ios::binary) << bytes;
         return PathOf(name);
     }
 
