@@ -96,6 +96,16 @@ std::string TemplateChains(std::size_t bytes)
     return all + "</Tesk>";
 }
 
+// Each holds the texts of all before it once more, and one of its own.
+std::string DoublingTemplates(std::size_t bytes)
+{
+    std::string all = "<Tesk>";
+    for (std::size_t index = 0; all.size() + 64 < bytes; ++index)
+        all += "<Template name='" + std::to_string(index) + "' Template='"
+            + std::to_string(index - std::min<std::size_t>(index, 1)) + "'>x</Template>";
+    return all + "</Tesk>";
+}
+
 // Half of the bytes are one template's children, the other half those of another that is built on it.
 std::string WideTemplates(std::size_t bytes)
 {
@@ -125,6 +135,8 @@ constexpr HostileShape Shapes[] = {
     {"mixed", "elements and texts by turns", false, ChildrenAndTexts},
     {"illformed", "bytes that are no UTF-8", false, IllFormedBytes},
     {"chains", "templates each built on the one before", true, TemplateChains},
+    {"doubling", "templates whose texts double from one to the next", true, DoublingTemplates,
+        Limits::TemplateFileBytes},
     {"wide", "a template of many children built on another", true, WideTemplates},
 };
 

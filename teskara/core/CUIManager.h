@@ -261,6 +261,7 @@ private:
     bool LoadInterface(const LoadRequest& request);
     void LoadTopLevelElement(const LoadRequest& request, XMLNode* node);
     bool OpenInterface(const char* file, XMLDocument& document, XMLNode*& root);
+    XMLNode* MergeTemplate(const char* name, XMLNode* node, std::size_t& spareBytes);
     XMLNode* StoreTemplate(const char* name, StoredTemplate node);
     StoredTemplate TakeTemplate(const char* name);
     void RetireTemplate(StoredTemplate node);

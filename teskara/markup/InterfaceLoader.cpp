@@ -199,11 +199,12 @@ try {
 
     const SkinScope skin(requestedSkin.Get());
     const MarkupReading reading;
+    std::size_t spareBytes = Limits::TemplateFileBytes;
     for (XMLNode* node = root->FirstChild; node && parent.Exists(); node = node->Next) {
         if (!IsElement(node))
             continue;
         if (HasTag(node, TemplateTag))
-            AddTemplate(NameOf(node), node);
+            MergeTemplate(NameOf(node), node, spareBytes);
         else if (HasTag(node, SkinTag))
             LoadSkin(node);
         else

@@ -3,15 +3,16 @@
 #include "teskara/core/CUIManager.h"
 #include "teskara/core/Limits.h"
 #include "teskara/core/utf8string.h"
+#include "teskara/markup/ChildrenByTag.h"
 #include "teskara/markup/MarkupNames.h"
 #include "teskara/markup/XMLAttribute.h"
 #include "teskara/markup/XMLAttributeList.h"
 #include "teskara/markup/XMLHelper.h"
 #include "teskara/markup/XMLNode.h"
 
+#include <algorithm>
 #include <cstring>
 #include <string_view>
-#include <unordered_map>
 
 namespace {
 
@@ -20,19 +21,23 @@ const char* BaseNames(XMLNode* node)
     return XMLHelper::GetStringAttribute(node, TemplateAttribute, "");
 }
 
+// child: may be null.
 void RemoveChild(XMLNode* parent, XMLNode* child)
 {
+    if (!child)
+        return;
+
     (child->Prev ? child->Prev->Next : parent->FirstChild) = child->Next;
     (child->Next ? child->Next->Prev : parent->LastChild) = child->Prev;
     XMLNode::Delete(child);
 }
 
-// What a copy of the node and all below it takes, roughly.
-std::size_t BytesOf(const XMLNode* top)
+// What a copy of the node and all below it takes, roughly. Counts no further than beyond most.
+std::size_t BytesOf(const XMLNode* top, std::size_t most)
 {
     std::size_t bytes = 0;
     const XMLNode* node = top;
-    while (node) {
+    while (node && bytes <= most) {
         bytes += sizeof(XMLNode) + std::strlen(node->Name);
         for (const XMLAttribute* attribute = node->Attributes; attribute; attribute = attribute->Next)
             bytes += sizeof(XMLAttribute) + std::strlen(attribute->Name) + std::strlen(attribute->Value);
@@ -67,19 +72,13 @@ public:
             SetAttribute(*attribute);
         for (XMLNode* child = source->FirstChild; child; child = child->Next) {
             if (child->Type == XMLElementNode)
-                RemoveFirst(child->Name);
+                RemoveChild(m_Root, m_ByTag.TakeFirst(child->Name));
             if (XMLNode* copy = child->Clone(m_Root))
                 Note(copy);
         }
     }
 
 private:
-    // The children of one tag, of which the first ones are gone.
-    struct Namesakes {
-        std::vector<XMLNode*> Nodes;
-        std::size_t Gone = 0;
-    };
-
     void SetAttribute(const XMLAttribute& attribute)
     {
         XMLArena& arena = XMLArena::Of(*m_Root);
@@ -89,42 +88,39 @@ private:
     void Note(XMLNode* child)
     {
         if (child->Type == XMLElementNode)
-            m_ByTag[std::string_view(child->Name)].Nodes.push_back(child);
-    }
-
-    void RemoveFirst(std::string_view tag)
-    {
-        const auto known = m_ByTag.find(tag);
-        if (known == m_ByTag.end() || known->second.Gone == known->second.Nodes.size())
-            return;
-
-        RemoveChild(m_Root, known->second.Nodes[known->second.Gone]);
-        ++known->second.Gone;
+            m_ByTag.Add(child);
     }
 
     XMLNode* m_Root;
     XMLAttributeList m_Attributes;
-    std::unordered_map<std::string_view, Namesakes, NameHash, NameEqual> m_ByTag; // names of gone ones stay good
+    ChildrenByTag m_ByTag; // those that are gone stay good as long as the root
 };
 
 } // namespace
 
-TemplateChain::TemplateChain(XMLNode* node)
+TemplateChain::TemplateChain(XMLNode* node, std::size_t& spareBytes)
+    : m_SpareBytes(spareBytes), m_Room(Limits::TemplateChainBytes)
 {
     Enter(node);
     m_Passes.push_back({node, nullptr, BaseNames(node)});
     Collect();
 }
 
-// Bases that hold too much together are left out from there on, so that circles and lists of lists come to an end
-// before memory does.
+// Bases that hold too much together are left out from there on, so that circles, lists of lists and long lines of
+// templates come to an end before memory does. The template itself is always let in, and is no base.
 void TemplateChain::Enter(XMLNode* node)
 {
-    m_Bytes += BytesOf(node);
-    if (!m_Entries.IsEmpty() && m_Bytes > Limits::TemplateChainBytes)
-        m_Full = true;
-    else
-        m_Entries.Push(node);
+    const bool isBase = !m_Entries.IsEmpty();
+    const std::size_t most = isBase ? std::min(m_Room, m_SpareBytes) : m_Room;
+    const std::size_t bytes = std::max(BytesOf(node, most), isBase ? Limits::TemplateBaseBytes : 0);
+    m_Full = isBase && bytes > most;
+    if (m_Full)
+        return;
+
+    m_Room -= std::min(m_Room, bytes);
+    if (isBase)
+        m_SpareBytes -= bytes;
+    m_Entries.Push(node);
 }
 
 // A name without a comma leads to the next node, until a node names the one just found. With commas only the names

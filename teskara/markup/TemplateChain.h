@@ -12,7 +12,8 @@ class XMLNode;
 class TemplateChain
 {
 public:
-    explicit TemplateChain(XMLNode* node);
+    // spareBytes: what the bases may hold together. What they do hold is taken off, so that chains can share it.
+    TemplateChain(XMLNode* node, std::size_t& spareBytes);
 
     // The merged template as a tree of its own, which the caller deletes. Null if memory ran out. Asked for once.
     XMLNode* Merge();
@@ -31,6 +32,7 @@ private:
 
     LockedList<XMLNode> m_Entries; // the most basic one last
     std::vector<Pass> m_Passes; // lists within lists
-    std::size_t m_Bytes = 0; // of all entries
+    std::size_t& m_SpareBytes;
+    std::size_t m_Room; // bytes that this chain may still hold
     bool m_Full = false;
 };

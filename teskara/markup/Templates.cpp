@@ -3,6 +3,7 @@
 #include "teskara/core/BoundedText.h"
 #include "teskara/core/CUIManager.h"
 #include "teskara/core/HostCalls.h"
+#include "teskara/core/Limits.h"
 #include "teskara/markup/MarkupNames.h"
 #include "teskara/markup/TemplateChain.h"
 #include "teskara/markup/TeskSkin.h"
@@ -31,9 +32,15 @@ void DeleteTemplate::operator()(XMLNode* node) const
     XMLNode::Delete(node);
 }
 
-// The old one is out of the store before the bases are looked up, and lives until the copy is made, since node may be
-// part of it.
 XMLNode* CUIManager::AddTemplate(const char* name, XMLNode* node)
+{
+    std::size_t spareBytes = Limits::TemplateChainBytes;
+    return MergeTemplate(name, node, spareBytes);
+}
+
+// The old one is out of the store before the bases are looked up, and lives until the copy is made, since node may be
+// part of it. spareBytes: see TemplateChain.
+XMLNode* CUIManager::MergeTemplate(const char* name, XMLNode* node, std::size_t& spareBytes)
 try {
     if (IsEmpty(name) || !IsTemplate(node) || Host::IsAnswering())
         return nullptr;
@@ -41,7 +48,7 @@ try {
     const utf8string copiedName = name;
     StoredTemplate old = TakeTemplate(name);
     const bool inherits = *XMLHelper::GetStringAttribute(node, TemplateAttribute, "") != 0;
-    StoredTemplate merged(inherits ? TemplateChain(node).Merge() : node->Clone(nullptr));
+    StoredTemplate merged(inherits ? TemplateChain(node, spareBytes).Merge() : node->Clone(nullptr));
     RetireTemplate(std::move(old));
     return StoreTemplate(copiedName.c_str(), std::move(merged));
 } catch (...) {

@@ -65,11 +65,6 @@ public:
     // The same for units below 128. Behind them there must be 7 more that can be read.
     XMLText StoreAscii(std::u16string_view units);
 
-    // Bytes that the tree of a document may take: so many for each byte of input, so many besides, and what its entities
-    // expand to. Only elements and texts of a letter each, by turns, would take more.
-    static constexpr std::size_t BytesForInputByte = 22;
-    static constexpr std::size_t BytesBesides = 512 * 1024;
-
     // So many bytes more may be taken from the system; beyond them it is as if memory ran out.
     std::size_t MayTake = std::numeric_limits<std::size_t>::max();
 

@@ -15,8 +15,8 @@ bool XMLAttributeList::Set(XMLArena& arena, const XMLName& name, XMLText value)
     (m_Last ? m_Last->Next : m_Node->Attributes) = attribute;
     m_Last = attribute;
     ++m_Count;
-    if (!m_Index.empty())
-        m_Index.emplace(attribute->Name, attribute);
+    if (!m_Index.IsEmpty())
+        AddToIndex(*attribute);
     return true;
 }
 
@@ -25,9 +25,20 @@ XMLAttribute* XMLAttributeList::Find(const XMLName& name)
     if (m_Count < WalkedAtMost)
         return m_Node->FindAttribute(name.View(), name.Hash);
 
-    if (m_Index.empty())
-        for (XMLAttribute* attribute = m_Node->Attributes; attribute; attribute = attribute->Next)
-            m_Index.emplace(attribute->Name, attribute);
-    const auto found = m_Index.find(name.View());
-    return found != m_Index.end() ? found->second : nullptr;
+    if (m_Index.IsEmpty())
+        FillIndex();
+    return m_Index.Find(
+        name.View(), [&](const XMLAttribute* attribute) { return attribute->HasName(name.View(), name.Hash); });
+}
+
+void XMLAttributeList::FillIndex()
+{
+    for (XMLAttribute* attribute = m_Node->Attributes; attribute; attribute = attribute->Next)
+        AddToIndex(*attribute);
+}
+
+void XMLAttributeList::AddToIndex(XMLAttribute& attribute)
+{
+    m_Index.Reserve(m_Count, [](const XMLAttribute* other) { return other->Name; });
+    m_Index.FindFree(attribute.Name) = &attribute;
 }

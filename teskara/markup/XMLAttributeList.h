@@ -1,11 +1,8 @@
 #pragma once
 
-#include "teskara/core/AsciiCase.h"
 #include "teskara/core/Types.h"
+#include "teskara/markup/NameSlots.h"
 #include "teskara/markup/XMLArena.h"
-
-#include <map>
-#include <string_view>
 
 // The attributes of a node that is given many: of the tag that is being read, or of a template that is merged. Adds at
 // the end without a walk, and finds repeated names through an index once there are more than a few.
@@ -23,16 +20,14 @@ public:
 private:
     static constexpr u32 WalkedAtMost = 16;
 
-    struct NameOrder {
-        bool operator()(std::string_view left, std::string_view right) const { return CompareNoCase(left, right) < 0; }
-    };
-
     XMLAttribute* Find(const XMLName& name);
+    void FillIndex();
+    void AddToIndex(XMLAttribute& attribute);
 
     XMLNode* m_Node = nullptr;
     XMLAttribute* m_Last = nullptr;
     u32 m_Count = 0;
-    std::map<std::string_view, XMLAttribute*, NameOrder> m_Index; // empty while there are few
+    NameSlots<XMLAttribute*> m_Index; // empty while there are few
 };
 
 inline void XMLAttributeList::Begin(XMLNode& node)
@@ -44,6 +39,5 @@ inline void XMLAttributeList::Begin(XMLNode& node)
         m_Last = attribute;
         ++m_Count;
     }
-    if (!m_Index.empty())
-        m_Index.clear();
+    m_Index.Clear();
 }

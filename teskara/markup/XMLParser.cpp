@@ -78,7 +78,7 @@ bool XMLParser::MakeRoot()
     if (!m_Arena)
         return false;
 
-    m_Arena->MayTake = m_Stream.InputBytes * XMLArena::BytesForInputByte + XMLArena::BytesBesides;
+    m_Arena->MayTake = m_Stream.InputBytes * Limits::TreeBytesFactor + Limits::TreeBytes;
     XMLNode* const root = m_Arena->NewNode(m_Arena->Store(std::string_view("DOCUMENT ROOT")).Text, XMLRootNode, 0);
     m_Arena->First = root;
     m_Document.Root = root;

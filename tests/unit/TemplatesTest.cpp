@@ -145,6 +145,54 @@ TEST_F(TemplatesTest, LargeTemplatesAreMergedInOneGo)
     EXPECT_EQ(60000u, Count("B"));
 }
 
+TEST_F(TemplatesTest, ManyTemplatesEachBuiltOnTheOneBeforeAreReadInOneGo)
+{
+    constexpr int Last = 8000;
+    std::string markup = "<Template name=\"t0\"><First/></Template>";
+    for (int index = 1; index <= Last; ++index)
+        markup += "<Template name=\"t" + std::to_string(index) + "\" Template=\"t" + std::to_string(index - 1) + "\"/>";
+    const auto start = std::chrono::steady_clock::now();
+    Load(markup);
+    EXPECT_LT(SecondsSince(start), Patience);
+    EXPECT_EQ("First ", Children("t500"));
+    EXPECT_NE("none", Children(("t" + std::to_string(Last)).c_str()));
+}
+
+TEST_F(TemplatesTest, ManyTemplatesOfTextsThatDoubleEndBeforeMemoryDoes)
+{
+    constexpr int Last = 2000;
+    std::string markup = "<Template name=\"t0\">x</Template>";
+    for (int index = 1; index <= Last; ++index) {
+        const std::string number = std::to_string(index);
+        markup += "<Template name=\"t" + number + "\" Template=\"t" + std::to_string(index - 1) + "\">x</Template>";
+    }
+    Load(markup);
+    EXPECT_EQ(1024u, Count("t10"));
+    std::size_t all = 0;
+    for (int index = 0; index <= Last; ++index)
+        all += Count(("t" + std::to_string(index)).c_str());
+    EXPECT_LE(all, Limits::TemplateFileBytes / sizeof(XMLNode) + Last);
+}
+
+TEST_F(TemplatesTest, TheTemplatesOfAFileMayBeBuiltOnSoMuch)
+{
+    // What each of the templates built on the large one brings in is a little more than its texts.
+    constexpr std::size_t Each = 256 * 1024;
+    constexpr std::size_t Most = Limits::TemplateFileBytes / Each;
+    std::string markup = "<Template name=\"large\">" + std::string(Each - 400, 'x') + "</Template>";
+    for (std::size_t index = 1; index <= Most + 1; ++index)
+        markup += "<Template name=\"t" + std::to_string(index) + "\" Template=\"large\"/>";
+    for (int file = 0; file < 2; ++file) {
+        g_UIManager.ClearTemplates();
+        Load(markup);
+        EXPECT_EQ(1u, Count(("t" + std::to_string(Most)).c_str()));
+        EXPECT_EQ(0u, Count(("t" + std::to_string(Most + 1)).c_str()));
+    }
+    XMLNode* const last = g_UIManager.FindTemplate(("t" + std::to_string(Most + 1)).c_str());
+    EXPECT_NE(nullptr, g_UIManager.AddTemplate("more", last));
+    EXPECT_EQ(1u, Count("more"));
+}
+
 TEST_F(TemplatesTest, ManyAttributesAreMergedInOneGo)
 {
     std::string markup = Large("T0", "", 0, 9000);

@@ -135,7 +135,7 @@ TEST(XMLLimits, ATreeMayTakeSoMuchForEachByteOfItsInput)
     const std::string unit = "<b/>x";
     const auto parses = [&](std::size_t count) { return Parses("<a>" + Repeated(unit, count) + "</a>"); };
     constexpr std::size_t UnitInTree = 2 * sizeof(XMLNode) + 2;
-    const std::size_t most = XMLArena::BytesBesides / (UnitInTree - unit.size() * XMLArena::BytesForInputByte);
+    const std::size_t most = Limits::TreeBytes / (UnitInTree - unit.size() * Limits::TreeBytesFactor);
     EXPECT_TRUE(parses(most * 9 / 10));
     EXPECT_FALSE(parses(most * 11 / 10));
     EXPECT_TRUE(Parses("<a>" + Repeated("<b/>", 10 * most) + "</a>"));
@@ -147,7 +147,7 @@ TEST(XMLLimits, ATreeGrowsFreelyOnceItIsParsed)
     ASSERT_TRUE(document.ParseBuffer("<a/>"));
     const std::string name(1000, 'n');
     std::size_t bytes = 0;
-    for (; bytes < 2 * XMLArena::BytesBesides; bytes += name.size())
+    for (; bytes < 2 * Limits::TreeBytes; bytes += name.size())
         ASSERT_TRUE(XMLNode::Create(document.Root->FirstChild, name, XMLTextNode)) << bytes;
 }
 
