@@ -5,7 +5,8 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
+#include <charconv>
+#include <cstring>
 #include <string>
 
 namespace {
@@ -122,7 +123,7 @@ class CalculatingHost : public TestHost
 public:
     bool Calculate(const char* text, double& result) override
     {
-        result = std::strtod(text, nullptr);
+        std::from_chars(text, text + std::strlen(text), result);
         return std::string(text) != "fail";
     }
 };

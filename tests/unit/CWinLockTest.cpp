@@ -49,6 +49,16 @@ TEST(CWinLock, DestructionGivesBackWhatIsHeld)
     EXPECT_TRUE(IsFree(section));
 }
 
+TEST(CWinLock, TheSameSectionOnceMoreStaysHeld)
+{
+    CriticalSection section;
+    CWinLock lock(&section);
+    lock.Lock();
+    lock.SetLock(&section);
+    EXPECT_TRUE(lock.IsLocked());
+    EXPECT_FALSE(IsFree(section));
+}
+
 TEST(CWinLock, TwiceIsOnce)
 {
     CriticalSection section;

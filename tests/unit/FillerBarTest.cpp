@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <locale>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -21,6 +22,7 @@ std::vector<FillerBar::Piece> PiecesOf(u32 extent, u32 repeat, float fill)
 std::string Bar(u32 extent, u32 repeat, float fill)
 {
     std::ostringstream text;
+    text.imbue(std::locale::classic());
     const char* gap = "";
     for (const FillerBar::Piece& piece : PiecesOf(extent, repeat, fill)) {
         text << gap << piece.Begin << '+' << piece.Length;

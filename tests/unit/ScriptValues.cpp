@@ -3,6 +3,8 @@
 #include "teskara/core/CUIManager.h"
 #include "teskara/element/TeskScreen.h"
 
+#include <charconv>
+#include <iterator>
 #include <stdexcept>
 
 namespace {
@@ -12,11 +14,12 @@ char** AsArguments(const std::vector<const char*>& arguments)
     return const_cast<char**>(arguments.data());
 }
 
+// With six digits and a point, whatever the locale.
 std::string FloatText(float number)
 {
+    constexpr int Digits = 6;
     char text[64];
-    std::snprintf(text, sizeof(text), "%g", static_cast<double>(number));
-    return text;
+    return {text, std::to_chars(text, std::end(text), number, std::chars_format::general, Digits).ptr};
 }
 
 std::string ValueText(const std::string& type, MvTypeDefinition& definition, MvValue value)

@@ -237,6 +237,21 @@ TEST_F(TeskFontTest, ACopyLoadsItsOwnFace)
     EXPECT_TRUE(copy->Fixed);
 }
 
+TEST_F(TeskFontTest, AFixedCopyOfAnyFontIsFixedAndDeletesItself)
+{
+    const auto font = MakeFont("Sans", 9, false);
+    font->Color = 0x11223344;
+    TeskFixedFont* const copy = TeskFixedFont::New(&Element("Panel"), *font);
+    EXPECT_EQ("Sans", copy->Name);
+    EXPECT_EQ(9, copy->Size);
+    EXPECT_EQ(0x11223344u, copy->Color);
+    Host.TakeCalls();
+    Host.Recorded = RecordResources;
+    EXPECT_TRUE(copy->Prepare());
+    copy->Delete();
+    EXPECT_EQ("CreateFontResource \"Sans\" 9 fixed -> 1\nReleaseFontResource 1\n", Host.TakeCalls());
+}
+
 TEST_F(TeskFontTest, ARecordWithoutATemplateIsWhiteAndNamelessByDefault)
 {
     const std::unique_ptr<TeskFont> font(TeskFont::New(&Element("Panel"), _CreateFont{}, nullptr));

@@ -37,6 +37,18 @@ protected:
 
 } // namespace
 
+TEST_F(TeskTextureTest, MarkupIsReadWithoutATemplateAndTheTextureDeletesItself)
+{
+    XMLNode* const node = g_UIManager.AddTemplate("Node", "<Template Filename='a.tga'><Left>3</Left></Template>");
+    TeskTexture* const texture = TeskTexture::New("a.tga");
+    ASSERT_TRUE(texture->FromXML(node));
+    EXPECT_EQ("a.tga", texture->Filename);
+    EXPECT_TRUE(texture->Prepare());
+    Host.TakeCalls();
+    texture->Delete();
+    EXPECT_EQ("ReleaseTextureResource 1\n", Host.TakeCalls());
+}
+
 TEST_F(TeskTextureTest, DeleteOfNullIsHarmless)
 {
     TeskTexture::Delete(nullptr);
