@@ -75,11 +75,15 @@ try {
     return nullptr;
 }
 
+// There is a place for each template among the retired ones, so that none is lost when there is no memory.
 XMLNode* CUIManager::StoreTemplate(const char* name, StoredTemplate node)
 {
     if (!node)
         return nullptr;
 
+    const std::size_t places = m_RetiredTemplates.size() + Templates.size() + 1;
+    if (m_RetiredTemplates.capacity() < places)
+        m_RetiredTemplates.reserve(2 * places);
     return Templates.insert_or_assign(utf8stringnocase(name), std::move(node)).first->second.get();
 }
 
@@ -95,17 +99,11 @@ StoredTemplate CUIManager::TakeTemplate(const char* name)
     return taken;
 }
 
-// Without memory for it the template is never freed, since somebody may be reading it.
+// Somebody may be reading it.
 void CUIManager::RetireTemplate(StoredTemplate node)
 {
-    if (!node || m_MarkupReaders == 0)
-        return;
-
-    try {
+    if (node && m_MarkupReaders != 0)
         m_RetiredTemplates.push_back(std::move(node));
-    } catch (...) {
-        static_cast<void>(node.release());
-    }
 }
 
 void CUIManager::EndReading()

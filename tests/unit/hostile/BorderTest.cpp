@@ -2,6 +2,7 @@
 // its own finds no memory.
 
 #include "teskara/core/CUIManager.h"
+#include "teskara/core/MarkupReading.h"
 #include "teskara/element/TeskElement.h"
 #include "teskara/element/TeskScreen.h"
 #include "teskara/markup/XMLDocument.h"
@@ -237,4 +238,23 @@ TEST_F(BorderTest, AMenuThatFindsNoMemoryForItsLookOpensAllTheSame)
     }
     EXPECT_LT(0, opened);
     EXPECT_LT(0, unopened);
+}
+
+TEST_F(BorderTest, ATemplateThatIsReplacedWithoutMemoryIsFreedAllTheSame)
+{
+    const auto replace = [](std::size_t allocation) {
+        g_UIManager.AddTemplate("words", "<Template><Text>words</Text></Template>");
+        {
+            const MarkupReading reading;
+            Allocations::FailAfter(allocation, Allocations::Failing::FromThenOn);
+            g_UIManager.AddTemplate("words", "<Template><Text>other</Text></Template>");
+            Allocations::Allow();
+        }
+        g_UIManager.RemoveTemplate("words");
+    };
+    replace(1000);
+    Allocations::BeginBooks();
+    for (std::size_t allocation = 0; allocation < 60; ++allocation)
+        replace(allocation);
+    EXPECT_EQ(0u, Allocations::Outstanding());
 }
