@@ -15,7 +15,7 @@ import tidy
 
 ROOT = Path(__file__).resolve().parent.parent
 FUZZ_SECONDS = 60
-CORPUS_VARIATIONS = 25
+CORPUS_VARIATIONS = 10
 LONGEST_STAGE_SECONDS = 900
 SHARES = 2  # of a long stage, at the same time
 HARSH_LOCALE = "de_DE.UTF-8"
