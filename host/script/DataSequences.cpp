@@ -10,8 +10,7 @@ namespace host {
 namespace {
 
 constexpr std::string_view Opening = "${";
-constexpr std::size_t MostRecent = 4096; // texts
-constexpr std::size_t MostRecentBytes = 256 * 1024; // of theirs; parsed they take far more
+constexpr std::size_t MostRecentBytes = 256 * 1024; // of their texts; parsed they take far more
 constexpr std::size_t LongestText = 64 * 1024; // a longer one is taken as it is
 
 // Cuts where a character begins, so that no broken one is shown.
@@ -39,6 +38,9 @@ void DataSequences::Expand(std::string_view text, char* output, u32 size)
 
 std::string DataSequences::Expand(std::string_view text)
 {
+    if (text.find(Opening) == text.npos)
+        return std::string(text);
+
     std::string expanded;
     m_Evaluator.Append(*Parse(text), expanded);
     return expanded;

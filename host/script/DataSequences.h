@@ -18,6 +18,10 @@ public:
     // The evaluator is borrowed.
     explicit DataSequences(SequenceEvaluator& evaluator) : m_Evaluator(evaluator) { }
 
+    // Texts that are not kept are remembered in two lots of so many at most: enough for what a frame shows, and few, as
+    // a value that is set is a text of its own each time.
+    static constexpr std::size_t MostRecent = 512;
+
     // Writes a text with its parts evaluated, at most size bytes with the end. The output may be the text itself.
     void Expand(std::string_view text, char* output, u32 size);
     std::string Expand(std::string_view text);
@@ -26,8 +30,9 @@ public:
     u32 Keep(std::string_view text, const std::string& where);
     void Free(u32 sequence) { m_Kept.erase(sequence); }
 
-    // How many are kept.
+    // How many are kept, and how many are remembered besides.
     std::size_t Count() const { return m_Kept.size(); }
+    std::size_t RecentCount() const { return m_Recent.size() + m_Older.size(); }
 
     // The kept text, as it was or with its parts evaluated. False: there is no such sequence.
     bool WriteOriginal(u32 sequence, char* buffer, u32 size) const;

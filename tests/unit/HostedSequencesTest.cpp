@@ -115,6 +115,24 @@ TEST(HostedSequencesDeathTest, SetVariables)
     });
 }
 
+TEST(HostedSequencesDeathTest, TextsOfOneUseAreSoonForgottenAndPlainOnesNotRemembered)
+{
+    WithInterface([](HostedInterface& ui) {
+        ui.Run("Volume = 0");
+        const host::DataSequences& sequences = ui.Scripts().Sequences;
+        const std::size_t atFirst = sequences.RecentCount();
+        for (int value = 0; value < 100; ++value)
+            ui.Host().ExecuteCommand(("echo plain" + std::to_string(value)).c_str());
+        EXPECT_EQ(atFirst, sequences.RecentCount());
+
+        for (int value = 0; value < 3000; ++value) {
+            ui.Expand("${Volume:Set[" + std::to_string(value) + "]}");
+            ASSERT_LE(sequences.RecentCount(), 2 * host::DataSequences::MostRecent);
+        }
+        EXPECT_EQ("2999", ui.Expand("${Volume}"));
+    });
+}
+
 TEST(HostedSequencesDeathTest, SetAFieldOfATable)
 {
     WithInterface([](HostedInterface& ui) {
