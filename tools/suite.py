@@ -343,7 +343,7 @@ def harsh_locale():
 
 def harsh(tally, preset):
     say(f"build/{preset}: unit tests and transcripts with a decimal comma, traps of floats and a stack of 512 KiB")
-    settings = [f"LOCPATH={harsh_locale()}", f"LC_ALL={HARSH_LOCALE}",
+    settings = [f"LOCPATH={harsh_locale()}", "LC_ALL=", f"LANG={HARSH_LOCALE}", "LC_MESSAGES=C",
                 f"LD_PRELOAD={ROOT}/build/{preset}/lib/libteskara_harsh.so"]
     small_stack = ["prlimit", f"--stack={512 * 1024}", "env", *settings]
     check(tally, "unit tests, harshly", [*small_stack, f"build/{preset}/bin/teskara_unit", "--gtest_brief=1"])

@@ -3,6 +3,7 @@
 #include <cstdio>
 #include <cstring>
 #include <iterator>
+#include <locale>
 #include <sstream>
 #include <utility>
 
@@ -44,6 +45,7 @@ std::ostream& operator<<(std::ostream& out, const Words& words)
 template <class... Arguments> void Write(void* user, const char* operation, const Arguments&... arguments)
 {
     std::ostringstream line;
+    line.imbue(std::locale::classic());
     line << std::boolalpha << operation;
     [[maybe_unused]] const auto add = [&line](const auto& argument) { line << ' ' << argument; };
     (add(arguments), ...);
