@@ -113,6 +113,9 @@ public:
     virtual void FreeQuery(u32 query) = 0;
 };
 
+// Where the toolkit asks for scripts, commands, values of sequences, queries, lines to print, places of elements, or tells
+// of types and objects, the host may call back. In all other operations, those of HostDrawSink among them, what it asks of
+// the toolkit does not happen: nothing is deleted, loaded, drawn or routed, and no script runs.
 class HostInterface
 {
 public:
