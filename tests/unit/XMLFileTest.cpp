@@ -24,11 +24,13 @@ protected:
 
     ~XMLFileTest() override { std::filesystem::remove_all(m_Folder); }
 
-    std::string PathOf(const std::string& name) const { return (m_Folder / name).string(); }
+    std::string PathOf(const std::string& name) const { return (m_Folder / name).generic_string(); }
 
     std::string Write(const std::string& name, const std::string& bytes) const
     {
-        std::ofstream(m_Folder / name, std::ios::binary) << bytes;
+        const std::filesystem::path path = m_Folder / name;
+        std::filesystem::create_directories(path.parent_path());
+        std::ofstream(path, std::ios::binary) << bytes;
         return PathOf(name);
     }
 
