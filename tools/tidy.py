@@ -1,10 +1,11 @@
 #!/usr/bin/env python3
-"""Runs clang-tidy on each source of teskara, host and program, and remembers which passed.
+"""Runs clang-tidy on each source of teskara, host and program that is built here, and remembers which passed.
 
 A source is looked at again when it, a header it reaches, or .clang-tidy has changed.
 """
 
 import hashlib
+import json
 import os
 import subprocess
 from concurrent.futures import ThreadPoolExecutor
@@ -48,7 +49,8 @@ def run(root, build):
     """(number of clean sources, [(source, what clang-tidy says)])."""
     files = check_layers.read_tree(root)
     settings = (root / ".clang-tidy").read_text()
-    paths = [path for path in files if path.endswith(".cpp") and path.startswith(FOLDERS)]
+    built = {entry["file"] for entry in json.loads((build / "compile_commands.json").read_text())}
+    paths = [path for path in files if path.startswith(FOLDERS) and str(root / path) in built]
     with ThreadPoolExecutor(os.cpu_count()) as pool:
         said = list(pool.map(lambda path: look_at(path, root, build, fingerprint(path, files, settings)), paths))
     failed = [(path, text) for path, text in zip(paths, said) if text is not None]
