@@ -35,6 +35,12 @@ public:
         m_Size = 0;
     }
 
+    void End()
+    {
+        std::free(m_Blocks);
+        m_Blocks = nullptr;
+    }
+
     void Enter(void* block)
     {
         if (2 * m_Size >= Places)
@@ -143,6 +149,11 @@ void SetJudge(Judge judge)
 void BeginBooks()
 {
     g_Books.Begin();
+}
+
+void EndBooks()
+{
+    g_Books.End();
 }
 
 std::size_t Outstanding()

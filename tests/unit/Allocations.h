@@ -18,8 +18,10 @@ void Allow();
 using Judge = bool (*)();
 void SetJudge(Judge judge);
 
-// How many of the blocks that were allocated since have not been freed, spared ones aside.
+// How many of the blocks that were allocated since the books were begun have not been freed, spared ones aside. Few
+// fit into the books, so whoever begins them in a process that others use ends them.
 void BeginBooks();
+void EndBooks();
 std::size_t Outstanding();
 
 // While one exists, allocations are a host's or a test's rather than the toolkit's: none counts and none fails.

@@ -257,4 +257,5 @@ TEST_F(BorderTest, ATemplateThatIsReplacedWithoutMemoryIsFreedAllTheSame)
     for (std::size_t allocation = 0; allocation < 60; ++allocation)
         replace(allocation);
     EXPECT_EQ(0u, Allocations::Outstanding());
+    Allocations::EndBooks();
 }

@@ -152,4 +152,8 @@ TEST_P(HostileOperationDeathTest, EveryAnswerIsSurvived)
 }
 
 INSTANTIATE_TEST_SUITE_P(Host, HostileOperationDeathTest, testing::Range(u32{0}, OperationCount),
-    [](const testing::TestParamInfo<u32>& operation) { return NameOf(static_cast<Operation>(operation.param)); });
+    [](const testing::TestParamInfo<u32>& row) {
+        std::string name = NameOf(static_cast<Operation>(row.param));
+        std::ranges::replace(name, ' ', '_');
+        return name;
+    });
