@@ -130,11 +130,18 @@ bool XMLParser::ParseContentToken()
     if (token.Type == XMLAmpersandToken)
         return AppendReference(m_Text) == Reference::Appended;
     Append(m_Text, token.Units);
-    // Of one that is long already the rest may be text as well; growing step by step would move it again and again.
-    constexpr std::size_t LongText = 64 * 1024;
-    if (m_Text.size() > LongText)
-        m_Text.reserve(m_Stream.InputBytes);
+    ExpectLongText();
     return bool{token};
+}
+
+// Of a text that is long already the rest may be text as well; growing step by step would move it again and again. A
+// byte that is no UTF-8 becomes the three of U+FFFD.
+void XMLParser::ExpectLongText()
+{
+    constexpr std::size_t LongText = 64 * 1024;
+    constexpr std::size_t ReplacementBytes = 3;
+    if (m_Text.size() > LongText)
+        m_Text.reserve(m_Stream.InputBytes * (m_Stream.HoldsOnlyAscii() ? 1 : ReplacementBytes));
 }
 
 bool XMLParser::FlushText()

@@ -27,6 +27,7 @@ private:
     bool ParseOutside(const XMLSpan& token);
     bool ParseContent();
     bool ParseContentToken();
+    void ExpectLongText();
     bool FlushText();
     bool ParseTag();
     bool ParseStartTag(std::u16string_view nameUnits);
