@@ -3,39 +3,72 @@
 
 #include "teskara/core/CUIManager.h"
 #include "teskara/element/TeskElement.h"
-#include "tests/unit/FaultyHost.h"
 #include "tests/unit/HostBooks.h"
+#include "tests/unit/TestHost.h"
 #include "tests/unit/ToolkitTest.h"
 
+#include <stdexcept>
 #include <string>
+#include <string_view>
 #include <utility>
 
 namespace {
 
-// A host that can be broken and keeps books of its atoms. It finds the files of another.
-class BookkeepingHost : public FaultyHost
+enum class Fault {
+    Refuses, // answers failure, and writes nothing
+    Throws,
+};
+
+// A host of which one operation can be broken; it keeps books of its atoms, and finds the files of another.
+class BookkeepingHost : public TestHost
 {
 public:
     explicit BookkeepingHost(TestHost& files) : m_Files(files) { }
 
+    // An empty name mends all.
+    void Break(std::string_view operation, Fault fault)
+    {
+        m_Broken = operation;
+        m_Fault = fault;
+    }
+
     bool LocateFile(const char* name, char* path) override { return m_Files.LocateFile(name, path); }
     u32 CompileAtom(const char* source, u32 length) override
     {
-        return Books.Lend("atom", FaultyHost::CompileAtom(source, length));
+        return Fails("CompileAtom") ? 0 : Books.Lend("atom", TestHost::CompileAtom(source, length));
     }
     void ReleaseAtom(u32 atom) override
     {
         Books.TakeBack("atom", atom);
-        FaultyHost::ReleaseAtom(atom);
+        TestHost::ReleaseAtom(atom);
+    }
+    int ExecuteAtom(u32 atom, u32 unused, int argc, char** argv, _MvTypeVar* self) override
+    {
+        return Fails("ExecuteAtom") ? 0 : TestHost::ExecuteAtom(atom, unused, argc, argv, self);
+    }
+    bool GetKeyName(u32 key, char* buffer, u32 size) override
+    {
+        return !Fails("GetKeyName") && TestHost::GetKeyName(key, buffer, size);
     }
 
     HostBooks Books;
 
 private:
+    bool Fails(std::string_view operation) const
+    {
+        if (operation != m_Broken)
+            return false;
+        if (m_Fault == Fault::Throws)
+            throw std::runtime_error(std::string(operation));
+        return true;
+    }
+
     TestHost& m_Files;
+    std::string m_Broken;
+    Fault m_Fault = Fault::Refuses;
 };
 
-class FailingScriptHostTest : public ToolkitTest, public testing::WithParamInterface<FaultyHost::Fault>
+class FailingScriptHostTest : public ToolkitTest, public testing::WithParamInterface<Fault>
 {
 protected:
     FailingScriptHostTest()
@@ -136,5 +169,4 @@ TEST_P(FailingScriptHostTest, AKeyWithoutANameRunsNoScriptAndNobodyTakesIt)
     EXPECT_TRUE(g_UIManager.OnKeyUp('A'));
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    RefusesAndThrows, FailingScriptHostTest, testing::Values(FaultyHost::Fault::Refuses, FaultyHost::Fault::Throws));
+INSTANTIATE_TEST_SUITE_P(RefusesAndThrows, FailingScriptHostTest, testing::Values(Fault::Refuses, Fault::Throws));

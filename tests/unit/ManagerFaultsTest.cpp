@@ -2,9 +2,9 @@
 #include "teskara/element/TeskElement.h"
 #include "teskara/element/TeskElementFactory.h"
 #include "teskara/element/TeskScreen.h"
-#include "tests/unit/FaultyHost.h"
 #include "tests/unit/FreshProcess.h"
 #include "tests/unit/TemporaryFile.h"
+#include "tests/unit/TestHost.h"
 
 #include <gtest/gtest.h>
 
@@ -80,37 +80,6 @@ void FindTheFile(TestHost& host, const TemporaryFile& file)
     host.Located["a.xml"] = file.Path();
     host.FoundResources["back.png"] = "/back.png";
 }
-
-} // namespace
-
-TEST(ManagerFaultsDeathTest, ABrokenOperationOfTheHostBreaksNothingElse)
-{
-    const TemporaryFile file(Interface);
-    for (const auto fault : {FaultyHost::Fault::Refuses, FaultyHost::Fault::Throws}) {
-        for (const char* operation : FaultyHost::Operations()) {
-            SCOPED_TRACE(operation);
-            InFreshProcess([&] {
-                FaultyHost host;
-                FindTheFile(host, file);
-                host.Break(operation, fault);
-                F1(&host)->Initialize();
-                DriveTheToolkit();
-
-                host.Break("", fault);
-                g_UIManager.Reset();
-                EXPECT_TRUE(g_UIManager.LoadInterfaceXML("a.xml", false, nullptr));
-                EXPECT_NE(nullptr, g_UIManager.FindElement("Label@Panel"));
-                g_UIManager.Render();
-
-                host.Break(operation, fault);
-                g_UIManager.Shutdown();
-                EXPECT_TRUE(g_UIManager.ElementsByID.empty());
-            });
-        }
-    }
-}
-
-namespace {
 
 // Fills what it is given to the last byte, and answers with numbers from the ends of their ranges.
 class WildHost : public TestHost
