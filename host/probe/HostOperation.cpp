@@ -6,72 +6,70 @@ namespace {
 
 struct OperationRow {
     HostOperation Operation;
-    const char* Name;
     TraceGroup Group;
 };
 
 using enum HostOperation;
 
 constexpr OperationRow Operations[] = {
-    {GetCurrentScript, "GetCurrentScript", TraceGroup::Misc},
-    {AddCommand, "AddCommand", TraceGroup::Commands},
-    {RemoveCommand, "RemoveCommand", TraceGroup::Commands},
-    {ExecuteCommand, "ExecuteCommand", TraceGroup::Commands},
-    {DataParse, "DataParse", TraceGroup::Sequences},
-    {AddTopLevelObject, "AddTopLevelObject", TraceGroup::Types},
-    {RemoveTopLevelObject, "RemoveTopLevelObject", TraceGroup::Types},
-    {AddType, "AddType", TraceGroup::Types},
-    {RemoveType, "RemoveType", TraceGroup::Types},
-    {FindType, "FindType", TraceGroup::Types},
-    {InvalidateTransientObject, "InvalidateTransientObject", TraceGroup::Types},
-    {RegisterTransientClass, "RegisterTransientClass", TraceGroup::Types},
-    {CompleteCommandLine, "CompleteCommandLine", TraceGroup::Commands},
-    {Calculate, "Calculate", TraceGroup::Sequences},
-    {PrintLine, "PrintLine", TraceGroup::Print},
-    {GetScriptInterface, "GetScriptInterface", TraceGroup::Types},
-    {CompileAtom, "CompileAtom", TraceGroup::Script},
-    {ReleaseAtom, "ReleaseAtom", TraceGroup::Script},
-    {ExecuteAtomForText, "ExecuteAtomForText", TraceGroup::Script},
-    {ExecuteAtom, "ExecuteAtom", TraceGroup::Script},
-    {FindAtom, "FindAtom", TraceGroup::Script},
-    {PreParseSequence, "PreParseSequence", TraceGroup::Sequences},
-    {RetrieveOriginalText, "RetrieveOriginalText", TraceGroup::Sequences},
-    {RetrieveProcessedText, "RetrieveProcessedText", TraceGroup::Sequences},
-    {RetrieveProcessedResult, "RetrieveProcessedResult", TraceGroup::Sequences},
-    {FreeSequence, "FreeSequence", TraceGroup::Sequences},
-    {RegisterObjectClass, "RegisterObjectClass", TraceGroup::Types},
-    {InvalidateObject, "InvalidateObject", TraceGroup::Script},
-    {SetTypeObjectClass, "SetTypeObjectClass", TraceGroup::Types},
-    {FindResourceFile, "FindResourceFile", TraceGroup::Files},
-    {LocateFile, "LocateFile", TraceGroup::Files},
-    {OpenClipboard, "OpenClipboard", TraceGroup::Clipboard},
-    {SaveElementPosition, "SaveElementPosition", TraceGroup::Positions},
-    {LoadElementPosition, "LoadElementPosition", TraceGroup::Positions},
-    {GetKeyName, "GetKeyName", TraceGroup::Keys},
-    {GetOutputConsole, "GetOutputConsole", TraceGroup::Console},
-    {SetOutputConsole, "SetOutputConsole", TraceGroup::Console},
-    {DrawRect, "DrawRect", TraceGroup::Draw},
-    {DrawTexturedRect, "DrawTexturedRect", TraceGroup::Draw},
-    {DrawTexturedRects, "DrawTexturedRects", TraceGroup::Draw},
-    {DrawLine, "DrawLine", TraceGroup::Draw},
-    {CreateFontResource, "CreateFontResource", TraceGroup::Resources},
-    {ReleaseFontResource, "ReleaseFontResource", TraceGroup::Resources},
-    {DrawText, "DrawText", TraceGroup::Draw},
-    {MeasureText, "MeasureText", TraceGroup::Measure},
-    {GetGlyphMetrics, "GetGlyphMetrics", TraceGroup::Measure},
-    {GetDisplaySize, "GetDisplaySize", TraceGroup::Measure},
-    {LoadTextureResource, "LoadTextureResource", TraceGroup::Resources},
-    {GetTextureResourceSize, "GetTextureResourceSize", TraceGroup::Resources},
-    {ReleaseTextureResource, "ReleaseTextureResource", TraceGroup::Resources},
-    {ParseTypedValue, "ParseTypedValue", TraceGroup::Queries},
-    {FindTypeByName, "FindTypeByName", TraceGroup::Queries},
-    {MakeTempBuffer, "MakeTempBuffer", TraceGroup::Misc},
-    {RegisterTransientClass2, "RegisterTransientClass2", TraceGroup::Types},
-    {InvalidateTransientObject2, "InvalidateTransientObject2", TraceGroup::Types},
-    {CreateQuery, "CreateQuery", TraceGroup::Queries},
-    {EvaluateQuery, "EvaluateQuery", TraceGroup::Queries},
-    {FreeQuery, "FreeQuery", TraceGroup::Queries},
-    {Clipboard, "Clipboard", TraceGroup::Clipboard},
+    {GetCurrentScript, TraceGroup::Misc},
+    {AddCommand, TraceGroup::Commands},
+    {RemoveCommand, TraceGroup::Commands},
+    {ExecuteCommand, TraceGroup::Commands},
+    {DataParse, TraceGroup::Sequences},
+    {AddTopLevelObject, TraceGroup::Types},
+    {RemoveTopLevelObject, TraceGroup::Types},
+    {AddType, TraceGroup::Types},
+    {RemoveType, TraceGroup::Types},
+    {FindType, TraceGroup::Types},
+    {InvalidateTransientObject, TraceGroup::Types},
+    {RegisterTransientClass, TraceGroup::Types},
+    {CompleteCommandLine, TraceGroup::Commands},
+    {Calculate, TraceGroup::Sequences},
+    {PrintLine, TraceGroup::Print},
+    {GetScriptInterface, TraceGroup::Types},
+    {CompileAtom, TraceGroup::Script},
+    {ReleaseAtom, TraceGroup::Script},
+    {ExecuteAtomForText, TraceGroup::Script},
+    {ExecuteAtom, TraceGroup::Script},
+    {FindAtom, TraceGroup::Script},
+    {PreParseSequence, TraceGroup::Sequences},
+    {RetrieveOriginalText, TraceGroup::Sequences},
+    {RetrieveProcessedText, TraceGroup::Sequences},
+    {RetrieveProcessedResult, TraceGroup::Sequences},
+    {FreeSequence, TraceGroup::Sequences},
+    {RegisterObjectClass, TraceGroup::Types},
+    {InvalidateObject, TraceGroup::Script},
+    {SetTypeObjectClass, TraceGroup::Types},
+    {FindResourceFile, TraceGroup::Files},
+    {LocateFile, TraceGroup::Files},
+    {OpenClipboard, TraceGroup::Clipboard},
+    {SaveElementPosition, TraceGroup::Positions},
+    {LoadElementPosition, TraceGroup::Positions},
+    {GetKeyName, TraceGroup::Keys},
+    {GetOutputConsole, TraceGroup::Console},
+    {SetOutputConsole, TraceGroup::Console},
+    {DrawRect, TraceGroup::Draw},
+    {DrawTexturedRect, TraceGroup::Draw},
+    {DrawTexturedRects, TraceGroup::Draw},
+    {DrawLine, TraceGroup::Draw},
+    {CreateFontResource, TraceGroup::Resources},
+    {ReleaseFontResource, TraceGroup::Resources},
+    {DrawText, TraceGroup::Draw},
+    {MeasureText, TraceGroup::Measure},
+    {GetGlyphMetrics, TraceGroup::Measure},
+    {GetDisplaySize, TraceGroup::Measure},
+    {LoadTextureResource, TraceGroup::Resources},
+    {GetTextureResourceSize, TraceGroup::Resources},
+    {ReleaseTextureResource, TraceGroup::Resources},
+    {ParseTypedValue, TraceGroup::Queries},
+    {FindTypeByName, TraceGroup::Queries},
+    {MakeTempBuffer, TraceGroup::Misc},
+    {RegisterTransientClass2, TraceGroup::Types},
+    {InvalidateTransientObject2, TraceGroup::Types},
+    {CreateQuery, TraceGroup::Queries},
+    {EvaluateQuery, TraceGroup::Queries},
+    {FreeQuery, TraceGroup::Queries},
 };
 
 constexpr bool RowsStandInOrder()
@@ -80,9 +78,12 @@ constexpr bool RowsStandInOrder()
         if (static_cast<std::size_t>(Operations[index].Operation) != index)
             return false;
     }
-    return std::size(Operations) == static_cast<std::size_t>(HostOperation::Count);
+    return std::size(Operations) == host::TableOperations;
 }
 static_assert(RowsStandInOrder());
+
+// The word for the platform's, which can be refused like an operation of the host.
+constexpr std::string_view SystemClipboard = "Clipboard";
 
 constexpr std::array<std::string_view, static_cast<std::size_t>(TraceGroup::Count)> GroupWords = {"print", "draw",
     "resources", "measure", "script", "sequences", "commands", "types", "files", "positions", "console", "clipboard",
@@ -90,20 +91,18 @@ constexpr std::array<std::string_view, static_cast<std::size_t>(TraceGroup::Coun
 
 } // namespace
 
-const char* OperationName(HostOperation operation)
-{
-    return Operations[static_cast<std::size_t>(operation)].Name;
-}
-
 TraceGroup OperationGroup(HostOperation operation)
 {
-    return Operations[static_cast<std::size_t>(operation)].Group;
+    return operation == OpenSystemClipboard ? TraceGroup::Clipboard
+                                            : Operations[static_cast<std::size_t>(operation)].Group;
 }
 
 std::optional<HostOperation> FindOperation(std::string_view name)
 {
+    if (name == SystemClipboard)
+        return OpenSystemClipboard;
     for (const OperationRow& row : Operations) {
-        if (row.Name == name)
+        if (NameOf(row.Operation) == name)
             return row.Operation;
     }
     return std::nullopt;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "teskara/core/Types.h"
+#include "host/Operation.h"
 
 #include <optional>
 #include <string_view>
@@ -25,71 +25,9 @@ enum class TraceGroup : u8 {
     Count,
 };
 
-// The operations that a host offers, in table order, and last the platform's clipboard, which can be refused like them.
-enum class HostOperation : u8 {
-    GetCurrentScript,
-    AddCommand,
-    RemoveCommand,
-    ExecuteCommand,
-    DataParse,
-    AddTopLevelObject,
-    RemoveTopLevelObject,
-    AddType,
-    RemoveType,
-    FindType,
-    InvalidateTransientObject,
-    RegisterTransientClass,
-    CompleteCommandLine,
-    Calculate,
-    PrintLine,
-    GetScriptInterface,
-    CompileAtom,
-    ReleaseAtom,
-    ExecuteAtomForText,
-    ExecuteAtom,
-    FindAtom,
-    PreParseSequence,
-    RetrieveOriginalText,
-    RetrieveProcessedText,
-    RetrieveProcessedResult,
-    FreeSequence,
-    RegisterObjectClass,
-    InvalidateObject,
-    SetTypeObjectClass,
-    FindResourceFile,
-    LocateFile,
-    OpenClipboard,
-    SaveElementPosition,
-    LoadElementPosition,
-    GetKeyName,
-    GetOutputConsole,
-    SetOutputConsole,
-    DrawRect,
-    DrawTexturedRect,
-    DrawTexturedRects,
-    DrawLine,
-    CreateFontResource,
-    ReleaseFontResource,
-    DrawText,
-    MeasureText,
-    GetGlyphMetrics,
-    GetDisplaySize,
-    LoadTextureResource,
-    GetTextureResourceSize,
-    ReleaseTextureResource,
-    ParseTypedValue,
-    FindTypeByName,
-    MakeTempBuffer,
-    RegisterTransientClass2,
-    InvalidateTransientObject2,
-    CreateQuery,
-    EvaluateQuery,
-    FreeQuery,
-    Clipboard,
-    Count,
-};
+using HostOperation = host::Operation;
 
-const char* OperationName(HostOperation operation);
+// Of those that a transcript can tell of and have refused: all of the host's tables, and the platform's clipboard.
 TraceGroup OperationGroup(HostOperation operation);
 
 // Nothing if there is no such operation or group. Names of operations are exact, words of groups are lower case.

@@ -61,7 +61,7 @@ TracedCall::~TracedCall()
     if (!m_Traced)
         return;
 
-    std::string line = OperationName(m_Operation);
+    std::string line = NameOf(m_Operation);
     line += '(' + m_Arguments + ')';
     if (!m_Result.empty())
         line += " -> " + m_Result;

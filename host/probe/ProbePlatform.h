@@ -36,7 +36,7 @@ public:
     std::optional<std::string> ClipboardText;
 
 private:
-    bool ClipboardWorks() const { return !m_Refusals.Refuses(HostOperation::Clipboard); }
+    bool ClipboardWorks() const { return !m_Refusals.Refuses(HostOperation::OpenSystemClipboard); }
 
     const HostRefusals& m_Refusals;
 };

@@ -1,10 +1,10 @@
 #pragma once
 
+#include "host/Operation.h"
 #include "host/record/BoundaryHost.h"
 #include "host/record/BoundaryNames.h"
 #include "host/record/BoundaryPlatform.h"
 #include "host/record/Field.h"
-#include "host/record/Operation.h"
 
 #include <initializer_list>
 #include <span>

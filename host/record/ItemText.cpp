@@ -1,7 +1,7 @@
 #include "host/record/ItemText.h"
 
+#include "host/Operation.h"
 #include "host/record/ItemBytes.h"
-#include "host/record/Operation.h"
 #include "host/record/RecordingFormat.h"
 #include "teskara/core/HostInterface.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/record/Operation.h"
+#include "host/Operation.h"
 #include "teskara/core/HostInterface.h"
 #include "teskara/script/MvTypeVar.h"
 

@@ -1,7 +1,7 @@
 #include "host/record/Replay.h"
 #include "host/InterfaceSession.h"
+#include "host/Operation.h"
 #include "host/display/Picture.h"
-#include "host/record/Operation.h"
 #include "host/record/Recorder.h"
 #include "host/record/RecordingReader.h"
 #include "host/record/ToolkitCalls.h"

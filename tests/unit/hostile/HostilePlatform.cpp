@@ -109,17 +109,17 @@ void HostilePlatform::RangeFailure()
 
 bool HostilePlatform::OpenClipboard()
 {
-    return Answering::Decision(Operation::OpenPlatformClipboard, [&] { return TestPlatform::OpenClipboard(); });
+    return Answering::Decision(Operation::OpenSystemClipboard, [&] { return TestPlatform::OpenClipboard(); });
 }
 
 void HostilePlatform::CloseClipboard()
 {
-    Answering::Nothing(Operation::CloseClipboard, [&] { TestPlatform::CloseClipboard(); });
+    Answering::Nothing(Operation::CloseSystemClipboard, [&] { TestPlatform::CloseClipboard(); });
 }
 
 bool HostilePlatform::EmptyClipboard()
 {
-    return Answering::Decision(Operation::EmptyClipboard, [&] { return TestPlatform::EmptyClipboard(); });
+    return Answering::Decision(Operation::EmptySystemClipboard, [&] { return TestPlatform::EmptyClipboard(); });
 }
 
 bool HostilePlatform::SetClipboardText(const std::string& text)

@@ -7,7 +7,7 @@
 
 const char* HostileScript::GetName() const
 {
-    return Answering::TextPointer(Operation::GetName, [&] { return TestScript::GetName(); });
+    return Answering::TextPointer(Operation::GetScriptName, [&] { return TestScript::GetName(); });
 }
 
 bool HostileScript::IsInsideAtom() const

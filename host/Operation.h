@@ -126,6 +126,12 @@ enum class Operation : u8 {
 // Its name, as the boundary spells it.
 const char* NameOf(Operation operation);
 
+// How many of them, the first ones, stand in the host's three tables.
+inline constexpr u32 TableOperations = static_cast<u32>(Operation::GetScriptName);
+
+// How many, the first ones, the toolkit asks of the host.
+inline constexpr u32 AskedOperations = static_cast<u32>(Operation::Initialize);
+
 // Whether the host asks the toolkit for it; else the toolkit asks the host.
 inline bool EntersToolkit(Operation operation)
 {

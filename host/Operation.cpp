@@ -1,4 +1,4 @@
-#include "host/record/Operation.h"
+#include "host/Operation.h"
 
 #include <array>
 #include <cstddef>
