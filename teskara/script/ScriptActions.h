@@ -15,13 +15,18 @@
 //     {2,  "SetRange",           Script::SetInteger<&TeskScrollBar::SetRange>},
 namespace Script {
 
-// Hands a value to a field or to an operation. Afterwards the owner may be gone.
+// What the one argument of an operation is.
+template <class Owner, class Result, class Argument> Argument ArgumentOf(Result (Owner::*operation)(Argument));
+template <class Owner, class Result, class Argument> Argument ArgumentOf(Result (*operation)(Owner&, Argument));
+
+// Hands a value to a field or to an operation, as the type that it takes: -1 is 4294967295 to those that are never
+// negative. Afterwards the owner may be gone.
 template <auto Target, class Owner, class Value> void Give(Owner& owner, Value value)
 {
     if constexpr (std::is_member_object_pointer_v<decltype(Target)>)
         owner.*Target = static_cast<std::remove_cvref_t<decltype(owner.*Target)>>(value);
     else
-        std::invoke(Target, owner, value);
+        std::invoke(Target, owner, static_cast<decltype(ArgumentOf(Target))>(value));
 }
 
 template <auto Target> struct IntegerSetter {

@@ -58,6 +58,20 @@ TEST(TeskScrollBarTypeDeathTest, MethodsAreItsOperations)
     });
 }
 
+TEST(TeskScrollBarTypeDeathTest, ANegativeNumberIsALargeOne)
+{
+    WithToolkit([](ScriptHost&) {
+        TeskScrollBar& bar = MakeBar();
+        const ScriptObject object(bar);
+        EXPECT_TRUE(object.Do("SetValue", {"-1"}));
+        EXPECT_EQ(20u, bar.GetValue());
+        EXPECT_TRUE(object.Do("SetRange", {"-1"}));
+        EXPECT_EQ(0xffffffff, bar.Range);
+        EXPECT_TRUE(object.Do("LowerValue", {"-1"}));
+        EXPECT_EQ(0u, bar.GetValue());
+    });
+}
+
 TEST(TeskScrollBarTypeDeathTest, WithoutASliderTheValueIsZero)
 {
     WithToolkit([](ScriptHost&) {
