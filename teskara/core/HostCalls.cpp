@@ -2,6 +2,7 @@
 
 #include "teskara/core/BoundedText.h"
 #include "teskara/core/Limits.h"
+#include "teskara/core/QuietFloats.h"
 
 #include <cmath>
 #include <cstdarg>
@@ -239,6 +240,7 @@ bool GetGlyphAdvance(u32 font, u32 character, float& advance) noexcept
     float after = 0;
     const bool done = Call(false,
         [&](HostObject& host) { return host.GetGlyphMetrics(font, character, character, &before, &glyph, &after); });
+    const QuietFloats quiet;
     advance = before + glyph + after;
     return done && !std::isnan(advance);
 }

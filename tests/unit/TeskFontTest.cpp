@@ -2,6 +2,7 @@
 #include "teskara/element/TeskElement.h"
 #include "teskara/element/TeskFixedFont.h"
 #include "tests/unit/ToolkitTest.h"
+#include "tests/unit/TrappingFloats.h"
 
 #include <limits>
 #include <memory>
@@ -335,6 +336,24 @@ TEST_F(TeskFontTest, ASpaceWithoutAWidthCountsAsTwelveInAFixedFont)
         EXPECT_EQ(0u, font->GetCharByOffset("", std::numeric_limits<u64>::max())) << width;
     }
 }
+
+#ifdef __GLIBC__
+TEST_F(TeskFontTest, AHostThatTrapsSumsBeyondAllNumbersIsNotTrapped)
+{
+    const auto font = MakeFont();
+    const auto fixed = MakeFont("Mono", 12, true);
+    const TrappingFloats traps;
+    Host.GlyphMargin = 3e38f;
+    EXPECT_EQ(3u, font->GetCharByOffset("abc", 100));
+    EXPECT_EQ(0u, fixed->GetCharByOffset("abc", 100));
+    Host.GlyphMargin = -3e38f;
+    EXPECT_EQ(3u, font->GetCharByOffset("abc", 100));
+    Host.Widths['a'] = std::numeric_limits<float>::infinity();
+    Host.GlyphMargin = -std::numeric_limits<float>::infinity();
+    EXPECT_EQ(0u, font->GetCharByOffset("abc", 11));
+    EXPECT_TRUE(traps.AreStillSet());
+}
+#endif
 
 TEST_F(TeskFontTest, BytesWithoutAWidthDoNotHoldUpASearchForAnOffset)
 {

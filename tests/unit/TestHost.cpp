@@ -330,9 +330,9 @@ bool TestHost::GetGlyphMetrics(u32, u32 first, u32, float* before, float* glyph,
     if (RefusesMeasures)
         return false;
 
-    *before = 0;
+    *before = GlyphMargin;
     *glyph = WidthOf(static_cast<char>(first));
-    *after = 0;
+    *after = GlyphMargin;
     return true;
 }
 

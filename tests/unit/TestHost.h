@@ -107,6 +107,9 @@ public:
     // Widths of bytes other than 6.
     std::map<char, float> Widths;
 
+    // What is kept free on either side of a byte, where it is asked for by itself.
+    float GlyphMargin = 0;
+
     // What a text with data sequences becomes; unset, the text itself.
     std::function<std::string(const std::string& text)> Expand;
 
