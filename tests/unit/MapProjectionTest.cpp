@@ -1,11 +1,19 @@
 #include "teskara/windows/MapProjection.h"
 
+#include "teskara/core/QuietFloats.h"
+
 #include <gtest/gtest.h>
 
 #include <cmath>
 #include <limits>
 
 namespace {
+
+// Whoever asks a projection keeps floats from trapping, as maps do.
+class MapProjectionTest : public testing::Test
+{
+    const QuietFloats m_Quiet;
+};
 
 constexpr float NoNumber = std::numeric_limits<float>::quiet_NaN();
 constexpr float Infinity = std::numeric_limits<float>::infinity();
@@ -50,7 +58,7 @@ void ExpectAt(i32 x, i32 y, const _Point2i& place)
 
 } // namespace
 
-TEST(MapProjection, ABoxShowsWhatLiesOnItsEdges)
+TEST_F(MapProjectionTest, ABoxShowsWhatLiesOnItsEdges)
 {
     const MapProjection box = Box();
     EXPECT_TRUE(box.Shows({-10, 10, 0}));
@@ -61,7 +69,7 @@ TEST(MapProjection, ABoxShowsWhatLiesOnItsEdges)
     EXPECT_FALSE(box.Shows({10, 30.001f, 0}));
 }
 
-TEST(MapProjection, ACircleDoesNotShowWhatLiesOnItsEdge)
+TEST_F(MapProjectionTest, ACircleDoesNotShowWhatLiesOnItsEdge)
 {
     const MapProjection circle = Circle();
     EXPECT_FALSE(circle.Shows({30, 20, 0}));
@@ -71,7 +79,7 @@ TEST(MapProjection, ACircleDoesNotShowWhatLiesOnItsEdge)
     EXPECT_FALSE(circle.Shows({22, 36, 0}));
 }
 
-TEST(MapProjection, HeightsAreLookedAtOnlyWhereTheyAreClipped)
+TEST_F(MapProjectionTest, HeightsAreLookedAtOnlyWhereTheyAreClipped)
 {
     MapArea area = Plain;
     EXPECT_TRUE(Box(area).Shows({10, 20, 1000}));
@@ -84,7 +92,7 @@ TEST(MapProjection, HeightsAreLookedAtOnlyWhereTheyAreClipped)
     }
 }
 
-TEST(MapProjection, TheOriginLiesInTheMiddleLessHalfOfTheMark)
+TEST_F(MapProjectionTest, TheOriginLiesInTheMiddleLessHalfOfTheMark)
 {
     for (const MapArea& area : {Plain, Rotated(0), Rotated(1), Rotated(-2.5f)}) {
         ExpectAt(100, 50, Box(area).Place({10, 20, 0}, 0, 0));
@@ -93,20 +101,20 @@ TEST(MapProjection, TheOriginLiesInTheMiddleLessHalfOfTheMark)
     }
 }
 
-TEST(MapProjection, WithoutRotationXRunsRightAndYDown)
+TEST_F(MapProjectionTest, WithoutRotationXRunsRightAndYDown)
 {
     ExpectAt(0, 0, Box().Place({-10, 10, 0}, 0, 0));
     ExpectAt(200, 100, Box().Place({30, 30, 0}, 0, 0));
     ExpectAt(150, 25, Box().Place({20, 15, 0}, 0, 0));
 }
 
-TEST(MapProjection, WithRotationXRunsUpAndYRight)
+TEST_F(MapProjectionTest, WithRotationXRunsUpAndYRight)
 {
     ExpectAt(100, 25, Box(Rotated(0)).Place({15, 20, 0}, 0, 0));
     ExpectAt(125, 50, Box(Rotated(0)).Place({10, 25, 0}, 0, 0));
 }
 
-TEST(MapProjection, AQuarterTurnBringsXToTheLeft)
+TEST_F(MapProjectionTest, AQuarterTurnBringsXToTheLeft)
 {
     const MapProjection turned = Box(Rotated(std::acos(0.0f)));
     const _Point2i place = turned.Place({15, 20, 0}, 0, 0);
@@ -115,14 +123,14 @@ TEST(MapProjection, AQuarterTurnBringsXToTheLeft)
 }
 
 // The box is measured as if it were not turned.
-TEST(MapProjection, ATurnedBoxShowsWhatItWouldShowUnturned)
+TEST_F(MapProjectionTest, ATurnedBoxShowsWhatItWouldShowUnturned)
 {
     const MapProjection turned = Box(Rotated(1.2f));
     EXPECT_TRUE(turned.Shows({30, 30, 0}));
     EXPECT_FALSE(turned.Shows({10, 31, 0}));
 }
 
-TEST(MapProjection, ACircleMeasuresBothAxesByItsRadius)
+TEST_F(MapProjectionTest, ACircleMeasuresBothAxesByItsRadius)
 {
     ExpectAt(150, 75, Circle(WithSize(20, 7)).Place({20, 30, 0}, 0, 0));
     MapArea turned = WithSize(20, 7);
@@ -130,7 +138,7 @@ TEST(MapProjection, ACircleMeasuresBothAxesByItsRadius)
     ExpectAt(150, 25, Circle(turned).Place({20, 30, 0}, 0, 0));
 }
 
-TEST(MapProjection, PlacesAreCutTowardsZero)
+TEST_F(MapProjectionTest, PlacesAreCutTowardsZero)
 {
     const MapProjection map = MapProjection::OfBox(WithSize(20, 20), 100, 100);
     ExpectAt(2, 2, map.Place({-8.9f, 1.1f, 0}, 0, 0));
@@ -138,7 +146,7 @@ TEST(MapProjection, PlacesAreCutTowardsZero)
 }
 
 // 21 / 40 * 200 is less than 105 there.
-TEST(MapProjection, TheArithmeticIsInSinglePrecision)
+TEST_F(MapProjectionTest, TheArithmeticIsInSinglePrecision)
 {
     ExpectAt(104, 50, Box().Place({11, 20, 0}, 0, 0));
     const MapArea fine = {{16777216, 0, 0}, 2, 2, false, 0, false, 0, 0};
@@ -146,7 +154,7 @@ TEST(MapProjection, TheArithmeticIsInSinglePrecision)
     ExpectAt(100, 50, Box(fine).Place({16777217.0f, 0, 0}, 0, 0));
 }
 
-TEST(MapProjection, ABoxWithoutAWidthHasNoPlaces)
+TEST_F(MapProjectionTest, ABoxWithoutAWidthHasNoPlaces)
 {
     const MapProjection box = Box(WithSize(0, 10));
     EXPECT_TRUE(box.Shows({10, 20, 0}));
@@ -155,7 +163,7 @@ TEST(MapProjection, ABoxWithoutAWidthHasNoPlaces)
     ExpectAt(Nowhere, 50, Box(WithSize(-0.0f, 10)).Place({11, 20, 0}, 0, 0));
 }
 
-TEST(MapProjection, WhatIsNoNumberIsBeyondNoEdgeAndHasNoPlace)
+TEST_F(MapProjectionTest, WhatIsNoNumberIsBeyondNoEdgeAndHasNoPlace)
 {
     for (const MapProjection& map : {Box(), Circle()}) {
         EXPECT_TRUE(map.Shows({NoNumber, 20, 0}));
@@ -166,7 +174,7 @@ TEST(MapProjection, WhatIsNoNumberIsBeyondNoEdgeAndHasNoPlace)
     ExpectAt(Nowhere, Nowhere, Box(Rotated(NoNumber)).Place({10, 20, 0}, 0, 0));
 }
 
-TEST(MapProjection, WhatIsInfinitelyFarAwayIsNotShown)
+TEST_F(MapProjectionTest, WhatIsInfinitelyFarAwayIsNotShown)
 {
     for (const MapProjection& map : {Box(), Circle()}) {
         EXPECT_FALSE(map.Shows({Infinity, 20, 0}));
@@ -176,14 +184,14 @@ TEST(MapProjection, WhatIsInfinitelyFarAwayIsNotShown)
     ExpectAt(Nowhere, Nowhere, Box(WithSize(Infinity, Infinity)).Place({10, 20, 0}, 0, 0));
 }
 
-TEST(MapProjection, PlacesBeyondAllNumbersAreNowhere)
+TEST_F(MapProjectionTest, PlacesBeyondAllNumbersAreNowhere)
 {
     const MapProjection map = Box(WithSize(1e-30f, 1e-30f));
     ExpectAt(Nowhere, Nowhere, map.Place({1e30f, -1e30f, 0}, 0, 0));
     ExpectAt(Nowhere, 50, MapProjection::OfBox(Plain, 0xffffffffu, 100).Place({30, 20, 0}, 0, 0));
 }
 
-TEST(MapProjection, ABoxOfNegativeSizeShowsNothing)
+TEST_F(MapProjectionTest, ABoxOfNegativeSizeShowsNothing)
 {
     EXPECT_FALSE(Box(WithSize(-20, 10)).Shows({10, 20, 0}));
     EXPECT_TRUE(Circle(WithSize(-20, 10)).Shows({10, 20, 0}));
