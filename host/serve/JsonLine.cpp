@@ -2,9 +2,24 @@
 
 #include <nlohmann/json.hpp>
 
+#include <cfenv>
+
 namespace host {
 
 namespace {
+
+// While it lives, a number that no double can hold becomes infinite, also where such numbers trap.
+class QuietNumbers
+{
+public:
+    QuietNumbers() { std::feholdexcept(&m_Former); }
+    ~QuietNumbers() { std::fesetenv(&m_Former); }
+    QuietNumbers(const QuietNumbers&) = delete;
+    QuietNumbers& operator=(const QuietNumbers&) = delete;
+
+private:
+    std::fenv_t m_Former;
+};
 
 constexpr int DeepestNesting = 32;
 constexpr std::string_view Expected = "; expected one JSON object on the line, such as {\"command\": \"tree\"}";
@@ -38,6 +53,7 @@ std::optional<Json> ReadJsonObject(std::string_view line, std::string& why)
         return std::nullopt;
     }
     try {
+        const QuietNumbers quiet;
         Json value = Json::parse(line);
         if (value.is_object())
             return value;
