@@ -274,12 +274,12 @@ void ReferenceHost::SaveElementPosition(TeskElement* element)
 {
     StoredPositions::Position position;
     if (element->GetStoragePosition(position.X, position.Y, position.Width, position.Height))
-        m_Positions.Store(element->FullName.c_str(), position);
+        m_Positions.Store(element->FullName, position);
 }
 
 void ReferenceHost::LoadElementPosition(TeskElement* element)
 {
-    const StoredPositions::Position* position = m_Positions.Find(element->FullName.c_str());
+    const StoredPositions::Position* position = m_Positions.Find(element->FullName);
     if (!position)
         return;
 

@@ -45,7 +45,11 @@ public:
         m_Size += static_cast<std::size_t>(end - begin);
     }
 
-    void PutSigned(i64 number) { PutUnsigned((static_cast<u64>(number) << 1) ^ static_cast<u64>(number >> 63)); }
+    void PutSigned(i64 number)
+    {
+        const u64 doubled = static_cast<u64>(number) << 1;
+        PutUnsigned(number < 0 ? ~doubled : doubled);
+    }
 
     void PutText(std::string_view text)
     {

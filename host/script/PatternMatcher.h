@@ -57,7 +57,7 @@ private:
     lua_State* m_Thread;
     std::string_view m_Subject;
     std::string_view m_Pattern;
-    Capture m_Captures[MostCaptures];
+    Capture m_Captures[MostCaptures] = {};
     int m_Count = 0;
     int m_Depth = 0;
     u32 m_Steps = 0;

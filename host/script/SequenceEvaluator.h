@@ -65,7 +65,7 @@ private:
         ScriptCall Call;
         lua_State* Thread;
         int Top;
-        mutable _MvTypeVar Value;
+        mutable _MvTypeVar Value = {};
         mutable std::string Text;
     };
 

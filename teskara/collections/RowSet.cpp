@@ -63,7 +63,7 @@ bool RowSet::Contains(u32 id) const
 u32 RowSet::FirstAfter(u32 id) const
 {
     const u64 end = u64{m_Blocks.size()} * BitsPerBlock;
-    for (u64 next = u64{id} + 1; next < end;) {
+    for (u64 next = 1 + u64{id}; next < end;) {
         const Block& block = m_Blocks[next / BitsPerBlock];
         const u64 rest = block.WordOf(static_cast<u32>(next)) >> next % BitsPerWord;
         if (rest != 0)

@@ -53,13 +53,17 @@ const MarkupShape g_Shape({
     .Tables = {&RowsOf<TextValues>},
 });
 
-// Every byte as a text of its own. Constants are measured faster than a text that was written just before.
-constexpr auto OneByteTexts = [] {
+// Every byte as a text of its own.
+constexpr auto MakeOneByteTexts()
+{
     std::array<std::array<char, 2>, 256> texts = {};
     for (std::size_t byte = 0; byte < texts.size(); ++byte)
         texts[byte][0] = static_cast<char>(byte);
     return texts;
-}();
+}
+
+// Constants are measured faster than a text that was written just before.
+constexpr auto OneByteTexts = MakeOneByteTexts();
 
 u64 MeasureByte(TeskFont* font, char byte)
 {

@@ -31,7 +31,7 @@ XMLArena* XMLArena::Create(std::size_t bytes)
     if (!block)
         return nullptr;
 
-    XMLArena* const arena = ::new (block + 1) XMLArena;
+    XMLArena* const arena = new (block + 1) XMLArena;
     arena->m_NextBlockBytes = std::clamp<std::size_t>(size * 2, 1024, LargestBlock);
     block->Owner = arena;
     block->Next = nullptr;
@@ -95,7 +95,7 @@ XMLAttribute* XMLArena::NewAttribute(const XMLName& name, XMLText value)
     if (!room)
         return nullptr;
 
-    XMLAttribute* const attribute = ::new (room) XMLAttribute;
+    XMLAttribute* const attribute = new (room) XMLAttribute;
     attribute->Name = name.Text;
     attribute->Value = value.Text;
     attribute->m_NameHash = name.Hash;

@@ -134,7 +134,7 @@ inline XMLNode* XMLArena::NewNode(const char* name, u32 type, u32 hash)
     if (!room)
         return nullptr;
 
-    XMLNode* const node = ::new (room) XMLNode(name, type);
+    XMLNode* const node = new (room) XMLNode(name, type);
     node->m_PlaceInBlock = static_cast<u16>((static_cast<char*>(room) - reinterpret_cast<char*>(m_Blocks)) / 8);
     node->NameHash = static_cast<u16>(hash);
     return node;

@@ -29,10 +29,10 @@
 
 // A name of a script type, as tools see it.
 struct ScriptRow {
-    u32 ID;
-    const char* Name;
-    const char* Result; // the type of a member's value; null where there never is one, and for methods
-    int Needs; // with fewer arguments than these nothing is answered
+    u32 ID = 0;
+    const char* Name = nullptr;
+    const char* Result = nullptr; // the type of a member's value; null where there never is one, and for methods
+    int Needs = 0; // with fewer arguments than these nothing is answered
 };
 
 // A member. False: there is no value, and the result has no type.

@@ -19,7 +19,8 @@ CTextEditLine* TeskTextEdit::LineUnder(const _Point2i& point) const
 
     const i64 inset = i64{Border} + TextMargin;
     const i64 rowHeight = std::max<i64>((i64{Height} - inset) / static_cast<i64>(View.VisibleRows), 1);
-    for (i64 row = (i64{point.y} - AbsoluteY - inset) / rowHeight; row > 0 && line->Next; --row)
+    const i64 offset = i64{point.y} - AbsoluteY - inset;
+    for (i64 row = offset / rowHeight; row > 0 && line->Next; --row)
         line = line->Next;
     return line;
 }

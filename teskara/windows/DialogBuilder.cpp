@@ -69,7 +69,9 @@ bool DialogBuilder::MakeWindow(const char* title, u32 borderColor)
 
 TeskElement& DialogBuilder::Area() const
 {
-    return m_Window.Client ? *m_Window.Client : m_Window;
+    if (m_Window.Client)
+        return *m_Window.Client;
+    return m_Window;
 }
 
 u32 DialogBuilder::AreaWidth() const
