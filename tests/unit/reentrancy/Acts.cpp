@@ -4,12 +4,15 @@
 #include "teskara/element/TeskElement.h"
 #include "teskara/element/TeskScreen.h"
 #include "teskara/markup/TeskSkin.h"
+#include "tests/unit/reentrancy/Collections.h"
 #include "tests/unit/reentrancy/Kinds.h"
 #include "tests/unit/reentrancy/Scene.h"
 
+#include <vector>
+
 namespace {
 
-void NestInput()
+bool NestInput()
 {
     MoveTo(700, 500);
     PressLeft();
@@ -19,91 +22,178 @@ void NestInput()
     g_UIManager.OnMouseWheel(-120);
     g_UIManager.OnKeyDown('B');
     g_UIManager.OnKeyUp('B');
+    return true;
 }
 
-void ResetAndLoad()
+bool Reset()
+{
+    g_UIManager.Reset();
+    return true;
+}
+
+bool ResetAndLoad()
 {
     g_UIManager.Reset();
     LoadScene();
+    return true;
 }
 
-void ClickSelf()
+// A click of each sort, as far as the element lives.
+bool ClickSelf()
 {
+    using Handler = bool (TeskElement::*)(_Point2i&);
+    constexpr Handler handlers[] = {&TeskElement::OnLMouseDown, &TeskElement::OnLMouseUp, &TeskElement::OnRMouseDown,
+        &TeskElement::OnRMouseUp, &TeskElement::OnLMouseDoubleClick, &TeskElement::OnRMouseDoubleClick};
     _Point2i point = {15, 15};
     const u32 id = Self() ? Self()->ID : 0;
-    if (TeskElement* self = g_UIManager.FindElementByID(id))
-        self->OnLMouseDown(point);
-    if (TeskElement* self = g_UIManager.FindElementByID(id))
-        self->OnLMouseUp(point);
+    bool clicked = false;
+    for (const Handler handler : handlers) {
+        if (TeskElement* self = g_UIManager.FindElementByID(id)) {
+            (self->*handler)(point);
+            clicked = true;
+        }
+    }
+    return clicked;
 }
 
-void DeleteParts()
+// Of the direct children, or of what those hold.
+bool DeleteParts(bool ofParts)
 {
-    Delete("filler@Self@Parent@Grand");
-    Delete("slider@Self@Parent@Grand");
-    Delete("UpButton@Self@Parent@Grand");
-    Delete("DownButton@Self@Parent@Grand");
-    Delete("vertical@Self@Parent@Grand");
-    Delete("List@Self@Parent@Grand");
-    Delete("Tooltip@Self@Parent@Grand");
-    Delete("Town@Self@Parent@Grand");
-    Delete("Cell 1@Self@Parent@Grand");
-    Delete("Cell 0@Self@Parent@Grand");
-    Delete("Cell 2@Self@Parent@Grand");
-    Delete("left@Self@Parent@Grand");
-    Delete("right@Self@Parent@Grand");
-    Delete("a@Self@Parent@Grand");
-    Delete("b@Self@Parent@Grand");
+    const std::vector<u32> parts = PartsOfSelf(ofParts);
+    for (const u32 id : parts)
+        DeleteByID(id);
+    return !parts.empty();
 }
 
-void LoadManyInto(TeskElement* parent)
+bool DeleteNamedParts()
+{
+    bool deleted = false;
+    for (const char* name : {"filler", "slider", "UpButton", "DownButton", "vertical", "List", "Tooltip", "Town",
+             "Cell 1", "Cell 0", "Cell 2", "left", "right", "a", "b", "OK", "Cancel", "Text", "Entry"})
+        deleted |= DeletePart(name);
+    return deleted;
+}
+
+bool LoadManyInto(TeskElement* parent)
 {
     const u32 id = parent ? parent->ID : 0;
     for (int turn = 0; turn < 4; ++turn)
         g_UIManager.LoadInterfaceXML(g_UIManager.FindElementByID(id), PartFile, false, nullptr);
+    return true;
+}
+
+bool Show(const char* name, bool show)
+{
+    const bool isThere = g_UIManager.FindElement(name) != nullptr;
+    g_UIManager.ShowElement(name, show);
+    return isThere;
+}
+
+bool Move(bool top)
+{
+    TeskElement* self = Self();
+    if (self && top)
+        self->MoveZTop(true);
+    else if (self)
+        self->MoveZBottom();
+    return self != nullptr;
+}
+
+bool DeleteSiblings()
+{
+    const bool deletesElder = Delete(ElderName);
+    return Delete(YoungerName) || deletesElder;
+}
+
+bool SizeAnew()
+{
+    if (!g_UIManager.Screen)
+        return false;
+    g_UIManager.Screen->RecalculateChildrenSize();
+    return true;
+}
+
+bool Focus(TeskElement* element)
+{
+    g_UIManager.SetFocusElement(element);
+    return true;
+}
+
+bool ReplaceSkin()
+{
+    g_UIManager.RemoveSkin("Dark");
+    g_UIManager.NewSkin("Dark");
+    return true;
+}
+
+bool RemoveSkin()
+{
+    const bool isThere = g_UIManager.FindSkin("Dark") != nullptr;
+    g_UIManager.RemoveSkin("Dark");
+    return isThere;
+}
+
+bool RemoveOwnTemplate()
+{
+    const bool isThere = g_UIManager.FindTemplate("Look") != nullptr;
+    g_UIManager.RemoveTemplate("Look");
+    return isThere;
+}
+
+bool NotifyParentOfSelf()
+{
+    if (!Self())
+        return false;
+    Self()->NotifyParent(NotifyEnter, 0);
+    return true;
 }
 
 // clang-format off
 constexpr Act Acts[] = {
-    {"delete self",           [] { Delete(SelfName); }},
-    {"delete parent",         [] { Delete("Parent@Grand"); }},
-    {"delete grandparent",    [] { Delete("Grand"); }},
-    {"delete elder sibling",  [] { Delete(ElderName); }},
-    {"delete younger sibling", [] { Delete(YoungerName); }},
-    {"delete both siblings",  [] { Delete(ElderName); Delete(YoungerName); }},
-    {"delete tooltip",        [] { Delete(TooltipName); }},
-    {"delete own child",      [] { Delete("Child@Self@Parent@Grand"); }},
-    {"delete own parts",      DeleteParts},
-    {"delete own title bar",  [] { Delete("TitleBar@Self@Parent@Grand"); }},
-    {"delete own client",     [] { Delete("Client@Self@Parent@Grand"); }},
-    {"delete focus",          [] { DeleteByID(g_UIManager.FocusElementID); }},
-    {"delete mouse over",     [] { DeleteByID(g_UIManager.MouseOverElementID); }},
-    {"delete what is pressed", [] { DeleteByID(g_UIManager.LeftPressElementID); }},
-    {"reset",                 [] { g_UIManager.Reset(); }},
+    {"delete self",           [] { return Delete(SelfName); }},
+    {"delete parent",         [] { return Delete("Parent@Grand"); }},
+    {"delete grandparent",    [] { return Delete("Grand"); }},
+    {"delete elder sibling",  [] { return Delete(ElderName); }},
+    {"delete younger sibling", [] { return Delete(YoungerName); }},
+    {"delete both siblings",  DeleteSiblings},
+    {"delete tooltip",        [] { return Delete(TooltipName); }},
+    {"delete own child",      [] { return DeletePart("Child"); }},
+    {"delete own children",   [] { return DeleteParts(false); }},
+    {"delete what own children hold", [] { return DeleteParts(true); }},
+    {"delete own parts",      DeleteNamedParts},
+    {"delete own title bar",  [] { return DeletePart("TitleBar"); }, HasTitleBar},
+    {"delete own client",     [] { return DeletePart("Client"); }, HasTitleBar},
+    {"delete focus",          [] { return DeleteByID(g_UIManager.FocusElementID); }},
+    {"delete mouse over",     [] { return DeleteByID(g_UIManager.MouseOverElementID); }},
+    {"delete what is pressed", [] { return DeleteByID(g_UIManager.LeftPressElementID); }},
+    {"reset",                 Reset},
     {"reset and load",        ResetAndLoad},
-    {"unload own file",       [] { g_UIManager.UnloadInterfaceXML(SceneFile); }},
-    {"reload own file",       [] { LoadScene(); }},
-    {"load own file again",   [] { g_UIManager.LoadInterfaceXML(SceneFile, false, nullptr); }},
-    {"load into self",        [] { LoadManyInto(Self()); }},
-    {"load into parent",      [] { LoadManyInto(g_UIManager.FindElement("Parent@Grand")); }},
-    {"hide self",             [] { g_UIManager.ShowElement(SelfName, false); }},
-    {"hide grandparent",      [] { g_UIManager.ShowElement("Grand", false); }},
-    {"move to top",           [] { if (Self()) Self()->MoveZTop(true); }},
-    {"move to bottom",        [] { if (Self()) Self()->MoveZBottom(); }},
-    {"replace own template",  [] { g_UIManager.AddTemplate("Look", "<Template><Width>7</Width></Template>"); }},
-    {"remove templates",      [] { g_UIManager.ClearTemplates(); }},
-    {"remove skin",           [] { g_UIManager.RemoveSkin("Dark"); }},
-    {"replace skin",          [] { g_UIManager.RemoveSkin("Dark"); g_UIManager.NewSkin("Dark"); }},
+    {"unload own file",       [] { return g_UIManager.UnloadInterfaceXML(SceneFile); }},
+    {"reload own file",       LoadScene},
+    {"load own file again",   [] { return g_UIManager.LoadInterfaceXML(SceneFile, false, nullptr); }},
+    {"load into self",        [] { return Self() && LoadManyInto(Self()); }},
+    {"load into parent",      [] { return LoadManyInto(g_UIManager.FindElement("Parent@Grand")); }},
+    {"hide self",             [] { return Show(SelfName, false); }},
+    {"hide grandparent",      [] { return Show("Grand", false); }},
+    {"move to top",           [] { return Move(true); }},
+    {"move to bottom",        [] { return Move(false); }},
+    {"replace own template",  [] { return g_UIManager.AddTemplate("Look", "<Template><Width>7</Width></Template>") != nullptr; }},
+    {"remove own template",   RemoveOwnTemplate},
+    {"remove templates",      [] { g_UIManager.ClearTemplates(); return true; }},
+    {"remove skin",           RemoveSkin},
+    {"replace skin",          ReplaceSkin},
     {"focus self",            FocusSelf},
     {"focus elsewhere",       FocusYounger},
-    {"focus nobody",          [] { g_UIManager.SetFocusElement(nullptr); }},
-    {"ask for focus and mouse", [] { g_UIManager.GetFocusElement(); g_UIManager.GetMouseOverElement(); }},
+    {"focus nobody",          [] { return Focus(nullptr); }},
+    {"ask for focus and mouse", [] { g_UIManager.GetFocusElement(); g_UIManager.GetMouseOverElement(); return true; }},
     {"click self",            ClickSelf},
     {"nested input",          NestInput},
-    {"nested frame",          [] { g_UIManager.Render(); }},
-    {"size anew",             [] { if (g_UIManager.Screen) g_UIManager.Screen->RecalculateChildrenSize(); }},
-    {"notify",                [] { if (Self()) Self()->NotifyParent(NotifyEnter, 0); }},
-    {"forget the mouse",      [] { g_UIManager.ResetMouseState(); }},
+    {"nested frame",          [] { g_UIManager.Render(); return true; }},
+    {"size anew",             SizeAnew},
+    {"notify",                NotifyParentOfSelf},
+    {"forget the mouse",      [] { g_UIManager.ResetMouseState(); return true; }},
+    {"empty own collection",  EmptyCollection, HasCollection},
+    {"refill own collection", [] { EmptyCollection(); return FillCollection(); }, HasCollection},
 };
 
 constexpr char Markup[] = "<frame><OnLoad>OnLoad</OnLoad></frame>";

@@ -8,7 +8,8 @@
 // A row of the matrix: what a script does in the middle of everything.
 struct Act {
     const char* Name;
-    void (*Run)();
+    bool (*Run)(); // false: there was nothing to do it to
+    u64 Needs = 0; // traits of the kinds that it can do something to
 };
 
 // What a script does through the script types, as this.PART.METHOD[ARGUMENTS].

@@ -2,6 +2,7 @@
 
 #include <csignal>
 #include <cstdio>
+#include <cstdlib>
 #include <cstring>
 #include <unistd.h>
 
@@ -13,16 +14,24 @@ namespace {
 constexpr unsigned LongestCellSeconds = 20;
 
 char g_Cell[256];
+char g_Again[1024];
+char g_Program[512];
+
+void Tell(const char* text)
+{
+    static_cast<void>(!write(STDERR_FILENO, text, std::strlen(text)));
+}
 
 void TellCell()
 {
     if (*g_Cell == 0)
         return;
 
-    const char before[] = "\nIn the cell: ";
-    static_cast<void>(!write(STDERR_FILENO, before, sizeof(before) - 1));
-    static_cast<void>(!write(STDERR_FILENO, g_Cell, std::strlen(g_Cell)));
-    static_cast<void>(!write(STDERR_FILENO, "\n", 1));
+    Tell("\nIn the cell: ");
+    Tell(g_Cell);
+    Tell("\nAgain: ");
+    Tell(g_Again);
+    Tell("\n");
 }
 
 void EndBySignal(int signal)
@@ -35,6 +44,7 @@ void EndBySignal(int signal)
 void Install()
 {
     static const bool installed = [] {
+        static_cast<void>(!readlink("/proc/self/exe", g_Program, sizeof(g_Program) - 1));
         std::signal(SIGALRM, EndBySignal);
         if (__sanitizer_set_death_callback)
             __sanitizer_set_death_callback(TellCell);
@@ -45,12 +55,22 @@ void Install()
     static_cast<void>(installed);
 }
 
+const char* WantedCell()
+{
+    static const char* const wanted = std::getenv("TESKARA_CELL");
+    return wanted;
+}
+
 } // namespace
 
-CellWatch::CellWatch(const std::string& cell)
+CellWatch::CellWatch(const std::string& cell, const char* filter)
 {
     Install();
     std::snprintf(g_Cell, sizeof(g_Cell), "%s", cell.c_str());
+    if (filter)
+        std::snprintf(g_Again, sizeof(g_Again), "TESKARA_CELL='%s' %s --gtest_filter='%s'", g_Cell, g_Program, filter);
+    else
+        std::snprintf(g_Again, sizeof(g_Again), "%s", g_Cell);
     alarm(LongestCellSeconds);
 }
 
@@ -63,4 +83,19 @@ CellWatch::~CellWatch()
 const char* CellWatch::Cell()
 {
     return g_Cell;
+}
+
+const char* CellWatch::Again()
+{
+    return g_Again;
+}
+
+bool CellWatch::IsWanted(const std::string& cell)
+{
+    return !WantedCell() || cell == WantedCell();
+}
+
+bool CellWatch::IsOnlyOneWanted()
+{
+    return WantedCell() != nullptr;
 }

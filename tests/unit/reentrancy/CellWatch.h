@@ -2,14 +2,23 @@
 
 #include <string>
 
-// While it lives, a cell of the matrix that does not end, or that ends the process, says which one it is.
+// While it lives, a cell of the matrix that does not end, or that ends the process, says which one it is and how to run
+// it again.
 class CellWatch
 {
 public:
-    explicit CellWatch(const std::string& cell);
+    // filter: the test that runs the cell, and no other cell if TESKARA_CELL names this one; null if it cannot.
+    explicit CellWatch(const std::string& cell, const char* filter = nullptr);
     ~CellWatch();
     CellWatch(const CellWatch&) = delete;
     CellWatch& operator=(const CellWatch&) = delete;
 
     static const char* Cell();
+
+    // The command line that runs the cell again; the cell's name if there is none.
+    static const char* Again();
+
+    // Whether that cell is to be run: all are, unless TESKARA_CELL names one.
+    static bool IsWanted(const std::string& cell);
+    static bool IsOnlyOneWanted();
 };

@@ -297,7 +297,10 @@ protected:
         const CellWatch watch(std::string(way.Name) + ", " + place + ", " + act.Name);
         const testing::ScopedTrace trace(__FILE__, __LINE__, CellWatch::Cell());
         Begin();
-        g_Bomb.Arm(place, fuse, act.Run);
+        g_Bomb.Arm(place, fuse, [&act] {
+            act.Run();
+            return true;
+        });
         way.Go();
         const bool reached = g_Bomb.WentOff();
         EXPECT_EQ(std::nullopt, FindTreeFault());

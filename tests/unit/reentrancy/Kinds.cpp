@@ -7,6 +7,7 @@
 #include "teskara/text/TeskTextEdit.h"
 #include "teskara/windows/TeskMap.h"
 #include "teskara/windows/TeskMapView.h"
+#include "tests/unit/reentrancy/MadeKinds.h"
 #include "tests/unit/reentrancy/Scene.h"
 
 #include <ostream>
@@ -26,20 +27,23 @@ constexpr u64 IsGauge = IsFrame | HasValue;
 constexpr u64 IsSlider = Follows | PassesOn | Sends(4) | RunsOnChange | HasHandle | HasValue | HasTexture;
 constexpr u64 IsVariableSlider = IsSlider | EvaluatesText | ExpandsText;
 constexpr u64 IsScrollBar = Follows | Sends(4) | RunsOnChange | HasButtons | HasValue;
-constexpr u64 IsListBox = Follows | Sends(9) | Sends(12) | Sends(13) | RunsOnSelect | PressSelects | HasRows | NamesRows
-    | ScriptsScroll | HasFont | HasTexture;
-constexpr u64 IsTree =
-    Follows | Sends(11) | RunsOnSelect | PressSelects | HasNodes | ScriptsScroll | HasFont | HasTexture | SetsTexture;
+constexpr u64 IsListBox = HasCollection | Follows | Sends(9) | Sends(12) | Sends(13) | RunsOnSelect | PressSelects
+    | HasRows | NamesRows | ScriptsScroll | HasFont | HasTexture;
+constexpr u64 IsTree = HasCollection | Follows | Sends(11) | RunsOnSelect | PressSelects | HasNodes | ScriptsScroll
+    | HasFont | HasTexture | SetsTexture;
 constexpr u64 IsComboBox =
-    Follows | Sends(9) | RunsOnSelect | DropsList | FocusedByPress | NamesRows | HasFont | HasTexture;
-constexpr u64 IsField = Follows | PassesOn | Sends(3) | TakesKeys | EditsText | FocusedByPress | SetsText | HasTexture;
-constexpr u64 IsTextEdit = Follows | Sends(7) | Sends(8) | Sends(10) | Sends(11) | EditsLines | EditsText | ClearsLines
-    | FocusedByPress | ScriptsScroll | SetsText | HasFont;
-constexpr u64 IsConsole = FollowsHeldMouse | HasLines | ClearsLines | HasFont | HasTexture | SetsTexture;
-constexpr u64 ShowsBlips = Follows | PassesOn | HoversBlips;
+    HasCollection | Follows | Sends(9) | RunsOnSelect | DropsList | FocusedByPress | NamesRows | HasFont | HasTexture;
+constexpr u64 IsField =
+    HasCollection | Follows | PassesOn | Sends(3) | TakesKeys | EditsText | FocusedByPress | SetsText | HasTexture;
+constexpr u64 IsTextEdit = HasCollection | Follows | Sends(7) | Sends(8) | Sends(10) | Sends(11) | EditsLines
+    | EditsText | ClearsLines | FocusedByPress | ScriptsScroll | SetsText | HasFont;
+constexpr u64 IsConsole =
+    HasCollection | FollowsHeldMouse | HasLines | ClearsLines | HasFont | HasTexture | SetsTexture;
+constexpr u64 ShowsBlips = HasCollection | Follows | PassesOn | HoversBlips;
 constexpr u64 IsTooltip =
-    PassesOn | SendsPresses | ExpandsText | SetsLines | KnowsReset | HasFont | HasTexture | SetsTexture;
-constexpr u64 IsTabControl = Follows | PassesOn | HasTabs | LoadsParts | UnloadsParts | HasFont | SetsTexture;
+    HasCollection | PassesOn | SendsPresses | ExpandsText | SetsLines | KnowsReset | HasFont | HasTexture | SetsTexture;
+constexpr u64 IsTabControl =
+    HasCollection | Follows | PassesOn | HasTabs | LoadsParts | UnloadsParts | HasFont | SetsTexture;
 constexpr u64 IsWindow = Follows | Sends(11) | HasTitleBar | LoadsParts | KnowsReset | HasTexture | SetsTexture;
 constexpr u64 IsTable = IsFrame | HasCells | LoadsParts | UnloadsParts;
 
@@ -91,7 +95,7 @@ constexpr char TreeMarkup[] =
     "</ScrollBar>";
 
 // The node that is selected lies below the first one.
-void PrepareTree()
+void PrepareTree(const char*)
 {
     auto* tree = dynamic_cast<TeskTree*>(Self());
     for (const char* text : {"a", "b", "c", "d"}) {
@@ -113,7 +117,7 @@ constexpr char ConsoleMarkup[] =
     "<Height>20</Height><Vertical/><OnChange>OnChange</OnChange></Slider></ScrollBar>";
 
 // Its rows but the last lie before the seam of the ring.
-void PrepareConsole()
+void PrepareConsole(const char*)
 {
     Tell(Self(), "Echo", {"a"});
 }
@@ -127,11 +131,12 @@ void GiveTooltip()
 {
     if (TeskElement* tooltip = g_UIManager.LoadElement(Self(), "tooltip", "Tooltip")) {
         tooltip->Show(false);
-        Self()->OnCreate();
+        if (Self())
+            Self()->OnCreate();
     }
 }
 
-void PrepareMap()
+void PrepareMap(const char*)
 {
     GiveTooltip();
     Tell(Self(), "AddBlip", {"Town", "10", "10", "0", "8", "A label", "Blip"});
@@ -139,7 +144,7 @@ void PrepareMap()
 }
 
 // The blips are those of a map that is hidden.
-void PrepareMapView()
+void PrepareMapView(const char*)
 {
     GiveTooltip();
     auto* map = dynamic_cast<TeskMap*>(g_UIManager.LoadElement(g_UIManager.Screen, "map", "Other"));
@@ -163,9 +168,10 @@ constexpr char WindowMarkup[] =
     "<OnKeyboardEnter>OnKeyboardEnter of a part</OnKeyboardEnter></frame></Children></Client>";
 
 // Where the mouse goes is the title bar, and yet the mouse finds the window itself.
-void PrepareWindow()
+void PrepareWindow(const char*)
 {
-    Self()->FirstChild->Show(false);
+    if (Self() && Self()->FirstChild)
+        Self()->FirstChild->Show(false);
 }
 
 // The first row is empty, since the mouse goes there. The first cell covers four slots, and another finds no room.
@@ -183,7 +189,7 @@ constexpr char TextEditMarkup[] =
     "<Height>100%</Height><Vertical/><OnChange>OnChange</OnChange></Slider></VerticalScrollBar>";
 
 // The caret stands on the first of some lines.
-void PrepareTextEdit()
+void PrepareTextEdit(const char*)
 {
     if (auto* edit = dynamic_cast<TeskTextEdit*>(Self())) {
         edit->SetText("\nsecond\nthird\nfourth\nlast");
@@ -192,7 +198,7 @@ void PrepareTextEdit()
 }
 
 // A tooltip is loaded hidden and without lines.
-void PrepareTooltip()
+void PrepareTooltip(const char*)
 {
     ShowSelf();
     Tell(Self(), "Print", {"${words}\n${words}"});
@@ -226,9 +232,15 @@ constexpr Kind Kinds[] = {
     {"tooltip",         IsTooltip,                             FrameMarkup,     PrepareTooltip},
     {"window",          IsWindow,                              WindowMarkup,    PrepareWindow},
     {"table",           IsTable,                               TableMarkup,     nullptr},
-    {"foreigntext",     IsText | ReadsFonts,                   TextMarkup,      nullptr},
-    {"foreignframe",    IsFrame | ReadsTextures,               FrameMarkup,     nullptr},
-    {"foreign",         Follows | PassesOn | IsForeign,        "",              nullptr},
+    {"tablecell",       IsFrame,                               FrameMarkup,     nullptr},
+    {"windowclient",    IsFrame,                               FrameMarkup,     nullptr},
+    {"gaugefiller",     IsMade,                                "",              MakeFiller, "listeninggauge"},
+    {"mapblipview",     IsMade | HasTexture | SetsTexture,     "",              MakeBlipView, "listeningmapview"},
+    {"contextmenu",     IsMade | HasTexture | SetsTexture,         "",              MakeMenu},
+    {"messagebox",      IsMade | HasTexture | SetsTexture,                   "",              MakeMessageBox},
+    {"scriptmessagebox", IsMade | HasTexture | SetsTexture,                  "",              MakeMessageBox},
+    {"scriptinputbox",  IsMade | HasTexture | SetsTexture,                   "",              MakeInputBox},
+    {"foreign",         Follows | PassesOn | IsForeign | Refuses, "",           nullptr},
 };
 // clang-format on
 
@@ -239,7 +251,20 @@ std::span<const Kind> AllKinds()
     return Kinds;
 }
 
-void PrintTo(const Kind& kind, std::ostream* stream)
+// The word of a foreign class is that of its kind with one before it.
+std::vector<Subject> AllSubjects()
 {
-    *stream << kind.Name;
+    std::vector<Subject> subjects;
+    for (const Kind& kind : Kinds)
+        subjects.push_back({&kind, kind.Name, kind.Traits});
+    for (const Kind& kind : Kinds) {
+        if ((kind.Traits & IsForeign) == 0)
+            subjects.push_back({&kind, std::string("foreign") + kind.Name, kind.Traits | IsForeign});
+    }
+    return subjects;
+}
+
+void PrintTo(const Subject& subject, std::ostream* stream)
+{
+    *stream << subject.Word;
 }

@@ -4,14 +4,17 @@
 
 #include <iosfwd>
 #include <span>
+#include <string>
+#include <vector>
 
 // What a kind does: the places that only some kinds reach ask for it.
 enum Trait : u64 {
     FollowsMouse = u64{1} << 20, // runs OnMouseMove as the mouse comes by
     FollowsHeldMouse = u64{1} << 21, // runs OnMouseMove between press and release
     IsForeign = u64{1} << 22, // not the toolkit's: its own operations call out
-    ReadsTextures = u64{1} << 33, // and scripts in its own way
-    ReadsFonts = u64{1} << 34, // in its own way
+    HasCollection = u64{1} << 34, // of rows, nodes, tabs, cells, blips or lines
+    Refuses = u64{1} << 33, // foreign, and runs its scripts without taking what they are for
+    IsMade = u64{1} << 63, // only code makes it: what markup does for others is done by Prepare
     ExpandsText = u64{1} << 23, // has a text that is expanded at each use
     EvaluatesText = u64{1} << 24, // has a text that is parsed once and evaluated at each use
     Calculates = u64{1} << 25, // has a text that is a number
@@ -61,9 +64,23 @@ struct Kind {
     const char* Name; // its word in markup
     u64 Traits;
     const char* Markup; // its own values
-    void (*Prepare)(); // what markup cannot say; null for nothing
+    void (*Prepare)(const char* word); // what markup cannot say; null for nothing
+    const char* Parent = "listening"; // the kind of the element that it stands in
 };
 
 std::span<const Kind> AllKinds();
 
-void PrintTo(const Kind& kind, std::ostream* stream);
+// What stands in a scene: an element of a kind, or of a foreign class that derives from it.
+struct Subject {
+    const Kind* Row;
+    std::string Word; // that makes it
+    u64 Traits;
+
+    bool Has(u64 traits) const { return (traits & ~Traits) == 0; }
+    bool Reaches(u64 needs, u64 unless) const { return Has(needs) && (Traits & unless) == 0; }
+    bool IsForeignClass() const { return Traits != Row->Traits; }
+};
+
+std::vector<Subject> AllSubjects();
+
+void PrintTo(const Subject& subject, std::ostream* stream);

@@ -11,6 +11,8 @@
 #include <string_view>
 #include <unistd.h>
 
+Bomb& g_Bomb = *new Bomb;
+
 bool MatrixScripts::ParseTypedValue(const char*, _MvTypeVar& result, u32)
 {
     g_Bomb.Reach("ParseTypedValue");

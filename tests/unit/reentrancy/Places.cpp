@@ -48,7 +48,7 @@ void DeleteGrandparent()
 
 void DeleteOwnChild()
 {
-    Delete("Child@Self@Parent@Grand");
+    DeletePart("Child");
 }
 
 void ResetAll()
@@ -136,13 +136,6 @@ void DoubleClickRight()
     PressRight();
 }
 
-void PressSiblingWithFocus()
-{
-    FocusSelf();
-    MoveTo(85, 15);
-    PressLeft();
-}
-
 void FocusAnother()
 {
     FocusSelf();
@@ -174,6 +167,11 @@ void PressNothingWithFocus()
     FocusSelf();
     MoveTo(500, 500);
     PressLeft();
+}
+
+void GiveFocus()
+{
+    FocusSelf();
 }
 
 void PressKey()
@@ -353,11 +351,6 @@ void PressTheTitleBar()
         titleBar->Show(true);
     Aim();
     PressLeft();
-}
-
-void CallSetTexture()
-{
-    Tell(Self(), "SetTexture", {"<T Filename='#other'/>"});
 }
 
 void CallSetWrap()
@@ -614,13 +607,7 @@ void CallGetNode()
 // clang-format off
 constexpr Place Places[] = {
     // what an element says and does as it comes
-    {"FromXML",              "load",                  IsForeign,     Load},
     {"LoadElementPosition",  "load",                  EveryKind,     Load},
-    {"TextureFromXML",       "load",                  ReadsTextures, Load},
-    {"EmbeddedScriptFromXML", "load",                 ReadsTextures, Load},
-    {"FontFromXML",          "load",                  ReadsFonts,    Load},
-    {"SizeRecalculated",     "load",                  IsForeign,     Load},
-    {"OnCreate",             "load",                  IsForeign,     Load},
     {"OnLoad",               "load",                  EveryKind,     Load},
     {"OnLoad of a part",     "load",                  LoadsParts,    Load},
     {"OnUnload of a part",   "load",                  LoadsParts,    Load},
@@ -640,9 +627,6 @@ constexpr Place Places[] = {
     {"SaveElementPosition",  "delete grandparent",    EveryKind,     DeleteGrandparent},
     {"OnChange",             "delete self",           EditsLines,    DeleteSelf},
     {"OnUnload of a part",   "remove a tab",          HasTabs,       RemoveTab},
-    {"OnDestroy",            "delete self",           IsForeign,     DeleteSelf},
-    {"OnDestroy",            "delete grandparent",    IsForeign,     DeleteGrandparent},
-    {"OnDestroy",            "end of the kind",       IsForeign,     EndForeignKinds},
     {"OnUnload",             "end of the kind",       EveryKind,     EndForeignKinds},
     {"notification 51",      "delete self",           EveryKind,     DeleteSelf},
     {"notification 51",      "delete child",          Sends(51),     DeleteOwnChild},
@@ -651,8 +635,7 @@ constexpr Place Places[] = {
     {"OnRender",             "frame",                 EveryKind,     Frame},
     {"OnRender of the child", "frame",                EveryKind,     Frame},
     {"OnRender of a part",   "frame",                 HasTabs,       Frame},
-    {"Render",               "frame",                 IsForeign,     Frame},
-    {"Render of the child",  "frame",                 EveryKind,     Frame},
+    {"virtual Render of the child",  "frame",                 EveryKind,     Frame},
     {"DataParse",            "frame",                 ExpandsText,   Frame},
     {"RetrieveProcessedText", "frame",                EvaluatesText, Frame},
     {"Calculate",            "frame",                 Calculates,    Frame},
@@ -676,8 +659,7 @@ constexpr Place Places[] = {
     {"OnLeftClick",          "right click",           HasNodes,      ClickRight},
     {"OnDoubleLeftClick",    "double click",          EveryKind,     DoubleClickLeft},
     {"OnDoubleRightClick",   "double click",          EveryKind,     DoubleClickRight},
-    {"refused double click", "double click",          IsForeign,     DoubleClickLeft},
-    {"OnLMouseDownOther",    "press a sibling",       IsForeign,     PressSiblingWithFocus},
+    {"refused double click", "double click",          Refuses,     DoubleClickLeft},
     {"ExecuteCommand",       "click",                 RunsCommand,   ClickLeft},
     {"SetOutputConsole",     "click",                 RunsCommand,   ClickLeft},
     {"OnChange",             "press",                 RunsOnChange | HasHandle, ClickLeft},
@@ -694,12 +676,12 @@ constexpr Place Places[] = {
     {"OnSelect",             "press a tab",           HasTabs,       PressAnotherTab},
     {"OnMouseMove",          "drag a tab",            HasTabs,       DragTab},
 
-    {"SizeRecalculated of the child", "drag an edge", HasTitleBar,   DragTheLeftEdge},
+    {"virtual SizeRecalculated of the child", "drag an edge", HasTitleBar,   DragTheLeftEdge},
     {"OnKeyboardEnter of a part", "click",            HasTitleBar,   ClickLeft},
     {"OnKeyboardEnter of a part", "click the title bar", HasTitleBar, PressTheTitleBar},
 
     // the keyboard
-    {"OnKeyboardEnter",      "focus",                 EveryKind,     FocusSelf},
+    {"OnKeyboardEnter",      "focus",                 EveryKind,     GiveFocus},
     {"OnKeyboardExit",       "focus another",         EveryKind,     FocusAnother},
     {"OnKeyboardExit",       "focus nobody",          EveryKind,     FocusNobody},
     {"OnKeyboardExit",       "hide",                  EveryKind,     HideFocus},
@@ -726,7 +708,7 @@ constexpr Place Places[] = {
     {"OnChange",             "backspace",             EditsLines,    JoinToTheFirst},
     {"OnChange",             "AddText",               EditsLines,    CallAddText},
     {"OnChange",             "AddLine",               EditsLines,    CallAddLine},
-    {"refused key",          "key",                   IsForeign,     PressKey},
+    {"refused key",          "key",                   Refuses,     PressKey},
 
     // what scripts call
     {"OnUnload",             "Destroy",               EveryKind,     CallDestroy},
@@ -735,11 +717,9 @@ constexpr Place Places[] = {
     {"OnRightClick",         "RightClick",            EveryKind,     CallRightClick, HasNodes},
     {"OnKeyboardEnter",      "SetFocus",              EveryKind,     CallSetFocus},
     {"OnLoad",               "AddChild",              EveryKind,     CallAddChild},
-    {"SizeRecalculated",     "SetHeight",             IsForeign,     CallSetHeightOfParent},
-    {"SizeRecalculated of the child", "SetHeight",    EveryKind,     CallSetHeightOfParent},
-    {"SizeRecalculated of the child", "SetWidth",     EveryKind,     CallSetWidth},
-    {"SizeRecalculated of the child", "Reset",        HasTitleBar,   CallReset},
-    {"TextureFromXML",       "SetTexture",            ReadsTextures, CallSetTexture},
+    {"virtual SizeRecalculated of the child", "SetHeight",    EveryKind,     CallSetHeightOfParent},
+    {"virtual SizeRecalculated of the child", "SetWidth",     EveryKind,     CallSetWidth},
+    {"virtual SizeRecalculated of the child", "Reset",        HasTitleBar,   CallReset},
     {"Calculate",            "SetWrap",               ExpandsText | SetsText, CallSetWrap},
     {"OnChange",             "SetValue",              RunsOnChange,  CallSetValue},
     {"OnChange",             "SetRange",              RunsOnChange,  CallSetRangeBelowTheValue},
@@ -749,7 +729,7 @@ constexpr Place Places[] = {
     {"OnChange",             "AddItem",               HasRows,       CallAddItem},
     {"OnSelect",             "SelectTab",             HasTabs,       SelectTab},
     {"OnLoad of a part",     "AddTab",                HasTabs,       AddTab},
-    {"SizeRecalculated of the child", "AddTab",       HasTabs,       AddTab},
+    {"virtual SizeRecalculated of the child", "AddTab",       HasTabs,       AddTab},
     {"ExecuteAtomForText",   "Sort",                  HasRows,       CallSort},
     {"ParseTypedValue",      "Copy",                  HasTexture,    CallCopyTexture},
 

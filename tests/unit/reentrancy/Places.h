@@ -15,3 +15,11 @@ struct Place {
 };
 
 std::span<const Place> AllPlaces();
+
+// A way that no row names. What it leads to is found out for each kind.
+struct Way {
+    const char* Name;
+    void (*Drive)();
+};
+
+std::span<const Way> MoreWays();

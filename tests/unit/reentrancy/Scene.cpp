@@ -1,19 +1,20 @@
 #include "tests/unit/reentrancy/Scene.h"
 
 #include "teskara/core/CUIManager.h"
+#include "teskara/element/ElementWatch.h"
 #include "teskara/element/EventNames.h"
 #include "teskara/script/MvTypeDefinition.h"
-#include "tests/unit/reentrancy/Bomb.h"
 #include "tests/unit/reentrancy/Kinds.h"
 
 #include <string>
+#include <strings.h>
 #include <vector>
-
-Bomb& g_Bomb = *new Bomb;
 
 namespace {
 
 constexpr i32 InsideSelf = 15;
+
+const Subject* g_Subject = nullptr;
 
 // Scroll bars take them from their template alone; other kinds pass over them.
 constexpr char ScrollBarButtons[] = "<UpButton><X>35</X><Width>10</Width><Height>20</Height></UpButton>"
@@ -43,6 +44,14 @@ std::string ChildrenMarkup()
           "<Height>r30</Height></foreign><unknown name='Nobody'/></Children>";
 }
 
+void AddBelow(const TeskElement& element, std::vector<u32>& ids)
+{
+    for (const TeskElement* child = element.FirstChild; child; child = child->Next) {
+        AddBelow(*child, ids);
+        ids.push_back(child->ID);
+    }
+}
+
 bool Dispatch(_MvTypeVar object, const char* method, std::initializer_list<const char*> arguments)
 {
     if (!object.Type)
@@ -59,8 +68,10 @@ bool Dispatch(_MvTypeVar object, const char* method, std::initializer_list<const
 _MvTypeVar AsObject(TeskElement* element)
 {
     _MvTypeVar object;
-    if (element) {
-        object.Type = element->GetMvType();
+    const ElementWatch watch(element);
+    MvTypeDefinition* type = element ? element->GetMvType() : nullptr;
+    if (watch.Exists()) {
+        object.Type = type;
         object.Value.Object = element;
     }
     return object;
@@ -79,24 +90,38 @@ TeskElement* Self()
     return g_UIManager.FindElement(SelfName);
 }
 
-std::string SceneMarkup(const Kind& kind)
+void ChooseSubject(const Subject& subject)
+{
+    g_Subject = &subject;
+}
+
+void PrepareSubject()
+{
+    if (g_Subject->Row->Prepare)
+        g_Subject->Row->Prepare(g_Subject->Word.c_str());
+}
+
+std::string SceneMarkup(const Subject& subject)
 {
     std::string look = "<Template name='Look'><Width>50</Width><StorePosition>1</StorePosition>";
     for (const char* event : EventNames())
         look += std::string("<") + event + ">" + event + "</" + event + ">";
     look += std::string(ScrollBarButtons) + "</Template><Template name='Deep'/>" + BlipTemplate;
 
-    const std::string word = kind.Name;
-    const std::string self = "<" + word
-        + " name='Self' Template='Look'><X>10</X><Y>10</Y><Height>r50</Height>"
-          "<BackgroundColor>ff000000</BackgroundColor><AutoTooltip>${hint}</AutoTooltip><FadeDelay>5</FadeDelay>"
-        + kind.Markup + ChildrenMarkup() + "</" + word + ">";
+    const Kind& kind = *subject.Row;
+    const std::string& word = subject.Word;
+    const std::string parent = kind.Parent;
+    const std::string self = subject.Has(IsMade) ? std::string()
+                                                 : "<" + word
+            + " name='Self' Template='Look'><X>10</X><Y>10</Y><Height>r50</Height>"
+              "<BackgroundColor>ff000000</BackgroundColor><AutoTooltip>${hint}</AutoTooltip><FadeDelay>5</FadeDelay>"
+            + kind.Markup + ChildrenMarkup() + "</" + word + ">";
     return look
         + "<frame name='Grand'><Width>100%</Width><Height>100</Height><Children>"
-          "<listening name='Parent'><Width>100</Width><Height>100</Height><Children>"
-        + SiblingMarkup("Elder", 60) + self + SiblingMarkup("Younger", 80)
-        + "</Children></listening></Children></frame><tooltip name='" + TooltipName + "'><OnRender>" + TooltipPlace
-        + "</OnRender></tooltip>";
+          "<"
+        + parent + " name='Parent'><Width>100</Width><Height>100</Height><Children>" + SiblingMarkup("Elder", 60) + self
+        + SiblingMarkup("Younger", 80) + "</Children></" + parent + "></Children></frame><tooltip name='" + TooltipName
+        + "'><OnRender>" + TooltipPlace + "</OnRender></tooltip>";
 }
 
 std::string PartMarkup()
@@ -109,18 +134,41 @@ bool LoadScene()
     return g_UIManager.LoadInterfaceXML(SceneFile, true, g_UIManager.FindSkin("Dark"));
 }
 
-void Delete(const char* name)
+bool Delete(const char* name)
 {
     TeskElement* element = g_UIManager.FindElement(name);
-    if (element && element->Parent)
-        element->Parent->DeleteChild(element);
+    return element && DeleteByID(element->ID);
 }
 
-void DeleteByID(u32 id)
+bool DeleteByID(u32 id)
 {
     TeskElement* element = g_UIManager.FindElementByID(id);
-    if (element && element->Parent)
-        element->Parent->DeleteChild(element);
+    if (!element || !element->Parent)
+        return false;
+
+    element->Parent->DeleteChild(element);
+    return true;
+}
+
+bool DeletePart(const char* name)
+{
+    for (TeskElement* child = Self() ? Self()->FirstChild : nullptr; child; child = child->Next) {
+        if (strcasecmp(child->Name.c_str(), name) == 0)
+            return DeleteByID(child->ID);
+    }
+    return false;
+}
+
+std::vector<u32> PartsOfSelf(bool ofParts)
+{
+    std::vector<u32> parts;
+    for (const TeskElement* child = Self() ? Self()->FirstChild : nullptr; child; child = child->Next) {
+        if (ofParts)
+            AddBelow(*child, parts);
+        else
+            parts.push_back(child->ID);
+    }
+    return parts;
 }
 
 void MoveTo(i32 x, i32 y)
@@ -153,17 +201,21 @@ void ShowSelf()
         Self()->Show(true);
 }
 
-void FocusSelf()
+bool FocusSelf()
 {
     ShowSelf();
-    if (Self())
-        g_UIManager.SetFocusElement(Self());
+    TeskElement* self = Self();
+    if (self)
+        g_UIManager.SetFocusElement(self);
+    return self != nullptr;
 }
 
-void FocusYounger()
+bool FocusYounger()
 {
-    if (TeskElement* younger = g_UIManager.FindElement(YoungerName))
+    TeskElement* younger = g_UIManager.FindElement(YoungerName);
+    if (younger)
         g_UIManager.SetFocusElement(younger);
+    return younger != nullptr;
 }
 
 bool Tell(TeskElement* element, const char* method, std::initializer_list<const char*> arguments)
