@@ -19,6 +19,7 @@ NEED_ASSERTIONS = ["ManagerTest.ACallOnAnotherThreadIsTold", "SchemaTest.EveryVa
 # What runs, by the arguments behind the program of build/dev.
 PROGRAMS = [
     ["teskara_unit", "--gtest_brief=1", f"--gtest_filter=-{':'.join(NEED_ASSERTIONS)}"],
+    ["teskara_matrix", "--gtest_brief=1"],
     ["teskara", "probe", "--check", "tests/transcripts"],
 ]
 

@@ -18,6 +18,8 @@ FUZZ_SECONDS = 60
 CORPUS_VARIATIONS = 10
 LONGEST_STAGE_SECONDS = 900
 SHARES = 2  # of a long stage, at the same time
+MATRIX_PIECES = 12
+LEAST_MATRIX_CELLS = 20000
 HARSH_LOCALE = "de_DE.UTF-8"
 
 SANITIZER_ENVIRONMENT = {
@@ -104,14 +106,15 @@ def lint(tally):
         tally.fail(f"lint of {name}", f"clang-tidy -p build/dev {name}")
 
 
-def in_shares(tally, work):
-    """Runs work(tally, number) for each share of a stage at the same time."""
-    tallies = [Tally() for _ in range(SHARES)]
+def in_shares(tally, work, pieces=SHARES):
+    """What work(tally, number) gives for each piece of a stage, of which SHARES run at the same time."""
+    tallies = [Tally() for _ in range(pieces)]
     with ThreadPoolExecutor(SHARES) as pool:
-        list(pool.map(work, tallies, range(SHARES)))
-    for share in tallies:
-        tally.passed += share.passed
-        tally.failures += share.failures
+        results = list(pool.map(work, tallies, range(pieces)))
+    for piece in tallies:
+        tally.passed += piece.passed
+        tally.failures += piece.failures
+    return results
 
 
 def names_of_tests(tests):
@@ -127,20 +130,36 @@ def names_of_tests(tests):
 
 def unit_tests(tally, preset):
     say(f"build/{preset}: unit tests")
-    tests = program(preset, "teskara_unit")
+    run_in_pieces(tally, program(preset, "teskara_unit"), SHARES)
+
+
+def matrix(tally, preset):
+    """In pieces, each of which ends well within the time of a stage."""
+    say(f"build/{preset}: each act at each place where the toolkit calls out, of each kind")
+    tests = program(preset, "teskara_matrix")
+    output = run_in_pieces(tally, tests, MATRIX_PIECES)
+    cells = sum(map(int, re.findall(r"^\[    CELLS \] (\d+) of ", output, re.MULTILINE)))
+    say(f"{cells} cells")
+    if cells < LEAST_MATRIX_CELLS:
+        tally.fail(f"{LEAST_MATRIX_CELLS} cells of the matrix", " ".join(map(str, tests)))
+
+
+def run_in_pieces(tally, tests, pieces):
+    """Runs the tests of a program, and gives what they write."""
     if not (ROOT / tests[-1]).exists():
-        return
+        return ""
     names = names_of_tests(tests)
     if not names:
         tally.fail(f"list of {tests[-1]}", f"{' '.join(tests)} --gtest_list_tests")
-    in_shares(tally, lambda share, number: run_tests(share, tests, names[number::SHARES]))
+    return "".join(in_shares(tally, lambda piece, number: run_tests(piece, tests, names[number::pieces]), pieces))
 
 
 def run_tests(tally, tests, names):
-    rerun = " ".join(tests)
+    rerun, outputs = " ".join(tests), ""
     while names:
         # After a crash the tests that had not had their turn are run by themselves.
         status, output = run([*tests, f"--gtest_filter={':'.join(names)}"])
+        outputs += output
         begun = re.findall(r"^\[ RUN      \] (\S+)", output, re.MULTILINE)
         good = set(re.findall(r"^\[       OK \] (\S+)", output, re.MULTILINE))
         finished = good | set(re.findall(r"^\[  (?:FAILED|SKIPPED) +\] (\S+?),? ", output, re.MULTILINE))
@@ -155,8 +174,9 @@ def run_tests(tally, tests, names):
             missed = [name for name in names if name not in begun]
             if missed or (status != 0 and len(good) == len(begun)):
                 tally.fail(f"end of {tests[-1]}", rerun)
-            return
+            break
         names = [name for name in names if name not in begun]
+    return outputs
 
 
 def transcripts(tally, preset):
@@ -342,11 +362,12 @@ def harsh_locale():
 
 
 def harsh(tally, preset):
-    say(f"build/{preset}: unit tests and transcripts with a decimal comma, traps of floats and a stack of 512 KiB")
+    say(f"build/{preset}: tests and transcripts with a decimal comma, traps of floats and a stack of 512 KiB")
     settings = [f"LOCPATH={harsh_locale()}", "LC_ALL=", f"LANG={HARSH_LOCALE}", "LC_MESSAGES=C",
                 f"LD_PRELOAD={ROOT}/build/{preset}/lib/libteskara_harsh.so"]
     small_stack = ["prlimit", f"--stack={512 * 1024}", "env", *settings]
     check(tally, "unit tests, harshly", [*small_stack, f"build/{preset}/bin/teskara_unit", "--gtest_brief=1"])
+    check(tally, "matrix, harshly", [*small_stack, f"build/{preset}/bin/teskara_matrix", "--gtest_brief=1"])
     check(tally, "transcripts, harshly",
           [*small_stack, f"build/{preset}/bin/teskara", "probe", "--check", "tests/transcripts"])
 
@@ -394,6 +415,7 @@ def behaviour(tally, preset, with_pictures):
     if not build(tally, preset):
         return False
     unit_tests(tally, preset)
+    matrix(tally, preset)
     samples(tally, preset)
     transcripts(tally, preset)
     recordings(tally, preset)
