@@ -2,11 +2,11 @@
 
 #include "teskara/core/Types.h"
 
-#include <functional>
-#include <map>
 #include <string>
 #include <string_view>
 #include <unordered_set>
+#include <utility>
+#include <vector>
 
 // What a host has lent to the toolkit by number: fonts, textures, atoms, sequences. Each must come back once, and be
 // used only until then.
@@ -52,8 +52,11 @@ public:
 private:
     std::unordered_set<u32>& Numbers(std::string_view sort)
     {
-        const auto found = m_Lent.find(sort);
-        return found != m_Lent.end() ? found->second : m_Lent[std::string(sort)];
+        for (auto& [name, numbers] : m_Lent) {
+            if (name == sort)
+                return numbers;
+        }
+        return m_Lent.emplace_back(sort, std::unordered_set<u32>()).second;
     }
 
     void Blame(const char* what, const char* sort, u32 number)
@@ -61,6 +64,6 @@ private:
         m_Faults += what + std::string(sort) + " " + std::to_string(number) + "\n";
     }
 
-    std::map<std::string, std::unordered_set<u32>, std::less<>> m_Lent;
+    std::vector<std::pair<std::string, std::unordered_set<u32>>> m_Lent; // of each of the few sorts
     std::string m_Faults;
 };

@@ -3,6 +3,7 @@
 #include "teskara/core/DepthScope.h"
 
 #include <functional>
+#include <initializer_list>
 #include <set>
 #include <string>
 #include <string_view>
@@ -39,12 +40,13 @@ public:
         return std::exchange(m_Heard, {});
     }
 
-    // Everything that calls out says where it is.
-    void Reach(std::string_view place)
+    // Everything that calls out says where it is, in parts if that takes more than a name.
+    void Reach(std::string_view place) { Reach({place}); }
+    void Reach(std::initializer_list<std::string_view> place)
     {
         if (m_Listens)
-            m_Heard.emplace(place);
-        if (place != m_Place)
+            m_Heard.insert(Joined(place));
+        if (!IsArmedFor(place))
             return;
         ++m_Reached;
         if (m_Left == 0)
@@ -68,6 +70,26 @@ public:
 private:
     static constexpr u32 MostTimes = 30;
     static constexpr u32 DeepestNesting = 3;
+
+    static std::string Joined(std::initializer_list<std::string_view> parts)
+    {
+        std::string joined;
+        for (const std::string_view part : parts)
+            joined += part;
+        return joined;
+    }
+
+    // Without joining them, since places are reached far more often than the one that counts.
+    bool IsArmedFor(std::initializer_list<std::string_view> parts) const
+    {
+        std::string_view rest = m_Place;
+        for (const std::string_view part : parts) {
+            if (!rest.starts_with(part))
+                return false;
+            rest.remove_prefix(part.size());
+        }
+        return rest.empty();
+    }
 
     std::string m_Place;
     std::function<bool()> m_Act;

@@ -185,7 +185,7 @@ protected:
     {
         const ElementWatch self(*this);
         const bool isSelf = this->Name == "self";
-        g_Bomb.Reach(std::string("virtual ") + place + (isSelf ? "" : " of the child"));
+        g_Bomb.Reach({"virtual ", place, isSelf ? "" : " of the child"});
         return self.Exists();
     }
 

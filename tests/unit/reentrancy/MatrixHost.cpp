@@ -1,6 +1,5 @@
 #include "tests/unit/reentrancy/MatrixHost.h"
 
-#include "teskara/element/EventNames.h"
 #include "tests/unit/reentrancy/Bomb.h"
 #include "tests/unit/reentrancy/Scene.h"
 
@@ -12,6 +11,19 @@
 #include <unistd.h>
 
 Bomb& g_Bomb = *new Bomb;
+
+namespace {
+
+// Of "atom auto(ARGUMENTS)\n{\nBODY\n}\n".
+std::string_view BodyOf(std::string_view source)
+{
+    constexpr std::string_view before = "\n{\n";
+    constexpr std::string_view after = "\n}\n";
+    source.remove_prefix(source.find(before) + before.size());
+    return source.substr(0, source.size() - after.size());
+}
+
+} // namespace
 
 bool MatrixScripts::ParseTypedValue(const char*, _MvTypeVar& result, u32)
 {
@@ -35,18 +47,10 @@ MatrixHost::MatrixHost()
 {
     Recorded = 0;
     NamesKeys = true;
-    for (const char* place : {TooltipPlace, ChildPlace})
-        Scripts[place] = [place](TeskElement&) { g_Bomb.Reach(place); };
     NamedScripts["Compare"] = [](const std::vector<std::string>&) {
         g_Bomb.Reach("ExecuteAtomForText");
         return "1";
     };
-    for (const char* event : EventNames()) {
-        for (const char* owner : {"", " of a part", " of a blip"}) {
-            const std::string place = std::string(event) + owner;
-            Scripts[place] = [place](TeskElement&) { g_Bomb.Reach(place); };
-        }
-    }
 }
 
 MatrixHost::~MatrixHost()
@@ -105,21 +109,27 @@ void MatrixHost::PrintLine(const char* format, ...)
 
 u32 MatrixHost::CompileAtom(const char* source, u32 length)
 {
-    if (std::string_view(source, length).find(BrokenScript) != std::string_view::npos)
+    const std::string_view body = BodyOf({source, length});
+    if (body == BrokenScript)
         return 0;
-    return Books.Lend("atom", TestHost::CompileAtom(source, length));
+
+    auto place = m_Places.find(body);
+    if (place == m_Places.end())
+        place = m_Places.emplace(body).first;
+    m_PlacesOfAtoms.push_back(&*place);
+    return Books.Lend("atom", static_cast<u32>(m_PlacesOfAtoms.size()));
 }
 
 void MatrixHost::ReleaseAtom(u32 atom)
 {
     Books.TakeBack("atom", atom);
-    TestHost::ReleaseAtom(atom);
 }
 
-int MatrixHost::ExecuteAtom(u32 atom, u32 unused, int argc, char** argv, _MvTypeVar* self)
+int MatrixHost::ExecuteAtom(u32 atom, u32, int, char**, _MvTypeVar*)
 {
     Books.Use("atom", atom);
-    return TestHost::ExecuteAtom(atom, unused, argc, argv, self);
+    g_Bomb.Reach(*m_PlacesOfAtoms.at(atom - 1));
+    return 0;
 }
 
 u32 MatrixHost::PreParseSequence(const char*, u32)

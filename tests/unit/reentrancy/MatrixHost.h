@@ -3,8 +3,10 @@
 #include "tests/unit/HostBooks.h"
 #include "tests/unit/TestHost.h"
 
-#include <map>
+#include <functional>
+#include <set>
 #include <string>
+#include <vector>
 
 // The second table: a reference always leads to the texture of the element under test.
 class MatrixScripts final : public HostScriptInterface
@@ -20,7 +22,8 @@ public:
     void FreeQuery(u32) override { }
 };
 
-// A host that tells the bomb where the toolkit calls out, and keeps books of what it lends.
+// A host that tells the bomb where the toolkit calls out, and keeps books of what it lends. The body of a script is the
+// name of the place that it is.
 class MatrixHost : public TestHost
 {
 public:
@@ -54,5 +57,7 @@ public:
 
 private:
     MatrixScripts m_Scripts;
+    std::set<std::string, std::less<>> m_Places;
+    std::vector<const std::string*> m_PlacesOfAtoms; // of all that ever were
     u32 m_LastSequence = 0;
 };
