@@ -69,7 +69,7 @@ bool DeleteNamedParts()
 {
     bool deleted = false;
     for (const char* name : {"filler", "slider", "UpButton", "DownButton", "vertical", "List", "Tooltip", "Town",
-             "Cell 1", "Cell 0", "Cell 2", "left", "right", "a", "b", "OK", "Cancel", "Text", "Entry"})
+             "Cell 1", "Cell 0", "Cell 2", "left", "right", "a", "b"})
         deleted |= DeletePart(name);
     return deleted;
 }
@@ -148,6 +148,8 @@ bool NotifyParentOfSelf()
     return true;
 }
 
+constexpr u64 EveryKind = 0;
+
 // clang-format off
 constexpr Act Acts[] = {
     {"delete self",           [] { return Delete(SelfName); }},
@@ -157,15 +159,15 @@ constexpr Act Acts[] = {
     {"delete younger sibling", [] { return Delete(YoungerName); }},
     {"delete both siblings",  DeleteSiblings},
     {"delete tooltip",        [] { return Delete(TooltipName); }},
-    {"delete own child",      [] { return DeletePart("Child"); }},
+    {"delete own child",      [] { return DeletePart("Child"); }, EveryKind, Act::MayMiss},
     {"delete own children",   [] { return DeleteParts(false); }},
-    {"delete what own children hold", [] { return DeleteParts(true); }},
-    {"delete own parts",      DeleteNamedParts},
+    {"delete what own children hold", [] { return DeleteParts(true); }, HoldsParts},
+    {"delete own parts",      DeleteNamedParts, HasParts},
     {"delete own title bar",  [] { return DeletePart("TitleBar"); }, HasTitleBar},
     {"delete own client",     [] { return DeletePart("Client"); }, HasTitleBar},
     {"delete focus",          [] { return DeleteByID(g_UIManager.FocusElementID); }},
     {"delete mouse over",     [] { return DeleteByID(g_UIManager.MouseOverElementID); }},
-    {"delete what is pressed", [] { return DeleteByID(g_UIManager.LeftPressElementID); }},
+    {"delete what is pressed", [] { return DeleteByID(g_UIManager.LeftPressElementID); }, EveryKind, Act::MayMiss},
     {"reset",                 Reset},
     {"reset and load",        ResetAndLoad},
     {"unload own file",       [] { return g_UIManager.UnloadInterfaceXML(SceneFile); }},
@@ -197,8 +199,6 @@ constexpr Act Acts[] = {
 };
 
 constexpr char Markup[] = "<frame><OnLoad>OnLoad</OnLoad></frame>";
-
-constexpr u64 EveryKind = 0;
 
 constexpr ScriptAct ScriptActs[] = {
     {ScriptAct::This,   nullptr,   "Destroy",       {},                           EveryKind},

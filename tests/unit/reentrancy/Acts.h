@@ -7,9 +7,12 @@
 
 // A row of the matrix: what a script does in the middle of everything.
 struct Act {
+    enum Aim { Sure, MayMiss }; // whether it can do something to each of these kinds, at some place at least
+
     const char* Name;
     bool (*Run)(); // false: there was nothing to do it to
     u64 Needs = 0; // traits of the kinds that it can do something to
+    Aim At = Sure;
 };
 
 // What a script does through the script types, as this.PART.METHOD[ARGUMENTS].

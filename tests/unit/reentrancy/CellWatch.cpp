@@ -2,7 +2,6 @@
 
 #include <csignal>
 #include <cstdio>
-#include <cstdlib>
 #include <cstring>
 #include <unistd.h>
 
@@ -46,6 +45,7 @@ void Install()
     static const bool installed = [] {
         static_cast<void>(!readlink("/proc/self/exe", g_Program, sizeof(g_Program) - 1));
         std::signal(SIGALRM, EndBySignal);
+        std::signal(SIGABRT, EndBySignal);
         if (__sanitizer_set_death_callback)
             __sanitizer_set_death_callback(TellCell);
         else
@@ -53,12 +53,6 @@ void Install()
         return true;
     }();
     static_cast<void>(installed);
-}
-
-const char* WantedCell()
-{
-    static const char* const wanted = std::getenv("TESKARA_CELL");
-    return wanted;
 }
 
 } // namespace
@@ -88,14 +82,4 @@ const char* CellWatch::Cell()
 const char* CellWatch::Again()
 {
     return g_Again;
-}
-
-bool CellWatch::IsWanted(const std::string& cell)
-{
-    return !WantedCell() || cell == WantedCell();
-}
-
-bool CellWatch::IsOnlyOneWanted()
-{
-    return WantedCell() != nullptr;
 }

@@ -17,8 +17,4 @@ public:
 
     // The command line that runs the cell again; the cell's name if there is none.
     static const char* Again();
-
-    // Whether that cell is to be run: all are, unless TESKARA_CELL names one.
-    static bool IsWanted(const std::string& cell);
-    static bool IsOnlyOneWanted();
 };

@@ -23,29 +23,32 @@ constexpr u64 IsPressed = Follows | PassesOn | Sends(1) | Sends(6) | EvaluatesTe
 constexpr u64 IsButton = IsPressed | SetsTexture;
 constexpr u64 IsCheckBox = IsPressed | SetsCheck;
 constexpr u64 IsHudElement = FollowsHeldMouse | PassesOn | EvaluatesText | SetsText | HasFont;
-constexpr u64 IsGauge = IsFrame | HasValue;
+constexpr u64 IsGauge = IsFrame | HasValue | HasParts;
 constexpr u64 IsSlider = Follows | PassesOn | Sends(4) | RunsOnChange | HasHandle | HasValue | HasTexture;
 constexpr u64 IsVariableSlider = IsSlider | EvaluatesText | ExpandsText;
-constexpr u64 IsScrollBar = Follows | Sends(4) | RunsOnChange | HasButtons | HasValue;
+constexpr u64 IsScrollBar = Follows | Sends(4) | RunsOnChange | HasButtons | HasValue | HasParts;
 constexpr u64 IsListBox = HasCollection | Follows | Sends(9) | Sends(12) | Sends(13) | RunsOnSelect | PressSelects
-    | HasRows | NamesRows | ScriptsScroll | HasFont | HasTexture;
+    | HasRows | NamesRows | ScriptsScroll | HasFont | HasTexture | HasParts | HoldsParts;
 constexpr u64 IsTree = HasCollection | Follows | Sends(11) | RunsOnSelect | PressSelects | HasNodes | ScriptsScroll
-    | HasFont | HasTexture | SetsTexture;
-constexpr u64 IsComboBox =
-    HasCollection | Follows | Sends(9) | RunsOnSelect | DropsList | FocusedByPress | NamesRows | HasFont | HasTexture;
+    | HasFont | HasTexture | SetsTexture | HasParts | HoldsParts;
+constexpr u64 IsComboBox = HasCollection | Follows | Sends(9) | RunsOnSelect | DropsList | FocusedByPress | NamesRows
+    | HasFont | HasTexture | HasParts | HoldsParts;
 constexpr u64 IsField =
     HasCollection | Follows | PassesOn | Sends(3) | TakesKeys | EditsText | FocusedByPress | SetsText | HasTexture;
 constexpr u64 IsTextEdit = HasCollection | Follows | Sends(7) | Sends(8) | Sends(10) | Sends(11) | EditsLines
-    | EditsText | ClearsLines | FocusedByPress | ScriptsScroll | SetsText | HasFont;
-constexpr u64 IsConsole =
-    HasCollection | FollowsHeldMouse | HasLines | ClearsLines | HasFont | HasTexture | SetsTexture;
-constexpr u64 ShowsBlips = HasCollection | Follows | PassesOn | HoversBlips;
+    | EditsText | ClearsLines | FocusedByPress | ScriptsScroll | SetsText | HasFont | HasParts | HoldsParts;
+constexpr u64 IsConsole = HasCollection | FollowsHeldMouse | HasLines | ClearsLines | HasFont | HasTexture | SetsTexture
+    | HasParts | HoldsParts;
+constexpr u64 ShowsBlips = HasCollection | Follows | PassesOn | HoversBlips | HasParts;
 constexpr u64 IsTooltip =
     HasCollection | PassesOn | SendsPresses | ExpandsText | SetsLines | KnowsReset | HasFont | HasTexture | SetsTexture;
-constexpr u64 IsTabControl =
-    HasCollection | Follows | PassesOn | HasTabs | LoadsParts | UnloadsParts | HasFont | SetsTexture;
-constexpr u64 IsWindow = Follows | Sends(11) | HasTitleBar | LoadsParts | KnowsReset | HasTexture | SetsTexture;
-constexpr u64 IsTable = IsFrame | HasCells | LoadsParts | UnloadsParts;
+constexpr u64 IsTabControl = HasCollection | Follows | PassesOn | HasTabs | LoadsParts | UnloadsParts | HasFont
+    | SetsTexture | HasParts | HoldsParts;
+constexpr u64 IsWindow =
+    Follows | Sends(11) | HasTitleBar | LoadsParts | KnowsReset | HasTexture | SetsTexture | HoldsParts;
+constexpr u64 IsMenu = IsMade | HasCollection | HasTexture | SetsTexture;
+constexpr u64 IsDialog = IsMade | HasTitleBar | HoldsParts | HasTexture | SetsTexture;
+constexpr u64 IsTable = IsFrame | HasCells | LoadsParts | UnloadsParts | HasParts | HoldsParts;
 
 constexpr char FrameMarkup[] = "<Texture Filename='#camera'/><Border>1</Border>";
 constexpr char TextMarkup[] = "<Wrap>1</Wrap><Text>${words}</Text>";
@@ -236,10 +239,10 @@ constexpr Kind Kinds[] = {
     {"windowclient",    IsFrame,                               FrameMarkup,     nullptr},
     {"gaugefiller",     IsMade,                                "",              MakeFiller, "listeninggauge"},
     {"mapblipview",     IsMade | HasTexture | SetsTexture,     "",              MakeBlipView, "listeningmapview"},
-    {"contextmenu",     IsMade | HasTexture | SetsTexture,         "",              MakeMenu},
-    {"messagebox",      IsMade | HasTexture | SetsTexture,                   "",              MakeMessageBox},
-    {"scriptmessagebox", IsMade | HasTexture | SetsTexture,                  "",              MakeMessageBox},
-    {"scriptinputbox",  IsMade | HasTexture | SetsTexture,                   "",              MakeInputBox},
+    {"contextmenu",     IsMenu,                                "",              MakeMenu},
+    {"messagebox",      IsDialog,                              "",              MakeMessageBox},
+    {"scriptmessagebox", IsDialog,                             "",              MakeMessageBox},
+    {"scriptinputbox",  IsDialog,                              "",              MakeInputBox},
     {"foreign",         Follows | PassesOn | IsForeign | Refuses, "",           nullptr},
 };
 // clang-format on
@@ -256,10 +259,10 @@ std::vector<Subject> AllSubjects()
 {
     std::vector<Subject> subjects;
     for (const Kind& kind : Kinds)
-        subjects.push_back({&kind, kind.Name, kind.Traits});
+        subjects.push_back({&kind, kind.Name, kind.Traits, subjects.size()});
     for (const Kind& kind : Kinds) {
         if ((kind.Traits & IsForeign) == 0)
-            subjects.push_back({&kind, std::string("foreign") + kind.Name, kind.Traits | IsForeign});
+            subjects.push_back({&kind, std::string("foreign") + kind.Name, kind.Traits | IsForeign, subjects.size()});
     }
     return subjects;
 }

@@ -9,6 +9,8 @@
 
 // What a kind does: the places that only some kinds reach ask for it.
 enum Trait : u64 {
+    HasParts = u64{1} << 16, // makes elements of its own below itself
+    HoldsParts = u64{1} << 17, // they have others below them
     FollowsMouse = u64{1} << 20, // runs OnMouseMove as the mouse comes by
     FollowsHeldMouse = u64{1} << 21, // runs OnMouseMove between press and release
     IsForeign = u64{1} << 22, // not the toolkit's: its own operations call out
@@ -75,6 +77,7 @@ struct Subject {
     const Kind* Row;
     std::string Word; // that makes it
     u64 Traits;
+    std::size_t Number; // among all of them
 
     bool Has(u64 traits) const { return (traits & ~Traits) == 0; }
     bool Reaches(u64 needs, u64 unless) const { return Has(needs) && (Traits & unless) == 0; }

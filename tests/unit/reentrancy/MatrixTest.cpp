@@ -6,11 +6,11 @@
 //   holds rows or the like, Collections.cpp empties and fills it. Its foreign class is a line in ForeignElements.cpp.
 // - A place that the host hears of: MatrixHost.cpp tells the bomb. An operation that a foreign class may take over does
 //   so in ForeignElements.h. Both are found by going every way.
-// - A way: into Places.cpp, with the places that kinds of some traits are bound to reach by it, and no others. If that
-//   cannot be said of it, into MoreWays.cpp.
+// - A way: into the file of Ways.h that is about such, and into Places.cpp with the places that kinds of some traits are
+//   bound to reach by it, and no others. If that cannot be said of it, into MoreWays.cpp alone.
 // - An act: into Acts.cpp, as a call from outside or as what a script writes.
 //
-// A cell counts if its place was reached and its act found something to act on.
+// A cell counts if its place was reached and its act found something to act on. Selection.h tells which are tried.
 
 #include "host/probe/TreeChecker.h"
 #include "teskara/core/CUIManager.h"
@@ -26,13 +26,15 @@
 #include "tests/unit/reentrancy/Places.h"
 #include "tests/unit/reentrancy/Repertoire.h"
 #include "tests/unit/reentrancy/Scene.h"
+#include "tests/unit/reentrancy/Selection.h"
 
 #include <cstdio>
+#include <set>
 
 namespace {
 
-// What each subject has at least, so all of them together have many times as many.
-constexpr u32 LeastCells = 3000;
+// What each subject has at least, of which some are selected.
+constexpr std::size_t LeastCells = 3000;
 
 class ReentrancyMatrix : public ToolkitTest, public testing::WithParamInterface<Subject>
 {
@@ -116,7 +118,7 @@ protected:
     void RunCells(const Repertoire::Stop& stop, const Repertoire::Deed& deed)
     {
         RunCell(stop, Bomb::Fuse::Once, deed);
-        if (g_Bomb.CameAgain() || CellWatch::IsOnlyOneWanted())
+        if (g_Bomb.CameAgain() || Selection::HasOne())
             RunCell(stop, Bomb::Fuse::EachTime, deed);
     }
 
@@ -125,14 +127,26 @@ protected:
     {
         const std::string name =
             NameOf(stop.Place.c_str(), stop.Way.c_str(), deed.Name + (fuse == Bomb::Fuse::Once ? "" : ", each time"));
-        if (!CellWatch::IsWanted(name))
+        if (!Selection::Runs(name))
             return;
 
         const std::string filter = "Kinds/ReentrancyMatrix.EveryActIsSurvivedAtEveryPlace/" + GetParam().Word;
         const CellWatch watch(name, filter.c_str());
         const testing::ScopedTrace trace(__FILE__, __LINE__, CellWatch::Again());
         EXPECT_TRUE(TryCell(stop, fuse, deed.Act));
-        m_Cells += g_Bomb.Acted();
+        if (g_Bomb.Acted()) {
+            ++m_Cells;
+            m_Met.insert({&stop, &deed});
+        }
+    }
+
+    void ExpectEverythingWasMet(const Repertoire& repertoire) const
+    {
+        EXPECT_GE(m_Cells, Selection::Share(LeastCells));
+        for (const Repertoire::Stop& stop : repertoire.Stops)
+            EXPECT_TRUE(m_Met.contains(&stop)) << "no act could do anything at " << stop.Place << " by " << stop.Way;
+        for (const Repertoire::Deed& deed : repertoire.Deeds)
+            EXPECT_TRUE(m_Met.contains(&deed) || deed.MayMiss) << "at no place was there anything to " << deed.Name;
     }
 
     void ExpectNothingLeft()
@@ -144,7 +158,7 @@ protected:
     void RunShutdownCell(const Repertoire::Stop& stop)
     {
         const std::string name = NameOf(stop.Place.c_str(), stop.Way.c_str(), "shutdown");
-        if (!CellWatch::IsWanted(name))
+        if (!Selection::Runs(name))
             return;
 
         const std::string filter = "Kinds/ReentrancyMatrixDeathTest.AShutdownIsSurvivedAtEveryPlace/" + GetParam().Word;
@@ -173,7 +187,8 @@ protected:
     }
 
     MatrixHost m_Host;
-    u32 m_Cells = 0;
+    std::size_t m_Cells = 0;
+    std::set<const void*> m_Met; // the stops and deeds of the cells that counted
 };
 
 // Named so that it comes first, while a process of its own is cheap.
@@ -191,15 +206,18 @@ std::string SubjectName(const testing::TestParamInfo<Subject>& info)
 TEST_P(ReentrancyMatrix, EveryActIsSurvivedAtEveryPlace)
 {
     const Repertoire repertoire = Find();
-    for (const Repertoire::Stop& stop : repertoire.Stops) {
-        for (const Repertoire::Deed& deed : repertoire.Deeds)
-            RunCells(stop, deed);
+    const Selection selection(GetParam());
+    for (std::size_t stop = 0; stop < repertoire.Stops.size(); ++stop) {
+        for (std::size_t deed = 0; deed < repertoire.Deeds.size(); ++deed) {
+            const bool isMet = m_Met.contains(&repertoire.Deeds[deed]);
+            if (!isMet || selection.Takes(stop, deed))
+                RunCells(repertoire.Stops[stop], repertoire.Deeds[deed]);
+        }
     }
-    std::printf("[    CELLS ] %u of %s: %zu places, %zu acts\n", m_Cells, GetParam().Word.c_str(),
+    std::printf("[    CELLS ] %zu of %s: %zu places, %zu acts\n", m_Cells, GetParam().Word.c_str(),
         repertoire.Stops.size(), repertoire.Deeds.size());
-    if (!CellWatch::IsOnlyOneWanted()) {
-        EXPECT_GE(m_Cells, LeastCells);
-    }
+    if (!Selection::HasOne())
+        ExpectEverythingWasMet(repertoire);
 }
 
 TEST_P(ReentrancyMatrix, OtherPlacesAreNotReached)
@@ -218,8 +236,11 @@ TEST_P(ReentrancyMatrix, OtherPlacesAreNotReached)
 TEST_P(ReentrancyMatrixDeathTest, AShutdownIsSurvivedAtEveryPlace)
 {
     const Repertoire repertoire = Find();
-    for (const Repertoire::Stop& stop : repertoire.Stops)
-        InFreshProcess([&] { RunShutdownCell(stop); });
+    const Selection selection(GetParam());
+    for (std::size_t stop = 0; stop < repertoire.Stops.size(); ++stop) {
+        if (selection.Takes(stop, 0))
+            InFreshProcess([&] { RunShutdownCell(repertoire.Stops[stop]); });
+    }
 }
 
 // A misspelt method would be an act that does nothing.

@@ -69,12 +69,13 @@ private:
     {
         for (const Act& act : AllActs()) {
             if (m_Subject.Has(act.Needs))
-                m_Found.Deeds.push_back({act.Name, act.Run});
+                m_Found.Deeds.push_back({act.Name, act.Run, act.At == Act::MayMiss});
         }
         for (const ScriptAct& act : AllScriptActs()) {
             const auto number = std::to_string(&act - AllScriptActs().data());
             if (m_Subject.Has(IsMade) ? Knows(act) : m_Subject.Has(act.Needs))
-                m_Found.Deeds.push_back({std::string(act.Method) + " " + number, [&act] { return Perform(act); }});
+                m_Found.Deeds.push_back(
+                    {std::string(act.Method) + " " + number, [&act] { return Perform(act); }, false});
         }
     }
 

@@ -20,6 +20,7 @@ struct Repertoire {
     struct Deed {
         std::string Name;
         std::function<bool()> Act; // false: there was nothing to do it to
+        bool MayMiss; // at every place
     };
 
     std::vector<Stop> Stops;
