@@ -1,5 +1,7 @@
 #include "tests/unit/reentrancy/MatrixHost.h"
 
+#include "teskara/element/TeskElement.h"
+#include "teskara/script/MvTypeVar.h"
 #include "tests/unit/reentrancy/Bomb.h"
 #include "tests/unit/reentrancy/Scene.h"
 
@@ -125,10 +127,13 @@ void MatrixHost::ReleaseAtom(u32 atom)
     Books.TakeBack("atom", atom);
 }
 
-int MatrixHost::ExecuteAtom(u32 atom, u32, int, char**, _MvTypeVar*)
+int MatrixHost::ExecuteAtom(u32 atom, u32, int, char**, _MvTypeVar* self)
 {
     Books.Use("atom", atom);
-    g_Bomb.Reach(*m_PlacesOfAtoms.at(atom - 1));
+    const std::string& place = *m_PlacesOfAtoms.at(atom - 1);
+    if (const auto script = Scripts.find(place); script != Scripts.end() && self)
+        script->second(*static_cast<TeskElement*>(self->Value.Object));
+    g_Bomb.Reach(place);
     return 0;
 }
 

@@ -23,7 +23,7 @@ public:
 };
 
 // A host that tells the bomb where the toolkit calls out, and keeps books of what it lends. The body of a script is the
-// name of the place that it is.
+// name of the place that it is, and may be among Scripts too.
 class MatrixHost : public TestHost
 {
 public:
