@@ -9,7 +9,7 @@ struct OperationRow {
     TraceGroup Group;
 };
 
-using enum HostOperation;
+using enum host::Operation;
 
 constexpr OperationRow Operations[] = {
     {GetCurrentScript, TraceGroup::Misc},
