@@ -11,6 +11,7 @@
 #include <iostream>
 #include <memory>
 #include <optional>
+#include <string>
 #include <thread>
 
 namespace fs = std::filesystem;
@@ -145,7 +146,8 @@ int CheckAll(const std::vector<TranscriptFile>& files)
 {
     std::size_t passed = 0;
     RunAll(files, [&](const TranscriptFile& file, const TranscriptRun& run) { passed += CheckRun(file, run); });
-    std::cout << passed << " passed, " << files.size() - passed << " failed\n";
+    // As texts, since a stream puts points between the digits where the locale has them.
+    std::cout << std::to_string(passed) << " passed, " << std::to_string(files.size() - passed) << " failed\n";
     return passed == files.size() ? 0 : ExitFailed;
 }
 
