@@ -4,11 +4,11 @@
 
 #include "host/probe/ProbeSession.h"
 #include "host/probe/ValueText.h"
+#include "teskara/core/DecimalNumber.h"
 #include "teskara/windows/TeskMap.h"
 
-#include <charconv>
 #include <map>
-#include <system_error>
+#include <string_view>
 
 namespace {
 
@@ -16,11 +16,12 @@ namespace {
 float Coordinate(const CommandCall& call, std::size_t index)
 {
     const std::string& text = call.Text(index);
-    float value = 0;
-    const auto read = std::from_chars(text.data(), text.data() + text.size(), value);
-    if (read.ec != std::errc() || read.ptr != text.data() + text.size())
+    const bool isNegative = text.starts_with('-');
+    const std::string_view digits = std::string_view(text).substr(isNegative ? 1 : 0);
+    double value = 0;
+    if (digits.empty() || ReadDecimalNumber(digits, value) != digits.size())
         throw CommandError("not a number: " + Quoted(text));
-    return value;
+    return static_cast<float>(isNegative ? -value : value);
 }
 
 _Point3f Location(const CommandCall& call, std::size_t index)

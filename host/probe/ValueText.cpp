@@ -1,6 +1,7 @@
 #include "host/probe/ValueText.h"
 
 #include "teskara/core/AsciiCase.h"
+#include "teskara/core/DecimalNumber.h"
 #include "teskara/core/HostInterface.h"
 #include "teskara/element/TeskElement.h"
 
@@ -255,14 +256,14 @@ std::optional<double> ReadDecimal(std::string_view text)
     text = TrimBlanks(text);
     if (text.starts_with('+'))
         text.remove_prefix(1);
-    if (text.find_first_not_of("-.0123456789") != std::string_view::npos)
-        return std::nullopt;
-
+    const bool isNegative = text.starts_with('-');
+    if (isNegative)
+        text.remove_prefix(1);
     double value = 0;
-    const auto read = std::from_chars(text.data(), text.data() + text.size(), value, std::chars_format::fixed);
-    if (read.ec != std::errc() || read.ptr != text.data() + text.size())
+    if (text.find_first_not_of(".0123456789") != text.npos || ReadDecimalNumber(text, value) != text.size()
+        || text.empty())
         return std::nullopt;
-    return value;
+    return isNegative ? -value : value;
 }
 
 void CopyText(char* buffer, std::size_t size, std::string_view text)

@@ -1,6 +1,7 @@
 #include "teskara/core/Numbers.h"
 
 #include "teskara/core/BoundedText.h"
+#include "teskara/core/DecimalNumber.h"
 
 #include <algorithm>
 #include <charconv>
@@ -49,39 +50,6 @@ bool TakeSign(std::string_view& text)
     return negative;
 }
 
-// Tells for a number that no double can hold whether it is too large rather than too small, by the decimal place of
-// its first digit that is not 0.
-bool IsTooLarge(std::string_view digits)
-{
-    i64 place = 0;
-    bool pointSeen = false;
-    bool digitSeen = false;
-    std::size_t index = 0;
-    for (; index < digits.size() && (IsDigit(digits[index]) || (digits[index] == '.' && !pointSeen)); ++index) {
-        if (digits[index] == '.') {
-            pointSeen = true;
-            continue;
-        }
-        digitSeen = digitSeen || digits[index] != '0';
-        if (digitSeen && !pointSeen)
-            ++place;
-        else if (!digitSeen && pointSeen)
-            --place;
-    }
-    if (index + 1 >= digits.size())
-        return place > 0;
-
-    std::string_view exponentText = digits.substr(index + 1);
-    const bool negative = TakeSign(exponentText);
-    i64 exponent = 0;
-    for (const char character : exponentText) {
-        if (!IsDigit(character))
-            break;
-        exponent = std::min<i64>(exponent * 10 + (character - '0'), std::numeric_limits<i32>::max());
-    }
-    return place + (negative ? -exponent : exponent) > 0;
-}
-
 std::size_t WriteCut(char* to, std::size_t size, const char* begin, std::to_chars_result result)
 {
     return CopyBounded(to, size, {begin, static_cast<std::size_t>(result.ptr - begin)});
@@ -106,17 +74,9 @@ double ReadDouble(std::string_view text)
 {
     text = WithoutSpace(text);
     const bool negative = TakeSign(text);
-    if (text.empty() || text.front() == '-')
-        return 0;
-
     double value = 0;
-    const std::from_chars_result result = std::from_chars(text.data(), text.data() + text.size(), value);
-    if (result.ec == std::errc::invalid_argument)
+    if (ReadDecimalNumber(text, value) == 0)
         return 0;
-    if (result.ec == std::errc::result_out_of_range) {
-        const std::string_view number(text.data(), static_cast<std::size_t>(result.ptr - text.data()));
-        value = IsTooLarge(number) ? std::numeric_limits<double>::infinity() : 0;
-    }
     return negative ? -value : value;
 }
 

@@ -1,12 +1,11 @@
 #include "teskara/script/Arguments.h"
 
 #include "teskara/core/CUIManager.h"
+#include "teskara/core/Numbers.h"
 #include "tests/unit/ToolkitTest.h"
 
 #include <gtest/gtest.h>
 
-#include <charconv>
-#include <cstring>
 #include <string>
 
 namespace {
@@ -123,7 +122,7 @@ class CalculatingHost : public TestHost
 public:
     bool Calculate(const char* text, double& result) override
     {
-        std::from_chars(text, text + std::strlen(text), result);
+        result = ReadDouble(text);
         return std::string(text) != "fail";
     }
 };
