@@ -27,7 +27,7 @@ bool HasTag(const XMLNode* node, const char* tag)
 bool IsReadIn(const XMLNode* node, const SchemaValue& value)
 {
     const bool isForTemplates =
-        value.Place == SchemaPlace::TemplateChild || value.Place == SchemaPlace::TemplateAttribute;
+        value.Place == SchemaPlace::TemplateChild || value.Place == SchemaPlace::AttributeOfTemplate;
     return !isForTemplates || HasTag(node, "Template");
 }
 

@@ -74,7 +74,7 @@ private:
 
     static std::string NameOf(const SchemaValue& value)
     {
-        const bool isAmongTags = value.Place == SchemaPlace::TemplateAttribute;
+        const bool isAmongTags = value.Place == SchemaPlace::AttributeOfTemplate;
         return AsCode(value.Name) + (value.Owner.empty() ? "" : " of " + AsCode(value.Owner))
             + (isAmongTags ? ", an attribute" : "");
     }
@@ -125,7 +125,7 @@ private:
             return !value.IsEvent && (value.Place == SchemaPlace::Child || value.Place == SchemaPlace::NamedChild);
         });
         text += Table(shape, "Of templates only", [](const SchemaValue& value) {
-            return value.Place == SchemaPlace::TemplateChild || value.Place == SchemaPlace::TemplateAttribute;
+            return value.Place == SchemaPlace::TemplateChild || value.Place == SchemaPlace::AttributeOfTemplate;
         });
         text += Events(shape) + "\n[All pages](../README.md)\n";
         m_Pages.push_back({PathTo(shape), text});

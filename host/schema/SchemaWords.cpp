@@ -13,7 +13,7 @@ const char* WordOf(SchemaPlace place)
         return "child of a template";
     case SchemaPlace::Attribute:
         return "attribute";
-    case SchemaPlace::TemplateAttribute:
+    case SchemaPlace::AttributeOfTemplate:
         return "attribute of a template";
     }
     return "";

@@ -36,7 +36,7 @@ template <class Table> teskara_answer TakeTable(const Table* table, Table& taken
 
     const auto* bytes = reinterpret_cast<const unsigned char*>(table);
     const std::size_t known = std::min<std::size_t>(size, sizeof(Table));
-    if (std::any_of(bytes + known, bytes + size, [](unsigned char byte) { return byte != 0; }))
+    if (std::any_of(bytes + known, bytes + size, [](unsigned char each) { return each != 0; }))
         return TESKARA_TOO_NEW;
 
     taken = {};

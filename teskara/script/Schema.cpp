@@ -29,7 +29,7 @@ constexpr SchemaPlace PlaceOf(MarkupPlace place)
     case MarkupPlace::Attribute:
         return SchemaPlace::Attribute;
     case MarkupPlace::TemplateAttribute:
-        return SchemaPlace::TemplateAttribute;
+        return SchemaPlace::AttributeOfTemplate;
     }
     return SchemaPlace::Child;
 }

@@ -16,7 +16,7 @@ enum class SchemaPlace : u8 {
     NamedChild, // a child that is what its form says, or holds the name of a template and nothing else
     TemplateChild, // a child that is only read from a template
     Attribute, // Text="..."
-    TemplateAttribute, // an attribute that is only read from a template
+    AttributeOfTemplate, // an attribute that is only read from a template
 };
 
 // How a text is read: integer, hex, float, toggle, string, word, sequence (a text with data sequences), variable (the name
@@ -32,7 +32,7 @@ struct SchemaValue {
     std::string Owner; // the child element that has the attribute; empty for the element itself
     bool IsEvent = false;
 
-    bool IsAttribute() const { return Place == SchemaPlace::Attribute || Place == SchemaPlace::TemplateAttribute; }
+    bool IsAttribute() const { return Place == SchemaPlace::Attribute || Place == SchemaPlace::AttributeOfTemplate; }
 };
 
 enum class SchemaUse : u8 {

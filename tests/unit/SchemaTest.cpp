@@ -139,7 +139,7 @@ TEST_F(SchemaTest, EveryValueThatItTellsOfIsAskedFor)
         Load(MarkupFor(shape, shape.Name, " name='Whole " + shape.Name + "'"));
         for (const SchemaValue* value : m_Schema.ValuesOf(shape)) {
             const bool isOfTemplates =
-                value->Place == SchemaPlace::TemplateChild || value->Place == SchemaPlace::TemplateAttribute;
+                value->Place == SchemaPlace::TemplateChild || value->Place == SchemaPlace::AttributeOfTemplate;
             const std::string name = shape.Name + (value->IsAttribute() ? " @" : " ") + value->Name;
             if (!isOfTemplates && value->Owner.empty() && value->Form != "row" && !m_Asked.contains(name))
                 unasked.insert(name);
