@@ -73,9 +73,8 @@ bool MatchLine(std::string_view expected, std::string_view actual)
 
 bool MatchLines(const std::vector<std::string>& expected, const std::vector<std::string>& actual)
 {
-    if (std::ranges::find(expected, AnyLines) == expected.end())
-        return std::ranges::equal(
-            expected, actual, [](const auto& left, const auto& right) { return MatchLine(left, right); });
+    if (std::find(expected.begin(), expected.end(), AnyLines) == expected.end())
+        return std::equal(expected.begin(), expected.end(), actual.begin(), actual.end(), MatchLine);
 
     Table<char> rest(expected.size(), actual.size());
     for (std::size_t row = expected.size() + 1; row-- > 0;) {

@@ -51,7 +51,7 @@ std::optional<std::vector<TranscriptFile>> ReadTranscripts(const std::vector<std
             AddFolder(path, found);
         else
             found.push_back(path);
-        std::ranges::sort(found);
+        std::sort(found.begin(), found.end());
         files.insert(files.end(), found.begin(), found.end());
     }
 
@@ -74,7 +74,8 @@ template <class Take> void RunAll(const std::vector<TranscriptFile>& files, Take
     std::size_t started = 0;
     std::size_t taken = 0;
     while (taken < files.size()) {
-        const auto alive = std::ranges::count_if(running, [](auto& process) { return !process->HasEnded(); });
+        const auto alive =
+            std::count_if(running.begin(), running.end(), [](auto& process) { return !process->HasEnded(); });
         if (started < files.size() && static_cast<std::size_t>(alive) < Parallel) {
             const TranscriptFile& file = files[started++];
             running.push_back(std::make_unique<TranscriptProcess>(file.Path, file.Content));

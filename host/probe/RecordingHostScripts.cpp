@@ -18,7 +18,8 @@ namespace {
 std::string ObjectText(const void* object)
 {
     const auto& elements = g_UIManager.ElementsByID;
-    const auto found = std::ranges::find_if(elements, [object](const auto& entry) { return entry.second == object; });
+    const auto found =
+        std::find_if(elements.begin(), elements.end(), [object](const auto& entry) { return entry.second == object; });
     return found != elements.end() && object ? ElementText(found->second) : "*";
 }
 

@@ -7,6 +7,7 @@
 #include "teskara/element/TeskTexture.h"
 
 #include <algorithm>
+#include <iterator>
 #include <string_view>
 
 namespace {
@@ -16,7 +17,9 @@ constexpr std::string_view TypesWithoutElement[] = {
 
 bool IsElementType(std::string_view name)
 {
-    return name.starts_with("tesk") && std::ranges::find(TypesWithoutElement, name) == std::end(TypesWithoutElement);
+    return name.starts_with("tesk")
+        && std::find(std::begin(TypesWithoutElement), std::end(TypesWithoutElement), name)
+        == std::end(TypesWithoutElement);
 }
 
 std::string HostValueText(const HostValueType& type, const MvValue& value)

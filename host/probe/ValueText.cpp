@@ -295,6 +295,6 @@ std::string LowerCase(std::string_view text)
 
 bool SameWord(std::string_view left, std::string_view right)
 {
-    return std::ranges::equal(
-        left, right, {}, [](char c) { return FoldAscii(c); }, [](char c) { return FoldAscii(c); });
+    return std::equal(left.begin(), left.end(), right.begin(), right.end(),
+        [](char one, char other) { return FoldAscii(one) == FoldAscii(other); });
 }

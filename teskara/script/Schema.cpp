@@ -13,7 +13,6 @@
 #include "teskara/script/TopLevelObjects.h"
 
 #include <algorithm>
-#include <iterator>
 
 namespace {
 
@@ -126,9 +125,12 @@ Schema::Schema() : RootTag(g_UIManager.RootTagName)
     std::sort(Shapes.begin(), Shapes.end(),
         [](const SchemaShape& left, const SchemaShape& right) { return left.Name < right.Name; });
     VisitScriptTypes([this](const ToolkitType& type, const char* base) { Types.push_back(Describe(type, base)); });
-    std::ranges::copy(TopLevelObjectNames(), std::back_inserter(Objects));
-    std::ranges::copy(CommandNames(), std::back_inserter(Commands));
-    std::ranges::copy(Messages::All, std::back_inserter(Messages));
+    for (const char* name : TopLevelObjectNames())
+        Objects.emplace_back(name);
+    for (const char* name : CommandNames())
+        Commands.emplace_back(name);
+    for (const char* line : Messages::All)
+        Messages.emplace_back(line);
     for (u32 code = 0; code < NotificationCodeEnd; ++code) {
         if (const char* name = NameOfNotification(static_cast<NotificationCode>(code)))
             Notifications.push_back({name, code});

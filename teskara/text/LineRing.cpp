@@ -19,7 +19,7 @@ void LineRing::Clear()
 
 void LineRing::Add(std::string_view line) noexcept
 try {
-    Line copy = std::make_unique_for_overwrite<char[]>(line.size() + 1);
+    Line copy(new char[line.size() + 1]);
     *std::copy(line.begin(), line.end(), copy.get()) = 0;
     if (Held() < MostLines()) {
         m_Lines.push_back(std::move(copy));

@@ -16,7 +16,7 @@ try {
     const std::size_t size = std::strlen(text) + 1;
     std::shared_ptr<char[]> kept = m_Newest.lock();
     if (kept.get() != text) {
-        kept = std::make_unique_for_overwrite<char[]>(size);
+        kept.reset(new char[size]);
         std::memcpy(kept.get(), text, size);
         m_Newest = kept;
     } else if (!m_Kept.empty() && m_Kept.back().Bytes == kept) {

@@ -55,7 +55,7 @@ std::vector<std::string> Words()
     std::vector<std::string> words;
     for (const auto& [word, factory] : g_UIManager.Factories)
         words.push_back(word.Text());
-    std::ranges::sort(words);
+    std::sort(words.begin(), words.end());
     return words;
 }
 

@@ -340,7 +340,7 @@ public:
 
     u32 GetCount() override
     {
-        return static_cast<u32>(std::ranges::count_if(Words, [](auto& word) { return !!word; }));
+        return static_cast<u32>(std::count_if(Words.begin(), Words.end(), [](auto& word) { return !!word; }));
     }
     u32 GetSize() override { return Act() ? Size.value_or(static_cast<u32>(Words.size())) : 0; }
     bool GetEntry(u32 position, _MvTypeVar& result) override

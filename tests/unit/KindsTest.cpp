@@ -3,6 +3,7 @@
 #include "tests/unit/ToolkitTest.h"
 
 #include <algorithm>
+#include <iterator>
 #include <string>
 #include <string_view>
 
@@ -63,7 +64,8 @@ bool AnswersTo(std::string_view kind, std::string_view word)
 {
     if (kind == word)
         return true;
-    const auto* row = std::ranges::find(Kinds, kind, [](const Kind& each) { return std::string_view(each.Word); });
+    const auto* row =
+        std::find_if(std::begin(Kinds), std::end(Kinds), [kind](const Kind& each) { return each.Word == kind; });
     return row != std::end(Kinds) && AnswersTo(row->Base, word);
 }
 
@@ -81,7 +83,8 @@ std::string TemplateOf(const Kind& kind)
 
 std::string UpperCase(std::string text)
 {
-    std::ranges::transform(text, text.begin(), [](char letter) { return static_cast<char>(letter - 'a' + 'A'); });
+    std::transform(
+        text.begin(), text.end(), text.begin(), [](char letter) { return static_cast<char>(letter - 'a' + 'A'); });
     return text;
 }
 

@@ -18,7 +18,8 @@ constexpr int LetterWidth = 6;
 int TextWidth(const char* text)
 {
     const std::string_view letters = text;
-    return LetterWidth * static_cast<int>(letters.size() - static_cast<std::size_t>(std::ranges::count(letters, '.')));
+    return LetterWidth
+        * static_cast<int>(letters.size() - static_cast<std::size_t>(std::count(letters.begin(), letters.end(), '.')));
 }
 
 bool Say(const char* text, char* buffer, std::size_t size)
