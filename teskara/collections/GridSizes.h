@@ -3,6 +3,7 @@
 #include "teskara/core/Export.h"
 #include "teskara/core/Types.h"
 
+#include <algorithm>
 #include <bit>
 #include <cstddef>
 #include <vector>
@@ -49,7 +50,7 @@ public:
     std::size_t Count() const { return m_Ends.size(); }
 
 private:
-    std::size_t Held(u64 index) const { return index < m_Ends.size() ? index : m_Ends.size() - 1; }
+    std::size_t Held(u64 index) const { return static_cast<std::size_t>(std::min<u64>(index, m_Ends.size() - 1)); }
 
     std::vector<u32> m_Ends; // never empty
 };

@@ -25,9 +25,10 @@ public:
     // The first free column of a row, from one on; the number of columns if there is none.
     u32 FreeColumn(u32 row, u64 column) const
     {
-        while (column < m_Columns && m_Slots[u64{row} * m_Columns + column])
-            ++column;
-        return static_cast<u32>(std::min<u64>(column, m_Columns));
+        u32 free = static_cast<u32>(std::min<u64>(column, m_Columns));
+        while (free < m_Columns && m_Slots[SlotOf(row, free)])
+            ++free;
+        return free;
     }
 
     // Puts a cell into a rectangle, also in place of others. What lies beyond the grid is left out.
@@ -48,13 +49,15 @@ public:
 private:
     template <class Act> void ForEach(u32 row, u32 column, u32 rowSpan, u32 columnSpan, Act act)
     {
-        const u64 rowEnd = std::min<u64>(u64{row} + rowSpan, m_Rows);
-        const u64 columnEnd = std::min<u64>(u64{column} + columnSpan, m_Columns);
-        for (u64 y = row; y < rowEnd; ++y) {
-            for (u64 x = column; x < columnEnd; ++x)
-                act(m_Slots[y * m_Columns + x]);
+        const u32 rowEnd = static_cast<u32>(std::min<u64>(u64{row} + rowSpan, m_Rows));
+        const u32 columnEnd = static_cast<u32>(std::min<u64>(u64{column} + columnSpan, m_Columns));
+        for (u32 y = row; y < rowEnd; ++y) {
+            for (u32 x = column; x < columnEnd; ++x)
+                act(m_Slots[SlotOf(y, x)]);
         }
     }
+
+    std::size_t SlotOf(u32 row, u32 column) const { return std::size_t{row} * m_Columns + column; }
 
     std::vector<Cell*> m_Slots;
     u32 m_Rows = 0;

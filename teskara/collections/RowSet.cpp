@@ -64,7 +64,7 @@ u32 RowSet::FirstAfter(u32 id) const
 {
     const u64 end = u64{m_Blocks.size()} * BitsPerBlock;
     for (u64 next = 1 + u64{id}; next < end;) {
-        const Block& block = m_Blocks[next / BitsPerBlock];
+        const Block& block = m_Blocks[static_cast<std::size_t>(next / BitsPerBlock)];
         const u64 rest = block.WordOf(static_cast<u32>(next)) >> next % BitsPerWord;
         if (rest != 0)
             return static_cast<u32>(next) + FindBit(rest, 0);

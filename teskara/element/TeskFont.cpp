@@ -162,7 +162,7 @@ u64 TeskFont::GetTextWidth(const char* text, u64 length)
         return MeasureFace(text);
 
     char part[Limits::TextBuffer4096 + 1];
-    CopyBounded(part, sizeof(part), std::string_view(text, strnlen(text, length)));
+    CopyBounded(part, sizeof(part), std::string_view(text, strnlen(text, static_cast<std::size_t>(length))));
     return MeasureFace(part);
 }
 

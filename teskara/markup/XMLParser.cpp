@@ -3,10 +3,12 @@
 #include "teskara/core/AsciiCase.h"
 #include "teskara/core/BoundedText.h"
 #include "teskara/core/Limits.h"
+#include "teskara/core/MemorySize.h"
 #include "teskara/core/Numbers.h"
 #include "teskara/core/Utf8.h"
 
 #include <algorithm>
+#include <limits>
 
 namespace {
 
@@ -78,7 +80,9 @@ bool XMLParser::MakeRoot()
     if (!m_Arena)
         return false;
 
-    m_Arena->MayTake = m_Stream.InputBytes * Limits::TreeBytesFactor + Limits::TreeBytes;
+    constexpr std::size_t all = std::numeric_limits<std::size_t>::max();
+    const u64 mayTake = m_Stream.InputBytes * Limits::TreeBytesFactor + Limits::TreeBytes;
+    m_Arena->MayTake = static_cast<std::size_t>(std::min<u64>(mayTake, all));
     XMLNode* const root = m_Arena->NewNode(m_Arena->Store(std::string_view("DOCUMENT ROOT")).Text, XMLRootNode, 0);
     m_Arena->First = root;
     m_Document.Root = root;
@@ -141,7 +145,7 @@ void XMLParser::ExpectLongText()
     constexpr std::size_t LongText = 64 * 1024;
     constexpr std::size_t ReplacementBytes = 3;
     if (m_Text.size() > LongText)
-        m_Text.reserve(m_Stream.InputBytes * (m_Stream.HoldsOnlyAscii() ? 1 : ReplacementBytes));
+        m_Text.reserve(MemorySize(m_Stream.InputBytes * (m_Stream.HoldsOnlyAscii() ? 1 : ReplacementBytes)));
 }
 
 bool XMLParser::FlushText()

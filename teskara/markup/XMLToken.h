@@ -2,6 +2,7 @@
 
 #include "teskara/core/Types.h"
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -49,7 +50,7 @@ public:
     virtual void Clear();
 
     void Set(const XMLSpan& span);
-    std::string_view View() const { return {Text, Length}; }
+    std::string_view View() const { return {Text, static_cast<std::size_t>(Length)}; }
     bool IsSpace() const { return Type == XMLLineSpaceToken || Type == XMLSpaceToken; }
 
     const char* Text = ""; // of this token, or for a single character a constant

@@ -1,5 +1,6 @@
 #include "teskara/text/CTextEditLine.h"
 
+#include "teskara/core/MemorySize.h"
 #include "teskara/text/LineNumbers.h"
 
 #include <algorithm>
@@ -30,7 +31,7 @@ void CTextEditLine::Share(std::string_view text)
 
 void CTextEditLine::Copy(std::string_view text)
 {
-    auto bytes = std::make_unique_for_overwrite<char[]>(text.size() + 1);
+    std::unique_ptr<char[]> bytes(new char[text.size() + 1]);
     text.copy(bytes.get(), text.size());
     bytes[text.size()] = 0;
     m_Own = std::move(bytes);
@@ -51,8 +52,8 @@ char* CTextEditLine::OwnBytes(u64 length)
 {
     if (length >= Capacity) {
         const u64 capacity = RoomFor(length);
-        auto bytes = std::make_unique_for_overwrite<char[]>(capacity);
-        std::memcpy(bytes.get(), Text, std::min(Length, length) + 1);
+        std::unique_ptr<char[]> bytes(new char[MemorySize(capacity)]);
+        std::memcpy(bytes.get(), Text, static_cast<std::size_t>(std::min(Length, length)) + 1);
         m_Own = std::move(bytes);
         Text = m_Own.get();
         Capacity = capacity;
@@ -66,7 +67,7 @@ try {
         return false;
 
     char* place = OwnBytes(Length + bytes.size()) + column;
-    std::memmove(place + bytes.size(), place, Length - column + 1);
+    std::memmove(place + bytes.size(), place, From(column).size() + 1);
     bytes.copy(place, bytes.size());
     Length += bytes.size();
     return true;
@@ -80,7 +81,7 @@ try {
         return true;
 
     char* place = OwnBytes(Length) + column;
-    std::memmove(place, place + 1, Length - column);
+    std::memmove(place, place + 1, From(column).size());
     --Length;
     return true;
 } catch (...) {

@@ -3,6 +3,7 @@
 #include "teskara/core/Export.h"
 #include "teskara/core/Types.h"
 
+#include <cstddef>
 #include <memory>
 #include <string_view>
 
@@ -20,10 +21,13 @@ public:
     // The place in the text, counted from 0.
     u64 GetNumber() const;
 
-    std::string_view Bytes() const { return {Text, Length}; }
+    std::string_view Bytes() const { return {Text, static_cast<std::size_t>(Length)}; }
 
     // What follows a column; empty at the end and beyond.
-    std::string_view From(u64 column) const { return Bytes().substr(column < Length ? column : Length); }
+    std::string_view From(u64 column) const
+    {
+        return Bytes().substr(static_cast<std::size_t>(column < Length ? column : Length));
+    }
 
     // Puts bytes of another line in front of a column. False, and nothing is changed: the line does not reach so far, or
     // there is no memory.

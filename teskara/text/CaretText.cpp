@@ -1,12 +1,13 @@
 #include "teskara/text/CaretText.h"
 
 #include "teskara/core/BoundedText.h"
+#include "teskara/core/MemorySize.h"
 
 #include <cstring>
 
 void CaretText::Reserve(u64 room)
 {
-    m_Bytes = std::make_unique<char[]>(room + 1);
+    m_Bytes = std::make_unique<char[]>(MemorySize(room + 1));
     m_Room = room;
     CaretPos = 0;
     TextLength = 0;
@@ -33,7 +34,7 @@ void CaretText::Take(std::string_view text, u64 most)
     if (!m_Bytes)
         return;
 
-    TextLength = CopyBounded(m_Bytes.get(), most + 1, text);
+    TextLength = CopyBounded(m_Bytes.get(), static_cast<std::size_t>(most) + 1, text);
     CaretPos = Caret();
 }
 
@@ -54,10 +55,10 @@ bool CaretText::Insert(char byte, u64 limit)
     if (CaretPos == TextLength) {
         ++TextLength;
     } else if (InsertMode) {
-        std::memmove(caret + 1, caret, TextLength - CaretPos);
+        std::memmove(caret + 1, caret, static_cast<std::size_t>(TextLength - CaretPos));
         TextLength += TextLength < limit;
     }
-    m_Bytes[TextLength] = 0;
+    m_Bytes.get()[TextLength] = 0;
     *caret = byte;
     ++CaretPos;
     return true;
@@ -88,7 +89,7 @@ bool CaretText::Delete()
 void CaretText::CloseGap()
 {
     char* const caret = m_Bytes.get() + CaretPos;
-    std::memmove(caret, caret + 1, TextLength - CaretPos);
+    std::memmove(caret, caret + 1, static_cast<std::size_t>(TextLength - CaretPos));
     --TextLength;
 }
 

@@ -63,7 +63,7 @@ std::string EditSelection::Text() const
     const CTextEditLine* last = forward ? SelectionEnd.Line : SelectionStart.Line;
     for (const CTextEditLine* line = forward ? SelectionStart.Line : SelectionEnd.Line; line; line = line->Next) {
         const Columns columns = *On(*line);
-        text += line->Bytes().substr(columns.Begin, columns.End - columns.Begin);
+        text += line->From(columns.Begin).substr(0, static_cast<std::size_t>(columns.End - columns.Begin));
         if (line == last)
             break;
         text += LineEnd;

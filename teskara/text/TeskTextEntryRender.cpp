@@ -60,7 +60,7 @@ void TeskTextEntry::DrawLine()
     }
 
     char mask[Limits::TextBuffer4096 + 1];
-    const std::size_t length = std::min<u64>(Text.TextLength, sizeof(mask) - 1);
+    const auto length = static_cast<std::size_t>(std::min<u64>(Text.TextLength, sizeof(mask) - 1));
     std::memset(mask, PasswordCharacter, length);
     mask[length] = 0;
     DrawScrolled(mask);

@@ -88,7 +88,7 @@ private:
     std::size_t GuessPlace(u32 id) const
     {
         const u64 distance = id - m_Entries.front().ID;
-        return distance * (Places() - 1) / (m_Entries.back().ID - m_Entries.front().ID);
+        return static_cast<std::size_t>(distance * (Places() - 1) / (m_Entries.back().ID - m_Entries.front().ID));
     }
 
     void CloseEmptyPlaces()
