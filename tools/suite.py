@@ -20,6 +20,7 @@ CORPUS_VARIATIONS = 10
 LONGEST_STAGE_SECONDS = 900
 SHARES = 2  # of a long stage, at the same time
 LEAST_CELLS = {"dev": 400000, "sanitize": 100000}  # of the matrix, which sanitizers see a selection of
+OTHER_COMPILERS = ("gcc32", "libcxx", "clang32")
 HARSH_LOCALE = "de_DE.UTF-8"
 
 SANITIZER_ENVIRONMENT = {
@@ -400,6 +401,14 @@ def windows(tally):
         subprocess.run(["wineserver", "--kill"], cwd=ROOT)
 
 
+def compilers(tally):
+    """What the other stages do not try: 32 bits, and clang with its own standard library."""
+    for preset in OTHER_COMPILERS:
+        if build(tally, preset):
+            unit_tests(tally, preset)
+            transcripts(tally, preset)
+
+
 def cover(tally):
     """What the unit tests, the transcripts and the stored inputs of the fuzz targets reach."""
     if not (build(tally, "dev") and build(tally, "coverage")):
@@ -456,6 +465,8 @@ def main():
     parser.add_argument("--packages", action="store_true",
                         help="Debian packages, installed and used on a bare system; as root")
     parser.add_argument("--windows", action="store_true", help="what is built for Windows, by Wine")
+    parser.add_argument("--compilers", action="store_true",
+                        help="for 32 bits by GCC and clang, and with clang's own standard library")
     parser.add_argument("--soak", type=int, metavar="MINUTES", help="a long run of the desktop, with a clock that is driven")
     options = parser.parse_args()
 
@@ -471,6 +482,8 @@ def main():
         packages(tally)
     elif options.windows:
         windows(tally)
+    elif options.compilers:
+        compilers(tally)
     elif options.bounds:
         if build(tally, "release"):
             bounds(tally, "release")
