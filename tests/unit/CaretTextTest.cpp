@@ -11,8 +11,8 @@ constexpr u64 Room = 5;
 // The bytes with the caret as a bar between them.
 std::string Shown(const CaretText& text)
 {
-    std::string shown(text.Bytes(), text.TextLength);
-    return shown.insert(text.Caret(), "|");
+    std::string shown(text.Bytes(), static_cast<std::size_t>(text.TextLength));
+    return shown.insert(static_cast<std::size_t>(text.Caret()), "|");
 }
 
 CaretText Line(std::string_view bytes, u64 caret, u64 room = Room)

@@ -23,7 +23,7 @@ protected:
     TeskText& Text() { return As<TeskText>("T"); }
 
     // Bytes of text that reached the host.
-    std::size_t SentBytes(u64 width) const { return width / 6; }
+    u64 SentBytes(u64 width) const { return width / 6; }
 };
 
 } // namespace

@@ -11,6 +11,7 @@ public:
     TrappingFloats()
     {
         std::fegetenv(&m_Former);
+        std::feclearexcept(Traps); // an x87 would trap what was found before
         feenableexcept(Traps);
     }
     ~TrappingFloats() { std::fesetenv(&m_Former); }

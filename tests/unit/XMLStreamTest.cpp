@@ -50,7 +50,7 @@ std::string Tokens(XMLStream& stream)
     std::string all;
     XMLToken token;
     for (token.Set(stream.Next()); token.Type != XMLNoToken; token.Set(stream.Next()))
-        all += std::to_string(token.Type) + ":" + std::string(token.Text, token.Length) + " ";
+        all += std::to_string(token.Type) + ":" + std::string(token.View()) + " ";
     return all;
 }
 
