@@ -53,14 +53,18 @@ def say(text):
 
 
 def run(command):
-    """(exit status, output) of a command in the root; a hang counts as a failure."""
+    """(exit status, output) of a command in the root; a hang counts as a failure. The output goes to a file: what a
+    command leaves running, as Wine does, may hold a pipe open for ever."""
     environment = {**os.environ, **SANITIZER_ENVIRONMENT}
-    try:
-        done = subprocess.run([str(word) for word in command], cwd=ROOT, env=environment, text=True, errors="replace",
-                              stdout=subprocess.PIPE, stderr=subprocess.STDOUT, timeout=LONGEST_STAGE_SECONDS)
-    except subprocess.TimeoutExpired as hung:
-        return 1, (hung.stdout or b"").decode(errors="replace") + f"\nstopped after {LONGEST_STAGE_SECONDS} s\n"
-    return done.returncode, done.stdout
+    with tempfile.TemporaryFile("w+", encoding="utf-8", errors="replace") as output:
+        try:
+            status = subprocess.run([str(word) for word in command], cwd=ROOT, env=environment, stdout=output,
+                                    stderr=subprocess.STDOUT, timeout=LONGEST_STAGE_SECONDS).returncode
+            note = ""
+        except subprocess.TimeoutExpired:
+            status, note = 1, f"\nstopped after {LONGEST_STAGE_SECONDS} s\n"
+        output.seek(0)
+        return status, output.read() + note
 
 
 def check(tally, name, command):
@@ -163,7 +167,7 @@ def run_tests(tally, tests, names):
     while names:
         # After a crash the tests that had not had their turn are run by themselves.
         with tempfile.NamedTemporaryFile("w", dir=ROOT / "build", suffix=".flags") as flags:
-            # Where the stack is small, a command has not much room for words.
+            # Where the stack is small, and on Windows, a command has not much room for words.
             flags.write(f"--gtest_filter={':'.join(names)}\n")
             flags.flush()
             status, output = run([*tests, f"--gtest_flagfile={Path(flags.name).relative_to(ROOT)}"])
