@@ -33,13 +33,18 @@ double SecondsFor(const std::string& text)
     return static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC;
 }
 
-// Sixteen times the input may take at most so many times as long as once, where that is long enough to be measured.
+// Sixteen times the input may take at most so many times as long as once, where that is long enough to be measured. On
+// Windows the clock also counts what other processes take, so that once in three times is enough.
 void ExpectLinear(const std::string& unit, const std::string& before = "<a>", const std::string& after = "</a>")
 {
     constexpr std::size_t Once = 256 * 1024;
-    const double once = SecondsFor(before + Repeated(unit, Once / unit.size()) + after);
-    const double often = SecondsFor(before + Repeated(unit, 16 * Once / unit.size()) + after);
-    EXPECT_LT(often, 40 * std::max(once, 0.005)) << unit.substr(0, 20);
+    bool isLinear = false;
+    for (int attempt = 0; attempt < 3 && !isLinear; ++attempt) {
+        const double once = SecondsFor(before + Repeated(unit, Once / unit.size()) + after);
+        const double often = SecondsFor(before + Repeated(unit, 16 * Once / unit.size()) + after);
+        isLinear = often < 40 * std::max(once, 0.005);
+    }
+    EXPECT_TRUE(isLinear) << unit.substr(0, 20);
 }
 
 } // namespace
