@@ -31,6 +31,7 @@ void TellCell()
     Tell("\nAgain: ");
     Tell(g_Again);
     Tell("\n");
+    *g_Cell = 0;
 }
 
 void EndBySignal(int signal)
@@ -57,14 +58,15 @@ void Install()
 
 } // namespace
 
-CellWatch::CellWatch(const std::string& cell, const char* filter)
+CellWatch::CellWatch(const std::string& cell, const std::string& filter)
 {
     Install();
     std::snprintf(g_Cell, sizeof(g_Cell), "%s", cell.c_str());
-    if (filter)
-        std::snprintf(g_Again, sizeof(g_Again), "TESKARA_CELL='%s' %s --gtest_filter='%s'", g_Cell, g_Program, filter);
-    else
+    if (filter.empty())
         std::snprintf(g_Again, sizeof(g_Again), "%s", g_Cell);
+    else
+        std::snprintf(
+            g_Again, sizeof(g_Again), "TESKARA_CELL='%s' %s --gtest_filter='%s'", g_Cell, g_Program, filter.c_str());
     alarm(LongestCellSeconds);
 }
 

@@ -7,8 +7,8 @@
 class CellWatch
 {
 public:
-    // filter: the test that runs the cell, and no other cell if TESKARA_CELL names this one; null if it cannot.
-    explicit CellWatch(const std::string& cell, const char* filter = nullptr);
+    // filter: the test that runs the cell, and no other cell if TESKARA_CELL names this one; empty if it cannot.
+    explicit CellWatch(const std::string& cell, const std::string& filter = {});
     ~CellWatch();
     CellWatch(const CellWatch&) = delete;
     CellWatch& operator=(const CellWatch&) = delete;

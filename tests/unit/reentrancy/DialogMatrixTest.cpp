@@ -13,6 +13,7 @@
 #include "tests/unit/reentrancy/CellWatch.h"
 #include "tests/unit/reentrancy/MatrixHost.h"
 #include "tests/unit/reentrancy/Scene.h"
+#include "tests/unit/reentrancy/Selection.h"
 
 #include <memory>
 #include <string>
@@ -291,11 +292,16 @@ protected:
         g_UIManager.MousePosition = {-1, -1};
     }
 
-    // True if the place was reached.
+    // Whether the place was reached, unless another cell is wanted.
     bool TryCell(const Way& way, const char* place, Bomb::Fuse fuse, const DialogAct& act)
     {
-        const CellWatch watch(std::string(way.Name) + ", " + place + ", " + act.Name);
-        const testing::ScopedTrace trace(__FILE__, __LINE__, CellWatch::Cell());
+        const std::string name =
+            std::string(way.Name) + ", " + place + ", " + act.Name + (fuse == Bomb::Fuse::Once ? "" : ", each time");
+        if (!Selection::Runs(name))
+            return true;
+
+        const CellWatch watch(name, "DialogMatrix.EveryActIsSurvivedAtEveryPlace");
+        const testing::ScopedTrace trace(__FILE__, __LINE__, CellWatch::Again());
         Begin();
         g_Bomb.Arm(place, fuse, [&act] {
             act.Run();
