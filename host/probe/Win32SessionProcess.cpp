@@ -15,6 +15,10 @@ namespace fs = std::filesystem;
 
 namespace {
 
+// A system that is much loaded may not have a process to give at once.
+constexpr int StartsAgain = 10;
+constexpr DWORD PauseBeforeStart = 500; // milliseconds
+
 std::wstring OwnProgram()
 {
     constexpr std::size_t LongestPath = 32768;
@@ -31,6 +35,19 @@ std::wstring CommandLineFor(const SessionWork& work)
     return L"\"" + OwnProgram() + L"\" probe --session \"" + folder.wstring() + L"\" \"" + path.wstring() + L"\"";
 }
 
+// Null: it could not be started.
+HANDLE StartProcess(std::wstring line)
+{
+    STARTUPINFOW startup = {};
+    startup.cb = sizeof(startup);
+    PROCESS_INFORMATION process = {};
+    if (!CreateProcessW(nullptr, line.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr, &startup, &process))
+        return nullptr;
+
+    CloseHandle(process.hThread);
+    return process.hProcess;
+}
+
 HANDLE AsHandle(std::intptr_t process)
 {
     return reinterpret_cast<HANDLE>(process);
@@ -43,15 +60,13 @@ std::intptr_t SessionProcess::Start(const SessionWork& work)
 {
     std::cout.flush();
     SetErrorMode(SEM_FAILCRITICALERRORS | SEM_NOGPFAULTERRORBOX);
-    std::wstring line = CommandLineFor(work);
-    STARTUPINFOW startup = {};
-    startup.cb = sizeof(startup);
-    PROCESS_INFORMATION process = {};
-    if (!CreateProcessW(nullptr, line.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr, &startup, &process))
-        return 0;
-
-    CloseHandle(process.hThread);
-    return reinterpret_cast<std::intptr_t>(process.hProcess);
+    const std::wstring line = CommandLineFor(work);
+    HANDLE process = StartProcess(line);
+    for (int again = 0; !process && again < StartsAgain; ++again) {
+        Sleep(PauseBeforeStart);
+        process = StartProcess(line);
+    }
+    return reinterpret_cast<std::intptr_t>(process);
 }
 
 bool SessionProcess::HasEnded()
