@@ -3,6 +3,7 @@
 #include "host/display/Characters.h"
 
 #include <algorithm>
+#include <cstring>
 #include <iterator>
 
 namespace host {
@@ -23,7 +24,7 @@ int AnsiCodePage::Encode(char32_t character, char* bytes)
 
     const std::u16string units = CharacterToWide(character);
     std::copy(units.begin(), units.end(), m_Borrowers);
-    std::copy_n(OpenBytes, units.size(), bytes);
+    std::memcpy(bytes, OpenBytes, units.size());
     return static_cast<int>(units.size());
 }
 

@@ -10,6 +10,7 @@
 #include <fstream>
 #include <iterator>
 #include <random>
+#include <string>
 #include <vector>
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
@@ -89,7 +90,9 @@ bool RunFile(const char* name, unsigned long variations)
 
     std::printf("%s\n", name);
     std::fflush(stdout);
-    const Bytes bytes{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+    const std::string text{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+    const auto* begin = reinterpret_cast<const unsigned char*>(text.data());
+    const Bytes bytes(begin, begin + text.size());
     Run(bytes);
     Variations varied(bytes);
     for (unsigned long count = 0; count < variations; ++count)
