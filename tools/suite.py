@@ -104,11 +104,28 @@ def check_the_house(tally):
 
 def lint(tally):
     say("lint: clang-tidy on what changed since it last passed")
-    passed, failed = tidy.run(ROOT, ROOT / "build/dev")
+    tidied(tally, tidy.QUICK)
+
+
+def tidied(tally, checks):
+    passed, failed = tidy.run(ROOT, ROOT / "build/dev", checks)
     tally.ok(passed)
     for name, output in failed:
         print(output.rstrip())
-        tally.fail(f"lint of {name}", f"clang-tidy -p build/dev {name}")
+        tally.fail(f"lint of {name}", f"clang-tidy {checks} -p build/dev {name}")
+
+
+def static_checks(tally):
+    lint(tally)
+    say("static: clang-tidy with the checks that take long")
+    tidied(tally, tidy.SLOW)
+    say("static: cppcheck")
+    cache = ROOT / "build/cppcheck"
+    cache.mkdir(parents=True, exist_ok=True)
+    check(tally, "cppcheck", ["cppcheck", "-j", SHARES, "--std=c++20", "--language=c++", "--quiet", "--error-exitcode=1",
+                              "--enable=warning,performance,portability", f"--cppcheck-build-dir={cache}",
+                              "--suppressions-list=.cppcheck", "--suppress=missingIncludeSystem", "-DTESKARA_EXPORT=",
+                              "-Dnoexcept=", "-I", ".", "teskara", "host", "program"])
 
 
 def in_shares(tally, work):
@@ -471,6 +488,7 @@ def main():
     parser.add_argument("--windows", action="store_true", help="what is built for Windows, by Wine")
     parser.add_argument("--compilers", action="store_true",
                         help="for 32 bits by GCC and clang, and with clang's own standard library")
+    parser.add_argument("--static", action="store_true", help="clang-tidy with all of its checks, and cppcheck")
     parser.add_argument("--soak", type=int, metavar="MINUTES", help="a long run of the desktop, with a clock that is driven")
     options = parser.parse_args()
 
@@ -491,6 +509,9 @@ def main():
     elif options.bounds:
         if build(tally, "release"):
             bounds(tally, "release")
+    elif options.static:
+        if build(tally, "dev"):
+            static_checks(tally)
     elif options.harsh:
         if build(tally, "dev"):
             unit_tests(tally, "dev", harshly("dev"))
