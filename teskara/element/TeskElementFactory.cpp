@@ -67,7 +67,7 @@ void TeskElementFactory::TearDown()
             if (TeskElement* element = g_UIManager.FindElementByID(id))
                 EndInstance(*element);
             if (TeskElement* left = g_UIManager.FindElementByID(id))
-                RemoveInstance(left);
+                TeskElementFactory::RemoveInstance(left); // it lives, so nobody else is told
         }
     }
     Unregister();
