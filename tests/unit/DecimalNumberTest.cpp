@@ -23,11 +23,11 @@ double Read(const std::string& text)
     return value;
 }
 
-// A finite number, as likely tiny as large.
+// A finite number, as likely tiny as large. To ask of a number whether it is one may trap.
 double AnyNumber(std::mt19937_64& random)
 {
-    const auto value = std::bit_cast<double>(static_cast<u64>(random()) >> 1);
-    return std::isfinite(value) ? value : 1;
+    const u64 bits = static_cast<u64>(random()) >> 1;
+    return bits < std::bit_cast<u64>(Infinity) ? std::bit_cast<double>(bits) : 1;
 }
 
 std::string PowerOfFive(int power)
