@@ -4,6 +4,7 @@
 import argparse
 import os
 import re
+import signal
 import subprocess
 import sys
 import tempfile
@@ -60,7 +61,7 @@ def run(command):
         try:
             status = subprocess.run([str(word) for word in command], cwd=ROOT, env=environment, stdout=output,
                                     stderr=subprocess.STDOUT, timeout=LONGEST_STAGE_SECONDS).returncode
-            note = ""
+            note = f"\nended by {signal.Signals(-status).name}\n" if status < 0 else ""
         except subprocess.TimeoutExpired:
             status, note = 1, f"\nstopped after {LONGEST_STAGE_SECONDS} s\n"
         output.seek(0)
