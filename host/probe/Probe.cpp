@@ -27,6 +27,36 @@ struct TranscriptFile {
     Transcript Content;
 };
 
+// A transcript on its way. It is read in its turn: the process that it runs in begins as a copy of this one, and takes
+// the longer the more this one holds.
+class RunningTranscript
+{
+public:
+    explicit RunningTranscript(const std::string& path) : RunningTranscript(path, Transcript::FromFile(path)) { }
+
+    const TranscriptFile& File() const { return m_File; }
+    bool HasEnded() { return m_Process.HasEnded(); }
+
+    TranscriptRun TakeResult()
+    {
+        TranscriptRun run = m_Process.TakeResult();
+        if (!m_WasRead)
+            run.Failure = "cannot be read any more";
+        return run;
+    }
+
+private:
+    RunningTranscript(const std::string& path, std::optional<Transcript> content)
+        : m_File{path, content.value_or(Transcript())}, m_WasRead(content.has_value()),
+          m_Process(m_File.Path, m_File.Content)
+    {
+    }
+
+    TranscriptFile m_File;
+    bool m_WasRead;
+    TranscriptProcess m_Process;
+};
+
 void AddFolder(const fs::path& folder, std::vector<std::string>& files)
 {
     std::error_code error;
@@ -37,7 +67,7 @@ void AddFolder(const fs::path& folder, std::vector<std::string>& files)
 }
 
 // Nothing, with a message, if a path does not exist or cannot be read.
-std::optional<std::vector<TranscriptFile>> ReadTranscripts(const std::vector<std::string>& paths)
+std::optional<std::vector<std::string>> FindTranscripts(const std::vector<std::string>& paths)
 {
     std::vector<std::string> files;
     for (const std::string& path : paths) {
@@ -55,34 +85,29 @@ std::optional<std::vector<TranscriptFile>> ReadTranscripts(const std::vector<std
         files.insert(files.end(), found.begin(), found.end());
     }
 
-    std::vector<TranscriptFile> transcripts;
     for (const std::string& file : files) {
-        auto content = Transcript::FromFile(file);
-        if (!content) {
+        if (!std::ifstream(file)) {
             std::cerr << "teskara probe: cannot read " << file << '\n';
             return std::nullopt;
         }
-        transcripts.push_back({file, std::move(*content)});
     }
-    return transcripts;
+    return files;
 }
 
 // Runs all transcripts, some at a time, and hands over each result in the order of the files.
-template <class Take> void RunAll(const std::vector<TranscriptFile>& files, Take take)
+template <class Take> void RunAll(const std::vector<std::string>& files, Take take)
 {
-    std::deque<std::unique_ptr<TranscriptProcess>> running;
+    std::deque<std::unique_ptr<RunningTranscript>> running;
     std::size_t started = 0;
-    std::size_t taken = 0;
-    while (taken < files.size()) {
+    while (started < files.size() || !running.empty()) {
         const auto alive =
-            std::count_if(running.begin(), running.end(), [](auto& process) { return !process->HasEnded(); });
+            std::count_if(running.begin(), running.end(), [](auto& transcript) { return !transcript->HasEnded(); });
         if (started < files.size() && static_cast<std::size_t>(alive) < Parallel) {
-            const TranscriptFile& file = files[started++];
-            running.push_back(std::make_unique<TranscriptProcess>(file.Path, file.Content));
+            running.push_back(std::make_unique<RunningTranscript>(files[started++]));
             continue;
         }
-        if (!running.empty() && running.front()->HasEnded()) {
-            take(files[taken++], running.front()->TakeResult());
+        if (running.front()->HasEnded()) {
+            take(running.front()->File(), running.front()->TakeResult());
             running.pop_front();
             continue;
         }
@@ -143,7 +168,7 @@ bool UpdateFile(const TranscriptFile& file, const TranscriptRun& run)
     return static_cast<bool>(out);
 }
 
-int CheckAll(const std::vector<TranscriptFile>& files)
+int CheckAll(const std::vector<std::string>& files)
 {
     std::size_t passed = 0;
     RunAll(files, [&](const TranscriptFile& file, const TranscriptRun& run) { passed += CheckRun(file, run); });
@@ -159,7 +184,7 @@ int RunProbe(ProbeMode mode, const std::vector<std::string>& paths)
     if (mode == ProbeMode::Print && paths == std::vector<std::string>{"-"})
         return AnswerStandardInput();
 
-    const auto files = ReadTranscripts(paths);
+    const auto files = FindTranscripts(paths);
     if (!files)
         return ExitUsage;
     if (mode == ProbeMode::Check)
