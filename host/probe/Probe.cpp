@@ -46,7 +46,7 @@ public:
     }
 
 private:
-    RunningTranscript(const std::string& path, std::optional<Transcript> content)
+    RunningTranscript(const std::string& path, const std::optional<Transcript>& content)
         : m_File{path, content.value_or(Transcript())}, m_WasRead(content.has_value()),
           m_Process(m_File.Path, m_File.Content)
     {
