@@ -8,7 +8,6 @@
 #include "teskara/core/Utf8.h"
 
 #include <algorithm>
-#include <limits>
 
 namespace {
 
@@ -80,9 +79,7 @@ bool XMLParser::MakeRoot()
     if (!m_Arena)
         return false;
 
-    constexpr std::size_t all = std::numeric_limits<std::size_t>::max();
-    const u64 mayTake = m_Stream.InputBytes * Limits::TreeBytesFactor + Limits::TreeBytes;
-    m_Arena->MayTake = static_cast<std::size_t>(std::min<u64>(mayTake, all));
+    m_Arena->MayTake = CappedMemorySize(m_Stream.InputBytes * Limits::TreeBytesFactor + Limits::TreeBytes);
     XMLNode* const root = m_Arena->NewNode(m_Arena->Store(std::string_view("DOCUMENT ROOT")).Text, XMLRootNode, 0);
     m_Arena->First = root;
     m_Document.Root = root;
