@@ -1,5 +1,6 @@
 #include "host/lint/NumberText.h"
 
+#include "host/SignedNumber.h"
 #include "teskara/core/AsciiCase.h"
 
 #include <algorithm>
@@ -102,7 +103,7 @@ std::string ShareText(std::string_view percent)
 {
     constexpr int digits = 6;
     double number = 0;
-    std::from_chars(percent.data(), percent.data() + percent.size(), number);
+    ReadSignedNumber(percent, number);
     char text[32];
     const char* end = std::to_chars(text, text + sizeof text, number / 100, std::chars_format::general, digits).ptr;
     return std::string(text, static_cast<std::size_t>(end - text));

@@ -1,6 +1,7 @@
 #include "host/script/ScriptEngine.h"
 
 #include "host/Console.h"
+#include "host/SignedNumber.h"
 #include "host/record/ToolkitCalls.h"
 #include "host/script/CommandLineWords.h"
 #include "host/script/MapFunctions.h"
@@ -8,7 +9,6 @@
 #include "teskara/script/MvTypeDefinition.h"
 
 #include <algorithm>
-#include <charconv>
 #include <cstring>
 
 namespace host {
@@ -126,8 +126,7 @@ int ScriptEngine::ExecuteWords(std::vector<std::string> words)
 bool ScriptEngine::Calculate(const char* text, double& result)
 {
     const std::string_view given = text;
-    const auto [stop, error] = std::from_chars(given.data(), given.data() + given.size(), result);
-    if (error == std::errc() && stop == given.data() + given.size())
+    if (const std::size_t read = ReadSignedNumber(given, result); read > 0 && read == given.size())
         return true;
     if (IsWord(given, "true") || IsWord(given, "false")) {
         result = IsWord(given, "true");

@@ -1,5 +1,6 @@
 #include "host/script/ScriptValues.h"
 
+#include "host/SignedNumber.h"
 #include "host/probe/HostTypes.h"
 #include "host/record/ToolkitCalls.h"
 #include "host/script/ScriptObjects.h"
@@ -43,16 +44,27 @@ lua_Number Widen(float value)
     NumberText text;
     const auto end = std::to_chars(text, text + sizeof text, value);
     lua_Number number = static_cast<lua_Number>(value);
-    std::from_chars(text, end.ptr, number);
+    ReadSignedNumber({text, static_cast<std::size_t>(end.ptr - text)}, number);
     return number;
 }
 
-template <class Number> Number ReadNumber(std::string_view text)
+std::string_view WithoutPlus(std::string_view text)
 {
-    Number number = 0;
-    if (text.starts_with('+'))
-        text.remove_prefix(1);
+    return text.substr(text.starts_with('+') ? 1 : 0);
+}
+
+lua_Integer ReadInteger(std::string_view text)
+{
+    text = WithoutPlus(text);
+    lua_Integer number = 0;
     std::from_chars(text.data(), text.data() + text.size(), number);
+    return number;
+}
+
+lua_Number ReadNumber(std::string_view text)
+{
+    lua_Number number = 0;
+    ReadSignedNumber(WithoutPlus(text), number);
     return number;
 }
 
@@ -152,7 +164,7 @@ void ScriptValues::PushVariable(lua_State* thread, std::string_view text)
         return;
     }
     lua_Number number = 0;
-    if (std::from_chars(text.data(), end, number).ptr == end && WriteNumber(again, number) == text) {
+    if (ReadSignedNumber(text, number) == text.size() && WriteNumber(again, number) == text) {
         lua_pushnumber(thread, number);
         return;
     }
@@ -166,11 +178,11 @@ void ScriptValues::PushArgument(lua_State* thread, std::string_view type, const 
 {
     const std::string_view given = text ? text : "";
     if (type == "int" || type == "uint" || type == "int64")
-        lua_pushinteger(thread, ReadNumber<lua_Integer>(given));
+        lua_pushinteger(thread, ReadInteger(given));
     else if (type == "float")
-        lua_pushnumber(thread, ReadNumber<lua_Number>(given));
+        lua_pushnumber(thread, ReadNumber(given));
     else if (type == "bool")
-        lua_pushboolean(thread, SameWord(given, "TRUE") || ReadNumber<lua_Number>(given) != 0);
+        lua_pushboolean(thread, SameWord(given, "TRUE") || ReadNumber(given) != 0);
     else
         PushText(thread, given);
 }
