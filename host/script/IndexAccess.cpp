@@ -1,6 +1,7 @@
 #include "host/script/IndexAccess.h"
 
 #include "host/script/IndexType.h"
+#include "host/script/ScriptError.h"
 #include "host/script/ScriptIndexes.h"
 #include "host/script/ScriptObjects.h"
 #include "host/script/ScriptValues.h"
@@ -21,9 +22,9 @@ const _MvTypeVar& LivingIndex(lua_State* thread, const IndexType& type)
 {
     const ScriptObject* object = ScriptObjects::At(thread, 1);
     if (!object || (object->Value.Type && object->Value.Type != &type))
-        luaL_argerror(thread, 1, "an index is needed");
-    else if (!object->Value.Type)
-        luaL_error(thread, "the object is gone");
+        RaiseArgumentError(thread, 1, "an index is needed");
+    if (!object->Value.Type)
+        RaiseError(thread, "the object is gone");
     return object->Value;
 }
 

@@ -1,6 +1,7 @@
 #include "host/script/ObjectAccess.h"
 
 #include "host/record/ToolkitCalls.h"
+#include "host/script/ScriptError.h"
 #include "host/script/ScriptObjects.h"
 #include "host/script/ScriptValues.h"
 #include "teskara/script/MvTypeDefinition.h"
@@ -59,9 +60,9 @@ ScriptObject& LivingObject(lua_State* thread, int index)
 {
     ScriptObject* object = ScriptObjects::At(thread, index);
     if (!object)
-        luaL_argerror(thread, index, "an object of the interface is needed");
-    else if (!object->Value.Type)
-        luaL_error(thread, object->IsElement ? "the element is gone" : "the object is gone");
+        RaiseArgumentError(thread, index, "an object of the interface is needed");
+    if (!object->Value.Type)
+        RaiseError(thread, object->IsElement ? "the element is gone" : "the object is gone");
     return *object;
 }
 

@@ -28,8 +28,8 @@ std::shared_ptr<MvIndex> ScriptIndexes::Make(const char* typeName)
         return nullptr;
 
     const auto end = [this](MvIndex* index) {
-        delete index;
         Forget(index);
+        delete index;
     };
     const std::shared_ptr<MvIndex> index(new MvIndex(type), end);
     m_Records[index.get()] = {index, IndexBytes, true};

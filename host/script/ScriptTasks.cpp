@@ -3,6 +3,7 @@
 #include "host/Console.h"
 #include "host/script/CommandTable.h"
 #include "host/script/PlainNumbers.h"
+#include "host/script/ScriptError.h"
 
 #include <algorithm>
 
@@ -113,8 +114,10 @@ void ScriptTasks::SayWhyFailed(const std::string& name)
 ScriptTask& ScriptTasks::WaitingTask(lua_State* thread, const char* function)
 {
     ScriptTask* task = LuaState::OwnerOf<ScriptTasks>(thread).m_Current;
-    if (!task || task->Thread() != thread || !lua_isyieldable(thread))
-        luaL_error(thread, "%s can only be called by a script that was started by the command run", function);
+    if (!task || task->Thread() != thread || !lua_isyieldable(thread)) {
+        RaiseError(thread,
+            lua_pushfstring(thread, "%s can only be called by a script that was started by the command run", function));
+    }
     return *task;
 }
 

@@ -46,7 +46,7 @@ void TeskElement::MoveZTop(bool includeParents)
     const ElementWatch self(*this);
     if (includeParents && Parent)
         Parent->MoveZTop(true);
-    if (!self.Exists() || !IsLinked())
+    if (!self.Exists() || !Parent || !IsLinked())
         return;
 
     TeskElement* below = Parent->LastChild;

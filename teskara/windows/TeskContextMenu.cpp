@@ -60,8 +60,10 @@ TeskContextMenu::~TeskContextMenu()
 {
     if (pHandler)
         TellMenuDestroyed(*std::exchange(pHandler, nullptr), this);
-    while (Nodes)
-        const std::unique_ptr<TeskContextMenuNode> node(Nodes);
+    for (TeskContextMenuNode* node = Nodes; node;) {
+        const std::unique_ptr<TeskContextMenuNode> ended(node);
+        node = node->Next;
+    }
 }
 
 bool TeskContextMenu::FromXML(XMLNode*, XMLNode*)

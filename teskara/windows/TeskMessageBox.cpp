@@ -30,9 +30,9 @@ const MarkupShape g_Shape({
 
 // A button of a type of box: how wide it is, how far from the first one it stands, and how wide all of them are.
 struct TeskMessageBox::Part {
-    eMessageBoxType Type;
     TeskButton* TeskMessageBox::*Button;
     const DialogButton& Look;
+    eMessageBoxType Type;
     u32 Width;
     u32 Offset;
     u32 RowWidth;
@@ -44,11 +44,11 @@ std::span<const TeskMessageBox::Part> TeskMessageBox::Parts()
     constexpr u32 next = NarrowButton + ButtonGap;
     // clang-format off
     static constexpr Part parts[] = {
-        {MessageBoxOK,       &TeskMessageBox::OKButton,     OKDialogButton,     NarrowButton, 0,    NarrowButton},
-        {MessageBoxOKCancel, &TeskMessageBox::OKButton,     OKDialogButton,     NarrowButton, 0,    next + WideButton},
-        {MessageBoxOKCancel, &TeskMessageBox::CancelButton, CancelDialogButton, WideButton,   next, next + WideButton},
-        {MessageBoxYesNo,    &TeskMessageBox::YesButton,    YesDialogButton,    NarrowButton, 0,    next + NarrowButton},
-        {MessageBoxYesNo,    &TeskMessageBox::NoButton,     NoDialogButton,     NarrowButton, next, next + NarrowButton},
+        {&TeskMessageBox::OKButton,     OKDialogButton,     MessageBoxOK,       NarrowButton, 0,    NarrowButton},
+        {&TeskMessageBox::OKButton,     OKDialogButton,     MessageBoxOKCancel, NarrowButton, 0,    next + WideButton},
+        {&TeskMessageBox::CancelButton, CancelDialogButton, MessageBoxOKCancel, WideButton,   next, next + WideButton},
+        {&TeskMessageBox::YesButton,    YesDialogButton,    MessageBoxYesNo,    NarrowButton, 0,    next + NarrowButton},
+        {&TeskMessageBox::NoButton,     NoDialogButton,     MessageBoxYesNo,    NarrowButton, next, next + NarrowButton},
     };
     // clang-format on
     return parts;
