@@ -172,7 +172,7 @@ std::vector<std::string> AllKinds()
     std::vector<std::string> kinds;
     for (const auto& [kind, factory] : g_UIManager.Factories)
         kinds.emplace_back(std::string_view(kind));
-    std::ranges::sort(kinds);
+    std::sort(kinds.begin(), kinds.end());
     return kinds;
 }
 
@@ -184,7 +184,8 @@ bool TakeSkin(const host::Picture& picture, host::InterfaceSession& session, con
 
     session.SkipFrame();
     GalleryTour tour(picture, session, folder);
-    return std::ranges::all_of(AllKinds(), [&](const std::string& kind) { return tour.Take(kind); });
+    const std::vector<std::string> kinds = AllKinds();
+    return std::all_of(kinds.begin(), kinds.end(), [&](const std::string& kind) { return tour.Take(kind); });
 }
 
 std::vector<std::string> AllSkins()
@@ -196,7 +197,7 @@ std::vector<std::string> AllSkins()
         if (exists(entry.path() / "skin.xml"))
             skins.push_back(entry.path().filename().string());
     }
-    std::ranges::sort(skins);
+    std::sort(skins.begin(), skins.end());
     return skins;
 }
 
@@ -212,7 +213,7 @@ bool TakePictures(const GalleryOptions& options)
     settings.Height = Height;
     host::InterfaceSession session(picture.Target(), settings);
     const std::vector<std::string> skins = options.Skins.empty() ? AllSkins() : options.Skins;
-    return std::ranges::all_of(skins, [&](const std::string& skin) {
+    return std::all_of(skins.begin(), skins.end(), [&](const std::string& skin) {
         const std::filesystem::path path = skin;
         const std::filesystem::path name = path.has_filename() ? path.filename() : path.parent_path().filename();
         return session.OpenSkin(skin) && TakeSkin(picture, session, std::filesystem::path(options.Folder) / name);

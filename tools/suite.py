@@ -21,7 +21,7 @@ CORPUS_VARIATIONS = 10
 LONGEST_STAGE_SECONDS = 900
 SHARES = 2  # of a long stage, at the same time
 LEAST_CELLS = {"dev": 400000, "sanitize": 100000}  # of the matrix, which sanitizers see a selection of
-OTHER_COMPILERS = ("gcc32", "libcxx", "clang32")
+OTHER_COMPILERS = ("gcc32", "clang32", "libcxx32", "libcxx")
 HARSH_LOCALE = "de_DE.UTF-8"
 
 SANITIZER_ENVIRONMENT = {
@@ -425,6 +425,8 @@ def windows(tally):
 
 def compilers(tally):
     """What the other stages do not try: 32 bits, and clang with its own standard library."""
+    if not check(tally, "libc++ for 32 bits", ["tools/unpack_libcxx32"]):
+        return
     for preset in OTHER_COMPILERS:
         if build(tally, preset):
             unit_tests(tally, preset)

@@ -112,7 +112,8 @@ void ComparePlaces(const tagRECT& before, const tagRECT& after, Sentences& sente
 
 std::string_view FindValue(const DrawMark& mark, std::string_view name)
 {
-    const auto found = std::ranges::find(mark.Values, name, &DrawValue::Name);
+    const auto found = std::find_if(
+        mark.Values.begin(), mark.Values.end(), [&](const DrawValue& value) { return value.Name == name; });
     return found == mark.Values.end() ? "nothing" : std::string_view(found->Value);
 }
 
@@ -166,7 +167,8 @@ std::vector<bool> FindOrdered(const std::vector<std::size_t>& places)
     std::vector<std::size_t> ends; // of the best sequence of each length: where it ends
     std::vector<std::size_t> links(places.size());
     for (std::size_t at = 0; at < places.size(); ++at) {
-        const auto found = std::ranges::lower_bound(ends, places[at], {}, [&](std::size_t end) { return places[end]; });
+        const auto found = std::lower_bound(ends.begin(), ends.end(), places[at],
+            [&](std::size_t end, std::size_t place) { return places[end] < place; });
         links[at] = found == ends.begin() ? at : *(found - 1);
         if (found == ends.end())
             ends.push_back(at);

@@ -20,8 +20,8 @@ constexpr TagName SkinTag = "Skin";
 
 bool IsSame(std::string_view left, std::string_view right)
 {
-    return std::ranges::equal(
-        left, right, {}, [](char each) { return FoldAscii(each); }, [](char each) { return FoldAscii(each); });
+    return std::equal(left.begin(), left.end(), right.begin(), right.end(),
+        [](char one, char other) { return FoldAscii(one) == FoldAscii(other); });
 }
 
 bool IsElement(const XMLNode& node)

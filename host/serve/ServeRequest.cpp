@@ -22,7 +22,7 @@ bool IsText(const Json& value)
 
 bool IsListOfTexts(const Json& value)
 {
-    return value.is_array() && std::ranges::all_of(value, IsText);
+    return value.is_array() && std::all_of(value.begin(), value.end(), IsText);
 }
 
 bool IsWithin(const Json& value, const ServeField& field)
@@ -73,7 +73,8 @@ std::string ValueText(const Json& value)
 ServeRequest::ServeRequest(const Json& object, std::span<const ServeField> fields) : m_Object(object)
 {
     for (const auto& [name, value] : object.items()) {
-        if (!IsOfEveryRequest(name) && std::ranges::find(fields, name, &ServeField::Name) == fields.end())
+        const auto isNamed = [&wanted = name](const ServeField& field) { return field.Name == wanted; };
+        if (!IsOfEveryRequest(name) && std::none_of(fields.begin(), fields.end(), isNamed))
             throw ServeFault("there is no field " + QuotedName(name) + " here; expected " + NamesOf(fields));
     }
     for (const ServeField& field : fields) {

@@ -87,7 +87,8 @@ const ServeCommand& FindCommand(const Json& request)
             + "; expected one of " + NamesOfCommands());
 
     const auto wanted = name->get<std::string>();
-    const auto found = std::ranges::find(Commands, wanted, &ServeCommand::Name);
+    const auto found = std::find_if(
+        std::begin(Commands), std::end(Commands), [&](const ServeCommand& command) { return command.Name == wanted; });
     if (found == std::end(Commands))
         throw ServeFault("there is no command '" + wanted.substr(0, 64) + "'; expected one of " + NamesOfCommands());
     return *found;

@@ -71,7 +71,7 @@ bool IsOfFew(std::string_view event)
 {
     constexpr std::string_view few[] = {
         "OnUnload", "OnLeftClick", "OnLeftDown", "OnMouseEnter", "OnRender", "OnChange"};
-    return std::ranges::find(few, event) != std::end(few);
+    return std::find(std::begin(few), std::end(few), event) != std::end(few);
 }
 
 // The templates of the elements of a scene, with a script for every event or for few, and that of what they are made of.

@@ -7,7 +7,7 @@ u32 IndexModel::Add(const Word& word)
     if (Locked || !word)
         return 0;
 
-    const auto free = std::ranges::find(Words, Word());
+    const auto free = std::find(Words.begin(), Words.end(), Word());
     const auto place = static_cast<std::size_t>(free - Words.begin());
     if (free == Words.end())
         Words.resize(Words.size() + 10);
@@ -80,13 +80,13 @@ bool IndexModel::Clear()
     if (Locked)
         return false;
 
-    std::ranges::fill(Words, Word());
+    std::fill(Words.begin(), Words.end(), Word());
     return true;
 }
 
 u32 IndexModel::Count() const
 {
-    return static_cast<u32>(Words.size()) - static_cast<u32>(std::ranges::count(Words, Word()));
+    return static_cast<u32>(Words.size()) - static_cast<u32>(std::count(Words.begin(), Words.end(), Word()));
 }
 
 bool WalkModel::Go(const IndexModel& index, bool upwards)

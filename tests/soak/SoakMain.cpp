@@ -2,6 +2,7 @@
 // does whatever comes to mind. The tree is checked every thousand frames; between two sessions everything goes, and the
 // host must have all that it lent back. Fails at the first fault, and at the end if memory has grown.
 
+#include "host/SignedNumber.h"
 #include "host/display/Picture.h"
 #include "host/probe/TreeChecker.h"
 #include "teskara/core/CUIManager.h"
@@ -155,7 +156,12 @@ private:
     std::string m_Fault;
 };
 
-template <class Number> bool Read(std::string_view text, Number& number)
+bool Read(std::string_view text, double& number)
+{
+    return !text.empty() && host::ReadSignedNumber(text, number) == text.size();
+}
+
+bool Read(std::string_view text, u64& number)
 {
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
     return error == std::errc() && end == text.data() + text.size();

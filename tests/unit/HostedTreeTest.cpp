@@ -116,7 +116,8 @@ TEST(HostedTreeDeathTest, AQueryThatIsNoExpressionIsToldOfOnce)
         EXPECT_EQ("none", Find(ui, "text = 'Engine'"));
         EXPECT_TRUE(ui.Lines().ends_with("OnLoad: query: <eof> expected near '='\n"));
         EXPECT_EQ("none", Find(ui, "text.nosuch.name"));
-        EXPECT_EQ(1, std::ranges::count(ui.Lines(), '\n'));
+        const std::string lines = ui.Lines();
+        EXPECT_EQ(1, std::count(lines.begin(), lines.end(), '\n'));
         EXPECT_EQ("none", Find(ui, "error('no')"));
         EXPECT_EQ("test.xml: frame \"Tester\" OnLoad: query: no\n", ui.Lines());
     });
