@@ -1,6 +1,9 @@
 #include "teskara/collections/RowOrder.h"
 
+#include "teskara/core/MoveEntry.h"
+
 #include <algorithm>
+#include <cstddef>
 #include <string_view>
 
 namespace {
@@ -110,7 +113,7 @@ void RowOrder::Remove(const ListBoxItem& item)
 {
     Settle();
     const u32 row = item.Order;
-    m_Rows.erase(m_Rows.begin() + row);
+    m_Rows.erase(m_Rows.begin() + static_cast<std::ptrdiff_t>(row));
     Number(row, Count());
     ++m_Changes;
 }
@@ -126,11 +129,7 @@ void RowOrder::Move(const ListBoxItem& item, u32 row)
 {
     Settle();
     const u32 old = item.Order;
-    const auto rows = m_Rows.begin();
-    if (old < row)
-        std::rotate(rows + old, rows + old + 1, rows + row + 1);
-    else
-        std::rotate(rows + row, rows + old, rows + old + 1);
+    MoveEntry(m_Rows, old, row);
     Number(std::min(old, row), std::max(old, row) + 1);
 }
 

@@ -1,5 +1,7 @@
 #include "teskara/collections/TabStrip.h"
 
+#include "teskara/core/MoveEntry.h"
+
 namespace {
 
 constexpr std::size_t Growth = 10;
@@ -22,7 +24,7 @@ try {
 void TabStrip::Remove(const CTeskTab& tab)
 {
     const u32 place = tab.Order;
-    std::move(m_Places.begin() + place + 1, m_Places.end(), m_Places.begin() + place);
+    MoveEntry(m_Places, place, Places() - 1);
     m_Places.back() = nullptr;
     Number(place, Places());
 }
@@ -33,11 +35,7 @@ void TabStrip::Move(const CTeskTab& tab, u32 place)
     if (place >= Places() || place == old)
         return;
 
-    const auto places = m_Places.begin();
-    if (old < place)
-        std::rotate(places + old, places + old + 1, places + place + 1);
-    else
-        std::rotate(places + place, places + old, places + old + 1);
+    MoveEntry(m_Places, old, place);
     Number(std::min(old, place), std::max(old, place) + 1);
 }
 
