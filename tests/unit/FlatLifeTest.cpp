@@ -5,6 +5,9 @@
 #include "tests/unit/ToolkitTest.h"
 
 #include <cstdio>
+#include <initializer_list>
+#include <set>
+#include <sstream>
 #include <string>
 
 // The whole life of the toolkit in a program in C: plain functions alone.
@@ -236,6 +239,117 @@ TEST(FlatLifeDeathTest, TimesOfInputCanBeSet)
         EXPECT_EQ(500u, g_UIManager.TooltipDelay);
         EXPECT_EQ(600u, g_UIManager.KeyRepeatDelay);
         EXPECT_EQ(70u, g_UIManager.KeyRepeatRate);
+    });
+}
+
+namespace {
+
+constexpr char Everything[] = R"(<Tesk>
+    <frame name="Main">
+        <X>10</X><Y>10</Y><Width>300</Width><Height>150</Height>
+        <OnLoad>loaded</OnLoad><OnKeyDown>key</OnKeyDown>
+        <Children>
+            <frame name="Picture">
+                <X>0</X><Y>0</Y><Width>30</Width><Height>30</Height><Texture Filename="it.png"/>
+            </frame>
+            <hudelement name="Words">
+                <X>40</X><Y>0</Y><Width>90</Width><Height>30</Height><Text>${It}</Text>
+            </hudelement>
+            <commandcheckbox name="Check">
+                <X>0</X><Y>40</Y><Width>50</Width><Height>10</Height><Data>${It}</Data>
+            </commandcheckbox>
+            <commandbutton name="Run">
+                <X>60</X><Y>40</Y><Width>50</Width><Height>10</Height><Command>it</Command>
+            </commandbutton>
+            <commandentry name="Line">
+                <X>0</X><Y>60</Y><Width>90</Width><Height>20</Height><Console>Log</Console><Font><Name>Sans</Name></Font>
+            </commandentry>
+        </Children>
+    </frame>
+    <window name="Kept">
+        <X>200</X><Y>20</Y><Width>60</Width><Height>40</Height><StorePosition/>
+        <OnUnload>gone</OnUnload>
+    </window>
+</Tesk>)";
+
+void Press(std::initializer_list<uint32_t> keys)
+{
+    for (const uint32_t key : keys)
+        teskara_key_down(key);
+    for (const uint32_t key : keys)
+        teskara_key_up(key);
+}
+
+void CopyTexture(const char* element, const char* reference)
+{
+    teskara_value value = {};
+    ASSERT_TRUE(teskara_element(teskara_find(element), &value));
+    ASSERT_EQ(TESKARA_DONE, teskara_get(&value, "Texture", 0, nullptr, &value));
+    EXPECT_EQ(TESKARA_NO_VALUE, teskara_call(&value, "Copy", 1, &reference));
+}
+
+void UseEverything()
+{
+    constexpr uint32_t Tab = 9;
+    constexpr uint32_t Enter = 13;
+    constexpr uint32_t Control = 17;
+    ASSERT_TRUE(teskara_load("it.xml", true, nullptr));
+    teskara_render();
+    Click(75, 55);
+    teskara_focus(teskara_find("Line@Main"));
+    Press({'A'});
+    Press({Tab});
+    Press({Enter});
+    Press({Control, 'V'});
+    teskara_focus(teskara_find("Main"));
+    Press({'A'});
+    CopyTexture("Picture@Main", "UIElement[Main].Texture");
+    teskara_run("MessageBox Are you there");
+    teskara_render();
+    teskara_reset();
+}
+
+// What it asks for at least.
+constexpr const char* Used[] = {"add_command", "add_object", "add_type", "ansi_to_wide", "calculate", "clipboard_text",
+    "close_clipboard", "compile_atom", "complete_command", "create_font", "current_script", "display_size", "draw_rect",
+    "draw_text", "draw_texture", "execute_atom", "execute_command", "file_exists", "find_resource", "find_type",
+    "invalidate", "is_key_toggled", "key_name", "load_place", "load_texture", "locate_file", "measure_text",
+    "open_clipboard", "output_console", "parse_data", "parse_value", "prepare_sequence", "print_line", "register",
+    "release_atom", "release_font", "release_sequence", "release_texture", "remove_command", "remove_object",
+    "remove_type", "save_place", "select_console", "sequence_text", "set_type_class", "tick_count", "to_ascii"};
+
+std::set<std::string> OperationsOf(const std::string& calls)
+{
+    std::set<std::string> operations;
+    std::istringstream lines(calls);
+    for (std::string line; std::getline(lines, line);)
+        operations.insert(line.substr(0, line.find(' ')));
+    return operations;
+}
+
+} // namespace
+
+TEST(FlatLifeDeathTest, AProgramWithEachOperationServesAnInterface)
+{
+    InFreshProcess([] {
+        FlatProgram program;
+        teskara_platform platform = program.Platform();
+        platform.open_file = [](void*, const char*) {
+            FILE* file = std::tmpfile();
+            std::fputs(Everything, file);
+            std::rewind(file);
+            return file;
+        };
+        program.Script = teskara_new_script("asking", nullptr, nullptr);
+        const teskara_host host = program.Host();
+        ASSERT_EQ(TESKARA_OK, teskara_set_platform(&platform));
+        ASSERT_EQ(TESKARA_OK, teskara_start(&host));
+        UseEverything();
+        teskara_stop();
+        teskara_free_script(program.Script);
+        const std::set<std::string> operations = OperationsOf(program.TakeCalls());
+        for (const char* operation : Used)
+            EXPECT_EQ(1u, operations.count(operation)) << operation;
     });
 }
 
