@@ -11,6 +11,7 @@
 #include <cstdio>
 #include <cstring>
 #include <ctime>
+#include <limits>
 #include <string>
 
 #include <malloc.h>
@@ -29,7 +30,8 @@ constexpr std::size_t HeapFactor = 24;
 constexpr double LeastSeconds = 0.005;
 
 struct Cost {
-    double Seconds = 0;
+    double FirstSeconds = 0; // with all the memory fresh from the system
+    double Seconds = 0; // with memory that the process has already
     std::size_t Heap = 0;
 };
 
@@ -50,24 +52,36 @@ void Spend(const HostileShape& shape, const std::string& text, const MarkupFile&
     }
 }
 
-// The time is the best of several, the heap is that of the first.
+double SecondsToSpend(const HostileShape& shape, const std::string& text, const MarkupFile& file)
+{
+    const double start = Now();
+    Spend(shape, text, file);
+    return Now() - start;
+}
+
 Cost CostOf(const HostileShape& shape, std::size_t bytes, int repetitions)
 {
     const std::string text = shape.Write(bytes);
     const MarkupFile file(shape.IsLoaded ? text : "");
     Cost cost;
-    for (int repetition = 0; repetition < repetitions; ++repetition) {
-        // What an earlier document has left would serve a small one and not a large one.
-        malloc_trim(0);
-        HeapPeak::Begin();
-        const double start = Now();
-        Spend(shape, text, file);
-        const double seconds = Now() - start;
-        if (repetition == 0)
-            cost = {seconds, HeapPeak::Bytes()};
-        cost.Seconds = std::min(cost.Seconds, seconds);
-    }
+    malloc_trim(0);
+    HeapPeak::Begin();
+    cost.FirstSeconds = SecondsToSpend(shape, text, file);
+    cost.Heap = HeapPeak::Bytes();
+
+    cost.Seconds = SecondsToSpend(shape, text, file);
+    for (int repetition = 1; repetition < repetitions; ++repetition)
+        cost.Seconds = std::min(cost.Seconds, SecondsToSpend(shape, text, file));
     return cost;
+}
+
+// What grows faster than its input does so in memory that is there already. How fast the system hands out more of it would
+// say nothing of the toolkit.
+void KeepFreedMemory()
+{
+    constexpr int all = std::numeric_limits<int>::max();
+    mallopt(M_TRIM_THRESHOLD, all);
+    mallopt(M_MMAP_MAX, 0);
 }
 
 bool KeepsHeap(const Cost& cost, const HostileShape& shape, std::size_t bytes)
@@ -79,13 +93,13 @@ bool KeepsHeap(const Cost& cost, const HostileShape& shape, std::size_t bytes)
 bool Measure(const HostileShape& shape, bool boundsTime)
 {
     const Cost small = CostOf(shape, Small, 5);
-    const Cost large = CostOf(shape, Large, 3);
+    const Cost large = CostOf(shape, Large, 2);
     const double ratio = large.Seconds / std::max(small.Seconds, LeastSeconds);
     const bool keeps = KeepsHeap(small, shape, Small) && KeepsHeap(large, shape, Large) && ratio <= MostRatio
-        && (!boundsTime || large.Seconds <= MostSeconds);
-    std::printf("{\"peer\":\"teskara\",\"workload\":\"hostile.%s\",\"ms1\":%.1f,\"ms16\":%.1f,\"ratio\":%.1f,"
-                "\"heap1\":%.1f,\"heap16\":%.1f,\"keeps\":%s,\"note\":\"%s\"}\n",
-        shape.Name, small.Seconds * 1e3, large.Seconds * 1e3, ratio,
+        && (!boundsTime || large.FirstSeconds <= MostSeconds);
+    std::printf("{\"peer\":\"teskara\",\"workload\":\"hostile.%s\",\"first16\":%.1f,\"ms1\":%.1f,\"ms16\":%.1f,"
+                "\"ratio\":%.1f,\"heap1\":%.1f,\"heap16\":%.1f,\"keeps\":%s,\"note\":\"%s\"}\n",
+        shape.Name, large.FirstSeconds * 1e3, small.Seconds * 1e3, large.Seconds * 1e3, ratio,
         static_cast<double>(small.Heap) / static_cast<double>(Small),
         static_cast<double>(large.Heap) / static_cast<double>(Large), keeps ? "true" : "false", shape.About);
     std::fflush(stdout);
@@ -98,6 +112,7 @@ bool Measure(const HostileShape& shape, bool boundsTime)
 int main(int argc, char** argv)
 {
     const bool boundsTime = argc < 2 || std::strcmp(argv[1], "--any-time") != 0;
+    KeepFreedMemory();
     StartedHost();
     bool keeps = true;
     for (const HostileShape& shape : HostileShapes()) {
