@@ -24,7 +24,6 @@ constexpr std::size_t Large = 16 * Mebibyte;
 
 constexpr double MostSeconds = 1;
 constexpr double MostRatio = 20;
-constexpr std::size_t HeapFactor = 24;
 
 // Shorter times are not told apart from the machine's own doings.
 constexpr double LeastSeconds = 0.005;
@@ -86,7 +85,7 @@ void KeepFreedMemory()
 
 bool KeepsHeap(const Cost& cost, const HostileShape& shape, std::size_t bytes)
 {
-    return cost.Heap <= bytes * HeapFactor + Mebibyte + shape.HeapBesides;
+    return cost.Heap <= bytes * shape.HeapFactor + Mebibyte + shape.HeapBesides;
 }
 
 // Prints what a shape costs. False if that is more than a bound allows.

@@ -122,6 +122,9 @@ std::string WideTemplates(std::size_t bytes)
     return all + "</Template></Tesk>";
 }
 
+// Two nodes for five bytes: no markup makes a larger tree.
+constexpr std::size_t DensestFactor = 31;
+
 constexpr HostileShape Shapes[] = {
     {"depths", "elements as deep as they may be, again and again", false, Depths},
     {"openings", "opening tags only", false, OpeningTags},
@@ -132,11 +135,11 @@ constexpr HostileShape Shapes[] = {
     {"sections", "literal sections of one letter", false, Sections},
     {"text", "one long text", false, LongText},
     {"children", "elements without anything in them", false, Children},
-    {"mixed", "elements and texts by turns", false, ChildrenAndTexts},
+    {"mixed", "elements and texts by turns", false, ChildrenAndTexts, DensestFactor},
     {"illformed", "bytes that are no UTF-8", false, IllFormedBytes},
     {"chains", "templates each built on the one before", true, TemplateChains},
-    {"doubling", "templates whose texts double from one to the next", true, DoublingTemplates,
-        Limits::TemplateFileBytes},
+    {"doubling", "templates whose texts double from one to the next", true, DoublingTemplates, 24,
+        Limits::TemplateFirstBasesBytes + Limits::TemplateOtherBasesBytes},
     {"wide", "a template of many children built on another", true, WideTemplates},
 };
 

@@ -10,7 +10,8 @@ struct HostileShape {
     const char* About;
     bool IsLoaded; // as a file of templates, whereas the others are only parsed
     std::string (*Write)(std::size_t bytes); // so many bytes, but for less than a unit of the shape
-    std::size_t HeapBesides = 0; // what it may take besides the bound of all, by a limit of its own
+    std::size_t HeapFactor = 24; // bytes of heap that each of its bytes may take
+    std::size_t HeapBesides = 0; // what it may take besides, by a limit of its own
 };
 
 std::span<const HostileShape> HostileShapes();

@@ -17,6 +17,7 @@ class TeskScreen;
 class TeskSkin;
 class XMLDocument;
 class XMLNode;
+struct TemplateRoom;
 
 // The version that a kind must be built for.
 constexpr u32 TeskaraVersion = 18;
@@ -230,13 +231,15 @@ public:
     std::unordered_map<u32, NameMap<utf8string>> ElementMetadata;
 
 private:
-    struct MouseButton;
+    struct FocusEntry;
     struct LoadRequest;
+    struct MouseButton;
 
     // Frame and focus
     void DestroyScreen();
     void CreateScreen();
     bool ExitFocus(TeskElement& element, TeskElement* next);
+    bool IsEnteringFocus(u32 id) const;
     void PutMouseOver(TeskElement& element);
     TeskElement* LastMouseOver() const;
     TeskElement* EnterMouseOver(const ElementWatch& watch);
@@ -261,7 +264,7 @@ private:
     bool LoadInterface(const LoadRequest& request);
     void LoadTopLevelElement(const LoadRequest& request, XMLNode* node);
     bool OpenInterface(const char* file, XMLDocument& document, XMLNode*& root);
-    XMLNode* MergeTemplate(const char* name, XMLNode* node, std::size_t& spareBytes);
+    XMLNode* MergeTemplate(const char* name, XMLNode* node, TemplateRoom& room);
     XMLNode* StoreTemplate(const char* name, StoredTemplate node);
     StoredTemplate TakeTemplate(const char* name);
     void RetireTemplate(StoredTemplate node);
@@ -272,6 +275,7 @@ private:
     u32 m_LoadDepth = 0;
     u32 m_MarkupReaders = 0;
     u32 m_ExitingFocusID = 0;
+    FocusEntry* m_FocusEntries = nullptr;
     bool m_TearingDown = false;
     bool m_InShutdown = false;
     bool m_InRender = false;

@@ -25,6 +25,26 @@ private:
 
 } // namespace
 
+// The elements that are just told that they get the keyboard, the innermost first.
+struct CUIManager::FocusEntry {
+    FocusEntry(FocusEntry*& entries, u32 id) : ID(id), Entries(entries), Outer(entries) { Entries = this; }
+    ~FocusEntry() { Entries = Outer; }
+    FocusEntry(const FocusEntry&) = delete;
+    FocusEntry& operator=(const FocusEntry&) = delete;
+
+    u32 ID;
+    FocusEntry*& Entries;
+    FocusEntry* Outer;
+};
+
+bool CUIManager::IsEnteringFocus(u32 id) const
+{
+    const FocusEntry* entry = m_FocusEntries;
+    while (entry && entry->ID != id)
+        entry = entry->Outer;
+    return entry != nullptr;
+}
+
 // Tells the focus element that it loses the keyboard, unless it is just being told. True: the focus has not been moved
 // by its script, so the caller goes on.
 bool CUIManager::ExitFocus(TeskElement& element, TeskElement* next)
@@ -66,7 +86,7 @@ try {
             FocusElementID = 0;
         return;
     }
-    if (element == present || element->IsGoing() || !element->IsReallyVisible())
+    if (element == present || IsEnteringFocus(element->ID) || element->IsGoing() || !element->IsReallyVisible())
         return;
 
     const ElementWatch watch(*element);
@@ -74,8 +94,10 @@ try {
         return;
 
     const u32 old = FocusElementID;
-    if (watch.Exists())
+    if (watch.Exists()) {
+        const FocusEntry entering(m_FocusEntries, element->ID);
         element->OnKeyboardEnter();
+    }
     if (FocusElementID == old || FocusElementID == 0) // else the handler moved the focus on
         FocusElementID = watch.Exists() ? watch.GetID() : 0;
 } catch (...) {

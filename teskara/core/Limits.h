@@ -20,10 +20,6 @@ inline constexpr u32 NodeAttributes = 10000;
 // Bytes that the entities of a document may expand to: so many for each byte of input, and so many besides.
 inline constexpr std::size_t EntityOutputFactor = 64;
 inline constexpr std::size_t EntityOutputBytes = 1024 * 1024;
-// Bytes that the tree of a document may take: so many for each byte of input, so many besides, and what its entities
-// expand to. Only elements and texts of a letter each, by turns, would take more.
-inline constexpr std::size_t TreeBytesFactor = 22;
-inline constexpr std::size_t TreeBytes = 512 * 1024;
 // UTF-16 units of the path of a file that is parsed.
 inline constexpr std::size_t MarkupPathUnits = 512;
 // Bytes of a parser's message, with its terminator.
@@ -40,9 +36,11 @@ inline constexpr u32 TemplateChainEntries = 4096;
 // Bytes of markup that the entries hold together, nodes and attributes included. The first entry counts in any case;
 // the chain stops before the one that would go beyond.
 inline constexpr std::size_t TemplateChainBytes = 16 * 1024 * 1024;
-// The same for the bases in all chains of one file. The chains stop before the ones that would go beyond.
-inline constexpr std::size_t TemplateFileBytes = 256 * 1024 * 1024;
-// What a base counts as, at least: it takes its time, too.
+// The same for the bases in all chains of one file: for those that come first in their chains, which have all that they
+// are built on themselves, and for those behind them. The chains stop before the ones that would go beyond.
+inline constexpr std::size_t TemplateFirstBasesBytes = 128 * 1024 * 1024;
+inline constexpr std::size_t TemplateOtherBasesBytes = 128 * 1024 * 1024;
+// What one of the others counts as, at least: it takes its time, too.
 inline constexpr std::size_t TemplateBaseBytes = 1024;
 
 // Calls inside calls.

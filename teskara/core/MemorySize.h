@@ -2,9 +2,7 @@
 
 #include "teskara/core/Types.h"
 
-#include <algorithm>
 #include <cstddef>
-#include <limits>
 #include <new>
 #include <utility>
 
@@ -14,10 +12,4 @@ inline std::size_t MemorySize(u64 bytes)
     if (!std::in_range<std::size_t>(bytes))
         throw std::bad_alloc();
     return static_cast<std::size_t>(bytes);
-}
-
-// A number of bytes as a limit: the most that the system counts, if it is more.
-inline std::size_t CappedMemorySize(u64 bytes)
-{
-    return static_cast<std::size_t>(std::min<u64>(bytes, std::numeric_limits<std::size_t>::max()));
 }

@@ -16,6 +16,7 @@
 #include "teskara/element/TeskScreen.h"
 #include "teskara/markup/MarkupNames.h"
 #include "teskara/markup/SkinScope.h"
+#include "teskara/markup/TemplateChain.h"
 #include "teskara/markup/TeskSkin.h"
 #include "teskara/markup/XMLDocument.h"
 #include "teskara/markup/XMLHelper.h"
@@ -199,12 +200,12 @@ try {
 
     const SkinScope skin(requestedSkin.Get());
     const MarkupReading reading;
-    std::size_t spareBytes = Limits::TemplateFileBytes;
+    TemplateRoom room = {Limits::TemplateFirstBasesBytes, Limits::TemplateOtherBasesBytes};
     for (XMLNode* node = root->FirstChild; node && parent.Exists(); node = node->Next) {
         if (!IsElement(node))
             continue;
         if (HasTag(node, TemplateTag))
-            MergeTemplate(NameOf(node), node, spareBytes);
+            MergeTemplate(NameOf(node), node, room);
         else if (HasTag(node, SkinTag))
             LoadSkin(node);
         else

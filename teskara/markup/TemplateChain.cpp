@@ -98,29 +98,29 @@ private:
 
 } // namespace
 
-TemplateChain::TemplateChain(XMLNode* node, std::size_t& spareBytes)
-    : m_SpareBytes(spareBytes), m_Room(Limits::TemplateChainBytes)
+TemplateChain::TemplateChain(XMLNode* node, TemplateRoom& room) : m_BaseRoom(room), m_Room(Limits::TemplateChainBytes)
 {
-    Enter(node);
+    m_Room -= std::min(m_Room, BytesOf(node, m_Room));
+    m_Entries.Push(node);
     m_Passes.push_back({node, nullptr, BaseNames(node)});
     Collect();
 }
 
 // Bases that hold too much together are left out from there on, so that circles, lists of lists and long lines of
-// templates come to an end before memory does. The template itself is always let in, and is no base.
-void TemplateChain::Enter(XMLNode* node)
+// templates come to an end before memory does.
+void TemplateChain::Enter(XMLNode* base)
 {
-    const bool isBase = !m_Entries.IsEmpty();
-    const std::size_t most = isBase ? std::min(m_Room, m_SpareBytes) : m_Room;
-    const std::size_t bytes = std::max(BytesOf(node, most), isBase ? Limits::TemplateBaseBytes : 0);
-    m_Full = isBase && bytes > most;
+    const bool isFirst = m_Entries.Count() == 1;
+    std::size_t& baseRoom = isFirst ? m_BaseRoom.FirstBases : m_BaseRoom.OtherBases;
+    const std::size_t most = std::min(m_Room, baseRoom);
+    const std::size_t bytes = std::max(BytesOf(base, most), isFirst ? 0 : Limits::TemplateBaseBytes);
+    m_Full = bytes > most;
     if (m_Full)
         return;
 
-    m_Room -= std::min(m_Room, bytes);
-    if (isBase)
-        m_SpareBytes -= bytes;
-    m_Entries.Push(node);
+    m_Room -= bytes;
+    baseRoom -= bytes;
+    m_Entries.Push(base);
 }
 
 // A name without a comma leads to the next node, until a node names the one just found. With commas only the names

@@ -7,13 +7,19 @@
 
 class XMLNode;
 
+// Bytes that bases may still hold together: the first ones of their chains, and the others.
+struct TemplateRoom {
+    std::size_t FirstBases;
+    std::size_t OtherBases;
+};
+
 // Merges a template with those that its Template attribute names, and with theirs. Templates are found through the skin
 // in force.
 class TemplateChain
 {
 public:
-    // spareBytes: what the bases may hold together. What they do hold is taken off, so that chains can share it.
-    TemplateChain(XMLNode* node, std::size_t& spareBytes);
+    // room: what the bases hold is taken off, so that chains can share it.
+    TemplateChain(XMLNode* node, TemplateRoom& room);
 
     // The merged template as a tree of its own, which the caller deletes. Null if memory ran out. Asked for once.
     XMLNode* Merge();
@@ -27,12 +33,12 @@ private:
     };
 
     void Collect();
-    void Enter(XMLNode* node);
+    void Enter(XMLNode* base);
     XMLNode* NextListed(Pass& pass);
 
     LockedList<XMLNode> m_Entries; // the most basic one last
     std::vector<Pass> m_Passes; // lists within lists
-    std::size_t& m_SpareBytes;
+    TemplateRoom& m_BaseRoom;
     std::size_t m_Room; // bytes that this chain may still hold
     bool m_Full = false;
 };

@@ -34,13 +34,13 @@ void DeleteTemplate::operator()(XMLNode* node) const
 
 XMLNode* CUIManager::AddTemplate(const char* name, XMLNode* node)
 {
-    std::size_t spareBytes = Limits::TemplateChainBytes;
-    return MergeTemplate(name, node, spareBytes);
+    TemplateRoom room = {Limits::TemplateChainBytes, Limits::TemplateChainBytes};
+    return MergeTemplate(name, node, room);
 }
 
 // The old one is out of the store before the bases are looked up, and lives until the copy is made, since node may be
-// part of it. spareBytes: see TemplateChain.
-XMLNode* CUIManager::MergeTemplate(const char* name, XMLNode* node, std::size_t& spareBytes)
+// part of it. room: see TemplateChain.
+XMLNode* CUIManager::MergeTemplate(const char* name, XMLNode* node, TemplateRoom& room)
 try {
     if (IsEmpty(name) || !IsTemplate(node) || Host::IsAnswering())
         return nullptr;
@@ -48,7 +48,7 @@ try {
     const utf8string copiedName = name;
     StoredTemplate old = TakeTemplate(name);
     const bool inherits = *XMLHelper::GetStringAttribute(node, TemplateAttribute, "") != 0;
-    StoredTemplate merged(inherits ? TemplateChain(node, spareBytes).Merge() : node->Clone(nullptr));
+    StoredTemplate merged(inherits ? TemplateChain(node, room).Merge() : node->Clone(nullptr));
     RetireTemplate(std::move(old));
     return StoreTemplate(copiedName.c_str(), std::move(merged));
 } catch (...) {

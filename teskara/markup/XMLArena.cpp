@@ -14,12 +14,9 @@ XMLArena::Block* XMLArena::AllocateBlock(std::size_t bytes)
 
 XMLArena::Block* XMLArena::TakeBlock(std::size_t bytes)
 {
-    Block* const block = bytes <= MayTake ? AllocateBlock(bytes) : nullptr;
-    if (!block)
-        return nullptr;
-
-    MayTake -= bytes;
-    block->Owner = this;
+    Block* const block = AllocateBlock(bytes);
+    if (block)
+        block->Owner = this;
     return block;
 }
 

@@ -9,7 +9,6 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
-#include <limits>
 #include <new>
 #include <string_view>
 
@@ -64,9 +63,6 @@ public:
 
     // The same for units below 128. Behind them there must be 7 more that can be read.
     XMLText StoreAscii(std::u16string_view units);
-
-    // So many bytes more may be taken from the system; beyond them it is as if memory ran out.
-    std::size_t MayTake = std::numeric_limits<std::size_t>::max();
 
     // The node that the arena was made for. Deleting it frees the arena.
     const XMLNode* First = nullptr;

@@ -8,7 +8,6 @@
 #include "teskara/markup/XMLParser.h"
 
 #include <algorithm>
-#include <limits>
 #include <new>
 #include <utility>
 
@@ -118,8 +117,6 @@ bool XMLDocument::ParseStream(std::unique_ptr<XMLStream> stream)
     }
     if (!parsed)
         FailedAt = Stream->Position();
-    if (Root)
-        XMLArena::Of(*Root).MayTake = std::numeric_limits<std::size_t>::max(); // the input bounds the parse only
     Stream.reset();
     return parsed;
 }

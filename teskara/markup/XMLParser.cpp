@@ -79,7 +79,6 @@ bool XMLParser::MakeRoot()
     if (!m_Arena)
         return false;
 
-    m_Arena->MayTake = CappedMemorySize(m_Stream.InputBytes * Limits::TreeBytesFactor + Limits::TreeBytes);
     XMLNode* const root = m_Arena->NewNode(m_Arena->Store(std::string_view("DOCUMENT ROOT")).Text, XMLRootNode, 0);
     m_Arena->First = root;
     m_Document.Root = root;
@@ -318,7 +317,6 @@ XMLParser::Reference XMLParser::AppendReference(std::string& to)
     m_ReferenceBytes += text.size();
     if (m_ReferenceBytes > m_Stream.InputBytes * Limits::EntityOutputFactor + Limits::EntityOutputBytes)
         return Reference::TooMuch;
-    m_Arena->MayTake += text.size();
     to += text;
 
     token = m_Stream.Next();
