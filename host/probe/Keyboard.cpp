@@ -61,10 +61,8 @@ std::string TranslateLetter(u32 code, bool shift, bool control, bool capsLock)
     return {static_cast<char>(upper ? code : code - 'A' + 'a')};
 }
 
-std::string TranslatePad(u32 code, bool numLock)
+std::string TranslatePad(u32 code)
 {
-    if (!numLock)
-        return {};
     if (code == PadPoint)
         return ".";
     return {static_cast<char>('0' + (code - FirstPadDigit))};
@@ -99,7 +97,7 @@ std::string TranslateKey(u32 code, const u8* keyState)
     if (control)
         return {};
     if ((code >= FirstPadDigit && code <= LastPadDigit) || code == PadPoint)
-        return TranslatePad(code, keyState[KeyNumLock] & 1);
+        return TranslatePad(code);
 
     for (const KeyRow& key : Keys) {
         if (key.Code == code)
