@@ -79,6 +79,16 @@ const MarkupShape g_TabShape({.Name = TabPart.Form, .Use = MarkupUse::Value, .Pa
 
 } // namespace
 
+// What is the host's is given back in the order that hosts expect.
+TeskTabControl::~TeskTabControl()
+{
+    Font.reset();
+    TabTexture.reset();
+    TabSelectedTexture.reset();
+    FrameTexture.reset();
+    OnSelect.reset();
+}
+
 bool TeskTabControl::FromXML(XMLNode* node, XMLNode* templateNode)
 {
     templateNode = TemplateFor(node, templateNode, Kind);
@@ -140,8 +150,11 @@ TeskButton* TeskTabControl::MakeButton(const ScrollButtonMarkup& markup, const M
 
     _CreateButton record;
     record.Visible = false;
-    button->Create(record, nullptr);
     const ElementWatch watch(*button);
+    button->Create(record, nullptr);
+    if (!watch.Exists())
+        return nullptr;
+
     for (const Face& face : faces) {
         if (button->*face.Texture)
             continue;

@@ -81,6 +81,7 @@ void TeskButton::Create(const _CreateButton& record, XMLNode* templateNode)
     Font.reset(TeskFont::New(this, record.Font, templateNode));
     if (record.TexturesFromTemplate)
         ReadMarkup<ButtonTextures>(*this, source);
+    MoveZTop(true);
 }
 
 void TeskButton::Render()

@@ -103,7 +103,11 @@ void FillButton(TeskButton& button, const ButtonTags& tags, XMLNode* templateNod
         return;
     }
 
+    const ElementWatch watch(button);
     button.Create({}, nullptr);
+    if (!watch.Exists())
+        return;
+
     button.Texture.reset(button.TextureFromXML(nullptr, tags.Texture.Text, templateNode));
     button.TextureHover.reset(button.TextureFromXML(nullptr, tags.TextureHover.Text, templateNode));
     button.TexturePressed.reset(button.TextureFromXML(nullptr, tags.TexturePressed.Text, templateNode));
@@ -112,8 +116,8 @@ void FillButton(TeskButton& button, const ButtonTags& tags, XMLNode* templateNod
 // A slider with markup of its own stands upright, whatever way the bar lies; some interfaces are drawn that way.
 void FillSlider(TeskSlider& slider, const _CreateScrollBar& record, XMLNode* templateNode)
 {
+    const ElementWatch watch(slider);
     if (XMLNode* node = XMLHelper::GetChild(templateNode, SliderPart.Name)) {
-        const ElementWatch watch(slider);
         slider.FromXML(node, nullptr);
         if (!watch.Exists())
             return;
@@ -126,6 +130,9 @@ void FillSlider(TeskSlider& slider, const _CreateScrollBar& record, XMLNode* tem
     values.Range = record.Range;
     values.Vertical = record.Vertical;
     slider.Create(values, nullptr);
+    if (!watch.Exists())
+        return;
+
     slider.Texture.reset(slider.TextureFromXML(nullptr, SliderTexturePart.Name.Text, templateNode));
     slider.HandleTexture.reset(slider.TextureFromXML(nullptr, SliderHandlePart.Name.Text, templateNode));
 }
@@ -169,9 +176,13 @@ void TeskScrollBar::Create(const _CreateScrollBar& record, XMLNode* templateNode
         return CreatePart(
             *this, field, ButtonKind, tags.Name, [&](TeskButton& button) { FillButton(button, tags, templateNode); });
     };
-    if (createButton(&TeskScrollBar::UpButton, UpTags) && createButton(&TeskScrollBar::DownButton, DownTags))
-        CreatePart(*this, &TeskScrollBar::Slider, SliderKind, "slider",
+    const auto createSlider = [&] {
+        return CreatePart(*this, &TeskScrollBar::Slider, SliderKind, "slider",
             [&](TeskSlider& slider) { FillSlider(slider, record, templateNode); });
+    };
+    if (createButton(&TeskScrollBar::UpButton, UpTags) && createButton(&TeskScrollBar::DownButton, DownTags)
+        && createSlider())
+        MoveZTop(true);
 }
 
 // What the parts have to say ends here, but for the value.

@@ -89,6 +89,7 @@ void TeskSlider::Create(const _CreateSlider& record, XMLNode* templateNode)
     Vertical = record.Vertical;
     if (record.TexturesFromTemplate)
         ReadMarkup<SliderTextures>(*this, {nullptr, templateNode});
+    MoveZTop(true);
 }
 
 // Across the track the handle is as wide as the slider, also a horizontal one until it is drawn.

@@ -90,6 +90,17 @@ constexpr KeyAction KeyActions[] = {
 
 } // namespace
 
+// What is the host's is given back in the order that hosts expect.
+TeskTextEntry::~TeskTextEntry()
+{
+    Font.reset();
+    Texture.reset();
+    TextureFocused.reset();
+    TextureCaret.reset();
+    TextureCaretOverwrite.reset();
+    OnChange.reset();
+}
+
 bool TeskTextEntry::FromXML(XMLNode* node, XMLNode* templateNode)
 {
     templateNode = TemplateFor(node, templateNode, Kind);
@@ -126,6 +137,7 @@ try {
     Text.Set(TextOrEmpty(record.Text), MaxLength);
     Text.MoveToEnd();
     ReadMarkup<EntryFont>(*this, source);
+    MoveZTop(true);
 } catch (...) {
     return;
 }
