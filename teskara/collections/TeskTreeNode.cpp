@@ -157,9 +157,8 @@ bool TeskTreeNode::UnsetMetadata(const char* key)
         return false;
 
     const auto found = Metadata->find(std::string_view(TextOrEmpty(key)));
-    if (found == Metadata->end())
-        return false;
-    Metadata->erase(found);
+    if (found != Metadata->end())
+        Metadata->erase(found);
     return true;
 }
 

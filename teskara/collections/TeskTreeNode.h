@@ -52,7 +52,7 @@ public:
     // Null: there is none.
     const char* GetMetadata(const char* key) const;
     void SetMetadata(const char* key, const char* value) noexcept;
-    bool UnsetMetadata(const char* key);
+    bool UnsetMetadata(const char* key); // false: none was ever set
 
     // What scripts hold: the handle and, in the second word, the id of the tree.
     MvValue GetMvValue() const;

@@ -102,7 +102,7 @@ constexpr ScriptMethod<TeskTreeNode> Methods[] = {
     {0,  "AddChild",            Add<&TeskTreeNode::AddChild>, 1},
     {1,  "InsertSiblingBefore", Add<&TeskTreeNode::InsertSiblingBefore>, 1},
     {2,  "InsertSiblingAfter",  Add<&TeskTreeNode::InsertSiblingAfter>, 1},
-    {3,  "SetText",             SetText},
+    {3,  "SetText",             SetText, 1},
     {4,  "SetTextColor",        SetTextColor, 1},
     {5,  "Select",              Script::Call<&TeskTreeNode::Select>},
     {6,  "Remove",              Remove},

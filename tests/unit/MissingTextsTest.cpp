@@ -149,9 +149,10 @@ TEST_F(MissingTextsTest, CollectionsCompareThemAsEmptyOnes)
     node->InsertSiblingBefore(Nothing, 0);
     node->InsertSiblingAfter(Nothing, 0);
     node->SetText(Nothing);
+    EXPECT_FALSE(node->UnsetMetadata("nobody"));
     node->SetMetadata(Nothing, Nothing);
     node->SetMetadata("a", Nothing);
-    EXPECT_FALSE(node->UnsetMetadata("nobody"));
+    EXPECT_TRUE(node->UnsetMetadata("nobody"));
     node->UnsetMetadata(Nothing);
     node->GetMetadata(Nothing);
     EXPECT_EQ(nullptr, tree.FindNodeByQuery(Nothing));

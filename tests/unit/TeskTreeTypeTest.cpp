@@ -165,7 +165,9 @@ TEST(TeskTreeTypeDeathTest, MethodsChangeANode)
         const ScriptObject object = ScriptObject(tree).Follow("Root").Follow("Children");
         EXPECT_TRUE(object.Do("SetText", {"other"}));
         EXPECT_EQ("other", node.Text);
-        EXPECT_TRUE(object.Do("SetText"));
+        EXPECT_FALSE(object.Do("SetText"));
+        EXPECT_EQ("other", node.Text);
+        EXPECT_TRUE(object.Do("SetText", {""}));
         EXPECT_EQ("", node.Text);
         EXPECT_TRUE(object.Do("SetTextColor", {"ff"}));
         EXPECT_EQ(255u, node.TextColor);
