@@ -45,6 +45,15 @@ const MarkupShape g_Shape({
 
 // Rows that stand in the list's own markup are selected before the list is known here, and do not show; the box's own
 // rows do.
+// What is the host's is given back in the order that hosts expect.
+TeskComboBox::~TeskComboBox()
+{
+    Font.reset();
+    Texture.reset();
+    ButtonTexture.reset();
+    OnSelect.reset();
+}
+
 bool TeskComboBox::FromXML(XMLNode* node, XMLNode* templateNode)
 {
     templateNode = TemplateFor(node, templateNode, Kind);

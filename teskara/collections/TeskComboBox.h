@@ -16,6 +16,7 @@ class TESKARA_EXPORT TeskComboBox : public TeskElement
 {
 public:
     using TeskElement::TeskElement;
+    ~TeskComboBox() override;
 
     bool FromXML(XMLNode* node, XMLNode* templateNode) override;
     bool IsTypeOf(const char* word) override;

@@ -70,6 +70,15 @@ const MarkupShape g_ItemShape(
 } // namespace
 
 // Rows that are read are sorted once, at the end.
+// What is the host's is given back in the order that hosts expect.
+TeskListBox::~TeskListBox()
+{
+    Font.reset();
+    Texture.reset();
+    OnSelect.reset();
+    OnDeSelect.reset();
+}
+
 bool TeskListBox::FromXML(XMLNode* node, XMLNode* templateNode)
 {
     templateNode = TemplateFor(node, templateNode, Kind);

@@ -20,6 +20,7 @@ class TESKARA_EXPORT TeskListBox : public TeskElement
 {
 public:
     using TeskElement::TeskElement;
+    ~TeskListBox() override;
 
     bool FromXML(XMLNode* node, XMLNode* templateNode) override;
     bool IsTypeOf(const char* word) override;

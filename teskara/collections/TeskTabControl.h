@@ -24,6 +24,7 @@ class TESKARA_EXPORT TeskTabControl : public TeskElement
 {
 public:
     using TeskElement::TeskElement;
+    ~TeskTabControl() override;
 
     bool FromXML(XMLNode* node, XMLNode* templateNode) override;
     bool IsTypeOf(const char* word) override;

@@ -27,6 +27,7 @@ class TESKARA_EXPORT TeskTextEntry : public TeskElement
 {
 public:
     using TeskElement::TeskElement;
+    ~TeskTextEntry() override;
 
     bool FromXML(XMLNode* node, XMLNode* templateNode) override;
     bool IsTypeOf(const char* word) override;

@@ -56,10 +56,15 @@ void TellMenuDestroyed(CContextMenuHandler& handler, const TeskContextMenu* menu
 
 } // namespace
 
+// What is the host's is given back in the order that hosts expect.
 TeskContextMenu::~TeskContextMenu()
 {
     if (pHandler)
         TellMenuDestroyed(*std::exchange(pHandler, nullptr), this);
+    Font.reset();
+    for (auto* texture : {&ItemTexture, &SubmenuTexture, &SeparatorTexture, &HighlightItemTexture, &ItemCheckTexture,
+             &HighlightSubmenuTexture})
+        texture->reset();
     for (TeskContextMenuNode* node = Nodes; node;) {
         const std::unique_ptr<TeskContextMenuNode> ended(node);
         node = node->Next;
