@@ -16,6 +16,9 @@
 
 namespace {
 
+// A merged tree of so much is copied into a block of its size; beside a larger one the room that it leaves is little.
+constexpr std::size_t SmallBytes = 16 * 1024;
+
 const char* BaseNames(XMLNode* node)
 {
     return XMLHelper::GetStringAttribute(node, TemplateAttribute, "");
@@ -166,5 +169,5 @@ XMLNode* TemplateChain::Merge()
     MergedTemplate merged(root.get());
     while (!m_Entries.IsEmpty())
         merged.Merge(m_Entries.Pop());
-    return root.release();
+    return HeldBytes() <= SmallBytes ? root->Clone(nullptr) : root.release();
 }

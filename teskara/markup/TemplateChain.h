@@ -1,5 +1,6 @@
 #pragma once
 
+#include "teskara/core/Limits.h"
 #include "teskara/core/LockedList.h"
 
 #include <cstddef>
@@ -32,6 +33,7 @@ private:
         const char* NextName; // what is left of its list of names
     };
 
+    std::size_t HeldBytes() const { return Limits::TemplateChainBytes - m_Room; }
     void Collect();
     void Enter(XMLNode* base);
     XMLNode* NextListed(Pass& pass);
